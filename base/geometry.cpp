@@ -1,0 +1,45 @@
+#include "base/geometry.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace varnel {
+namespace {
+
+int ScaledRatio(int value, int numerator, int denominator) {
+  const long long product = static_cast<long long>(value) * numerator;
+  const long long half = denominator / 2;
+  const long long result = (product >= 0 ? product + half : product - half) / denominator;
+  return static_cast<int>(std::clamp<long long>(result, std::numeric_limits<int>::min(),
+                                                std::numeric_limits<int>::max()));
+}
+
+int SaneDpi(int dpi) {
+  return dpi < 24 || dpi > 9600 ? kDefaultDpi : dpi;
+}
+
+}  // namespace
+
+Rect RectAt(Point corner, Size size) {
+  return {corner.x, corner.y, corner.x + size.width, corner.y + size.height};
+}
+
+Rect Inset(const Rect& rect, int amount) {
+  const int across = std::min(amount, rect.width() / 2);
+  const int down = std::min(amount, rect.height() / 2);
+  return {rect.left + across, rect.top + down, rect.right - across, rect.bottom - down};
+}
+
+int PixelsFromTwips(int twips, int dpi) {
+  return ScaledRatio(twips, SaneDpi(dpi), kTwipsPerInch);
+}
+
+int TwipsFromPixels(int pixels, int dpi) {
+  return ScaledRatio(pixels, kTwipsPerInch, SaneDpi(dpi));
+}
+
+int Scaled(int pixels_at_96, int dpi) {
+  return ScaledRatio(pixels_at_96, SaneDpi(dpi), kDefaultDpi);
+}
+
+}  // namespace varnel

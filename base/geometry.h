@@ -1,0 +1,50 @@
+// Plane geometry in whole units. Lengths are twips (1440 to the inch) in the model and pixels at
+// the edge; a function says which it takes, or works for both.
+#pragma once
+
+namespace varnel {
+
+struct Point {
+  int x = 0;
+  int y = 0;
+  bool operator==(const Point&) const = default;
+};
+
+struct Size {
+  int width = 0;
+  int height = 0;
+  bool operator==(const Size&) const = default;
+};
+
+// Right and bottom lie just outside, as the platform has it.
+struct Rect {
+  int left = 0;
+  int top = 0;
+  int right = 0;
+  int bottom = 0;
+  int width() const { return right - left; }
+  int height() const { return bottom - top; }
+  bool empty() const { return right <= left || bottom <= top; }
+  bool Contains(Point point) const {
+    return point.x >= left && point.x < right && point.y >= top && point.y < bottom;
+  }
+  bool operator==(const Rect&) const = default;
+};
+
+Rect RectAt(Point corner, Size size);
+
+// `rect` made smaller by `amount` on every side; never turned inside out.
+Rect Inset(const Rect& rect, int amount);
+
+inline constexpr int kTwipsPerInch = 1440;
+inline constexpr int kDefaultDpi = 96;
+
+// Twips to pixels and back at `dpi` dots to the inch, rounded to nearest, halves away from zero.
+// A `dpi` outside 24 to 9600 counts as 96; results are clamped to the range of int.
+int PixelsFromTwips(int twips, int dpi);
+int TwipsFromPixels(int pixels, int dpi);
+
+// A length written for 96 dpi in pixels of a screen with `dpi`, rounded the same way.
+int Scaled(int pixels_at_96, int dpi);
+
+}  // namespace varnel

@@ -1,0 +1,15 @@
+# Which source belongs where is told by its name: sources in win/ and those that end in _form,
+# _dialog or _win know the platform; every other source of a room is an engine, built natively too.
+set(rooms base core theme widgets)
+set(VARNEL_ENGINES)
+file(GLOB VARNEL_PLATFORM CONFIGURE_DEPENDS win/*.cpp)
+foreach(room IN LISTS rooms)
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${room}/*.cpp)
+  foreach(source IN LISTS sources)
+    if(source MATCHES "_(form|dialog|win)\\.cpp$")
+      list(APPEND VARNEL_PLATFORM ${source})
+    else()
+      list(APPEND VARNEL_ENGINES ${source})
+    endif()
+  endforeach()
+endforeach()
