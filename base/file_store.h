@@ -26,6 +26,9 @@ class FileStore {
   // Creates the folder and every missing one above it. True when it exists afterwards.
   virtual bool CreateFolder(const std::wstring& path) = 0;
   virtual bool MoveFolder(const std::wstring& old_path, const std::wstring& new_path) = 0;
+  // Gives the file another name or place; a file that already stands there is never replaced. True
+  // when it was moved.
+  virtual bool Rename(const std::wstring& old_path, const std::wstring& new_path) = 0;
   // False when the file is still there.
   virtual bool Remove(const std::wstring& path) = 0;
   // Names (without folder) of the files in `folder` whose name ends in `ending` (any case), sorted

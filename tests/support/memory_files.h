@@ -5,6 +5,7 @@
 #include <map>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/file_store.h"
@@ -37,6 +38,14 @@ class MemoryFiles : public FileStore {
   bool MoveFolder(const std::wstring& old_path, const std::wstring& new_path) override {
     if (fail_writes || folders.erase(Bare(old_path)) == 0) return false;
     folders.insert(Bare(new_path));
+    return true;
+  }
+  bool Rename(const std::wstring& old_path, const std::wstring& new_path) override {
+    if (fail_writes || files.contains(new_path)) return false;
+    auto node = files.extract(old_path);
+    if (node.empty()) return false;
+    node.key() = new_path;
+    files.insert(std::move(node));
     return true;
   }
   bool Remove(const std::wstring& path) override {
