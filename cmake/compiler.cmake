@@ -15,7 +15,7 @@ if(WIN32)
   target_compile_options(varnel_options INTERFACE -ffunction-sections -fdata-sections
                          -fstack-protector-strong -D_GLIBCXX_ASSERTIONS
                          $<$<NOT:$<CONFIG:Debug>>:-D_FORTIFY_SOURCE=2>)
-  target_link_options(varnel_options INTERFACE -static -Wl,--gc-sections
+  target_link_options(varnel_options INTERFACE -static -fstack-protector-strong -Wl,--gc-sections
                       -Wl,--no-insert-timestamp -Wl,--dynamicbase -Wl,--high-entropy-va
                       -Wl,--nxcompat)
 endif()

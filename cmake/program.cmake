@@ -1,0 +1,25 @@
+# The program itself: what knows the platform, the resources, and the executable.
+include(cmake/assets.cmake)
+
+# Only libraries that every Windows has loaded already or maps from its own list of known ones; the
+# rest is loaded when it is first used, so that no file beside the program can stand in for it.
+add_library(varnel_platform STATIC ${VARNEL_PLATFORM})
+target_link_libraries(varnel_platform PUBLIC varnel_engines gdi32 advapi32 shell32 ole32 oleaut32
+                      comdlg32 comctl32 uuid)
+
+# The resources are a target of their own so that tests can link the same dialogs.
+enable_language(RC)
+string(REPLACE "." "," VARNEL_VERSION_NUMBERS "${PROJECT_VERSION}.0.0.0")
+string(REGEX MATCH "^[0-9]+,[0-9]+,[0-9]+,[0-9]+" VARNEL_VERSION_NUMBERS ${VARNEL_VERSION_NUMBERS})
+configure_file(resources/version.rc.in ${VARNEL_ASSETS_DIR}/version.rc @ONLY)
+add_library(varnel_resources OBJECT resources/app.rc)
+target_include_directories(varnel_resources PRIVATE ${PROJECT_SOURCE_DIR} ${VARNEL_ASSETS_DIR})
+file(GLOB resource_parts CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/*.rc
+     ${PROJECT_SOURCE_DIR}/resources/*.h ${PROJECT_SOURCE_DIR}/resources/*.manifest)
+set_source_files_properties(
+  resources/app.rc PROPERTIES OBJECT_DEPENDS
+  "${VARNEL_ASSETS};${VARNEL_ASSETS_DIR}/version.rc;${resource_parts}")
+
+add_executable(WidgetVarnel WIN32 main.cpp catalogue_win.cpp)
+target_link_libraries(WidgetVarnel PRIVATE varnel_platform varnel_resources)
+target_link_options(WidgetVarnel PRIVATE -municode $<$<NOT:$<CONFIG:Debug>>:-s>)
