@@ -1,0 +1,29 @@
+// Whether text can be read on its ground, and the halo that it is given when it cannot.
+// Luminance and contrast follow the Web Content Accessibility Guidelines 2.
+#pragma once
+
+#include <optional>
+
+#include "theme/colour.h"
+
+namespace varnel {
+
+// 0 (black) to 1 (white). `colour` must be translated.
+double RelativeLuminance(Colour colour);
+
+// 1 (alike) to 21 (black and white). The order of the two does not matter; both must be translated.
+double ContrastRatio(Colour a, Colour b);
+
+// The contrast that text of that height on a screen of `dpi` needs: 3 for large text, which is 18
+// points and more, or 14 when bold; 4.5 for any other.
+double NeededContrast(int height_px, int dpi, bool bold);
+
+// The colour of the halo that makes `text` readable on `ground`: nothing when their contrast is
+// `needed` already, else `theme` made darker or lighter, away from the text as long as that can do,
+// until the contrast of text and halo is `needed`. Every colour has that contrast with black or
+// with white when `needed` is at most 4.58; where neither can do, the better of the two is the
+// result.
+std::optional<Colour> HaloColour(Colour text, Colour ground, Colour theme, double needed,
+                                 const SystemColours& system);
+
+}  // namespace varnel
