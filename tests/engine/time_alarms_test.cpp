@@ -1,0 +1,160 @@
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <map>
+#include <random>
+#include <vector>
+
+#include "tests/support/memory_settings.h"
+#include "widgets/time/alarms.h"
+
+namespace varnel {
+namespace {
+
+using Rings = std::vector<AlarmRing>;
+
+LocalTime At(int hour, int minute, int second) {
+  return {2010, 9, 7, 2, hour, minute, second};
+}
+
+TEST(Alarms, TimeTextsInCommonSpellings) {
+  const struct {
+    const wchar_t* text;
+    const wchar_t* time;
+  } cases[] = {{L"07:30:00", L"07:30:00"}, {L"7:30", L"07:30:00"},       {L" 7:5:9 ", L"07:05:09"},
+               {L"7:30 pm", L"19:30:00"},  {L"7:30PM", L"19:30:00"},     {L"12:00 am", L"00:00:00"},
+               {L"12:15 pm", L"12:15:00"}, {L"12:00:01 a", L"00:00:01"}, {L"7 pm", L"19:00:00"},
+               {L"19:30 pm", L"19:30:00"}, {L"7.30", L"07:30:00"},       {L"23:59:59", L"23:59:59"},
+               {L"0:0", L"00:00:00"},      {L"8.05.10 p", L"20:05:10"}};
+  for (const auto& test : cases) EXPECT_EQ(AlarmTimeText(test.text), test.time) << test.text;
+}
+
+TEST(Alarms, OtherTextsStayAsTheyAre) {
+  for (const wchar_t* text : {L"",
+                              L"7",
+                              L"24:00:00",
+                              L"12:60",
+                              L"12:00:60",
+                              L"13:00 am",
+                              L"007:30",
+                              L"7:300",
+                              L"7:30:",
+                              L":30",
+                              L"7::30",
+                              L"7:30:00:00",
+                              L"7:30.00",
+                              L"-7:30",
+                              L"7:30 xm",
+                              L"7:30 pm pm",
+                              L"noon",
+                              L"2010-09-07 07:30:00",
+                              L"\uFF17:\uFF13\uFF10",
+                              L"7:30\t"}) {
+    EXPECT_EQ(AlarmTimeText(text), text);
+  }
+  EXPECT_EQ(AlarmTimeText(L"  "), L"");
+  EXPECT_EQ(AlarmTimeText(std::wstring(5000, L'1')).size(), 5000u);
+}
+
+TEST(Alarms, RingsInItsSecondInOrder) {
+  AlarmPresets presets;
+  presets[0] = {true, L"7:30", L"tea"};
+  presets[1] = {false, L"07:30:00", L"switched off"};
+  presets[3] = {true, L"at 07:30:00 or 08:00:00", L"holds two times"};
+  presets[5] = {true, L"7:30 am", L""};
+  const Rings expected{
+      {L"tea", L"07:30:00"}, {L"holds two times", L"at 07:30:00 or 08:00:00"}, {L"", L"07:30:00"}};
+  EXPECT_EQ(AlarmRefresh(presets, At(7, 30, 0)), expected);
+  EXPECT_EQ(AlarmRefresh(presets, At(7, 30, 0)), expected);  // on every tick of the second
+  EXPECT_EQ(AlarmRefresh(presets, At(8, 0, 0)), Rings{expected[1]});
+  EXPECT_EQ(AlarmRefresh(presets, At(7, 30, 1)), Rings{});
+  EXPECT_EQ(AlarmRefresh(presets, At(19, 30, 0)), Rings{});
+}
+
+TEST(Alarms, EmptyTimeEndsTheCheck) {
+  AlarmPresets presets;
+  for (AlarmPreset& preset : presets) preset = {true, L"06:00:00", L"up"};
+  presets[2].time.clear();
+  EXPECT_EQ(AlarmRefresh(presets, At(6, 0, 0)).size(), 2u);
+  presets[2].use = false;  // an unused preset hides nothing
+  EXPECT_EQ(AlarmRefresh(presets, At(6, 0, 0)).size(), 5u);
+  presets[0].time = L"never";
+  EXPECT_EQ(AlarmRefresh(presets, At(6, 0, 0)).size(), 4u);
+}
+
+TEST(Alarms, PresetsSurviveTheStore) {
+  test::MemorySettings store;
+  EXPECT_EQ(LoadAlarmPresets(store), AlarmPresets{});
+  AlarmPresets saved;
+  saved[0] = {true, L"7:30 pm", L"tea"};
+  saved[2] = {true, L"", L"a time saved empty is not midnight"};
+  saved[5] = {false, L"23:45:00", L""};
+  SaveAlarmPresets(store, saved);
+  EXPECT_EQ(LoadAlarmPresets(store), saved);
+  EXPECT_EQ(store.Read(L"frmCLKas\\Details", L"Alarm Preset Use_0", L""), L"1");
+  EXPECT_EQ(store.Read(L"frmCLKas\\Details", L"Alarm Preset Time_5", L""), L"23:45:00");
+  EXPECT_EQ(store.Read(L"frmCLKas\\Details", L"Alarm Preset Message_0", L""), L"tea");
+  store.Write(L"frmCLKas\\Details", L"Alarm Preset Use_0", L"True");
+  EXPECT_FALSE(LoadAlarmPresets(store)[0].use);
+}
+
+TEST(Alarms, SoundSurvivesTheStore) {
+  test::MemorySettings store;
+  EXPECT_EQ(LoadAlarmSound(store), AlarmSound{});
+  for (const AlarmSound& saved : {AlarmSound{false, L"C:\\a b.mp3"}, AlarmSound{true, L"x.wav"}}) {
+    SaveAlarmSound(store, saved);
+    EXPECT_EQ(LoadAlarmSound(store), saved);
+  }
+  store.Write(alarm_settings::kType, L"neither");
+  EXPECT_TRUE(LoadAlarmSound(store).bell);
+}
+
+TEST(Alarms, QuarterHoursAreTheWholeDay) {
+  const std::vector<std::wstring> times = QuarterHours();
+  ASSERT_EQ(times.size(), 96u);
+  EXPECT_EQ(times[0], L"00:00:00");
+  EXPECT_EQ(times[39], L"09:45:00");
+  EXPECT_EQ(times[95], L"23:45:00");
+  for (const std::wstring& time : times) EXPECT_EQ(AlarmTimeText(time), time);
+}
+
+// Every minute of two years, a leap day among them, at a second drawn for it, and all seconds of
+// the minutes with an alarm and of those beside them: each alarm in its second and at no other
+// time.
+TEST(Alarms, TwoYearsOfMinutes) {
+  using namespace std::chrono;
+  AlarmPresets presets;
+  presets[0] = {true, L"0:00", L"day"};
+  presets[2] = {true, L"12:59:59 pm", L"noon"};
+  presets[4] = {false, L"noon", L"never"};
+  presets[5] = {true, L"23:59:59", L"night"};
+  const std::map<int, std::wstring> expected{{0, L"day"}, {46799, L"noon"}, {86399, L"night"}};
+  std::map<std::wstring, int> rung;
+  std::minstd_rand random(20231);
+  const sys_days first = 2023y / March / 1;
+  const int days = (sys_days(2025y / March / 1) - first).count();
+  for (int day = 0; day < days; ++day) {
+    const year_month_day date = first + std::chrono::days(day);
+    LocalTime time{int(date.year()), int(unsigned(date.month())), int(unsigned(date.day())),
+                   int(weekday(first + std::chrono::days(day)).c_encoding())};
+    for (int minute = 0; minute < 24 * 60; ++minute) {
+      time.hour = minute / 60;
+      time.minute = minute % 60;
+      const bool whole = minute == 0 || minute == 779 || minute == 780 || minute == 1439;
+      const int drawn = static_cast<int>(random() % 60);
+      for (time.second = whole ? 0 : drawn; time.second <= (whole ? 59 : drawn); ++time.second) {
+        const Rings rings = AlarmRefresh(presets, time);
+        const auto due = expected.find(minute * 60 + time.second);
+        ASSERT_EQ(rings.size(), due == expected.end() ? 0u : 1u) << day << ' ' << minute;
+        if (rings.empty()) continue;
+        ASSERT_EQ(rings[0].message, due->second);
+        ++rung[rings[0].message];
+      }
+    }
+  }
+  EXPECT_EQ(days, 731);
+  EXPECT_EQ(rung, (std::map<std::wstring, int>{{L"day", 731}, {L"noon", 731}, {L"night", 731}}));
+}
+
+}  // namespace
+}  // namespace varnel

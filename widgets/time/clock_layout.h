@@ -1,0 +1,39 @@
+// Where the clock's labels stand: the time as large as the panel allows, seconds over AM or PM at
+// its right, the date centred below, the whole group in the middle.
+#pragma once
+
+#include "base/geometry.h"
+#include "base/text_measure.h"
+#include "widgets/time/clock_engine.h"
+
+namespace varnel {
+
+// A label's box in pixels of the panel and the em of its font; not shown when the height is 0.
+struct LabelPlace {
+  Rect box;
+  int font_height = 0;
+  bool shown() const { return font_height > 0; }
+  bool operator==(const LabelPlace&) const = default;
+};
+
+struct ClockLayout {
+  LabelPlace time;     // lblPANECLOCK
+  LabelPlace seconds;  // lblSECS
+  LabelPlace marker;   // lblSTYLE
+  LabelPlace date;     // lbl7Sept2010
+  bool operator==(const ClockLayout&) const = default;
+};
+
+// The display with "0" for every digit. Displays of one shape have one layout, so a form lays out
+// again only when the shape, the panel, its DPI or its font has changed.
+ClockDisplay ShapeOf(const ClockDisplay& display);
+
+// Lays out what `display` shows on a panel of `panel` pixels at `dpi`. Nothing comes nearer to an
+// edge than 8 px (at 96 dpi), overlaps or is cut off: what would be too small to read is left out,
+// the date first, then the seconds, then AM or PM; a panel too small for any text shows none. Boxes
+// hold their text with any digits, and the font does not change between hours of one and two
+// digits.
+ClockLayout LayOutClock(Size panel, int dpi, const ClockDisplay& display,
+                        const TextMeasure& measure);
+
+}  // namespace varnel
