@@ -1,0 +1,135 @@
+// The part of the application that answers the shared menu commands.
+#include "core/application_win.h"
+#include "core/core_settings.h"
+#include "core/screens_win.h"
+#include "core/shared_menu.h"
+#include "core/sizes.h"
+#include "win/shell.h"
+
+namespace varnel {
+namespace {
+
+constexpr wchar_t kHelpText[] =
+    L"Drag a widget by its title bar; it comes to rest on a grid. Drag its lower right corner to "
+    L"size it.\n\n"
+    L"Tab and Shift+Tab\tgo from button to button\n"
+    L"Space or Enter\tpresses a button\n"
+    L"Ctrl+arrow\tmoves the widget by one step of the grid\n"
+    L"Ctrl+Shift+arrow\tsizes it by one step\n"
+    L"Shift+F10\topens the widget's menu\n"
+    L"Alt+F4\tcloses the widget\n\n"
+    L"Double-click the icon beside the system's clock to bring back the manager.";
+
+}  // namespace
+
+void Application::OpenDialog(std::wstring_view form) {
+  auto found = dialogs_.find(form);
+  if (found == dialogs_.end()) {
+    for (const CatalogueDialog& entry : catalogue_.dialogs) {
+      if (entry.form_name != form) continue;
+      found = dialogs_.emplace(std::wstring(form), entry.create(services_)).first;
+      break;
+    }
+  }
+  if (found == dialogs_.end()) return;
+  const HourglassPointer pointer;
+  if (!found->second->Open(menus_.handle())) {
+    ui_.log.Write(L"no window for " + std::wstring(form));
+    return;
+  }
+  // Among windows that are kept on top a dialog would otherwise lie beneath the one it belongs to.
+  const LiveForm* current = CurrentForm();
+  ::SetWindowPos(found->second->handle(),
+                 current && current->on_top() ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE);
+}
+
+bool Application::HasDialog(std::wstring_view form) const {
+  for (const CatalogueDialog& entry : catalogue_.dialogs) {
+    if (entry.form_name == form) return true;
+  }
+  return false;
+}
+
+std::vector<MenuItem> Application::SharedMenu() const {
+  SharedMenuState state;
+  for (int i = 0; i < kWidgetCount; ++i) {
+    state.available[i] = Available(i);
+    state.open[i] = manager_ && manager_->IsOpen(i);
+  }
+  const LiveForm* current = CurrentForm();
+  state.has_widget = current != nullptr;
+  state.sizable = current && WidgetNamed(current_widget_);
+  state.on_top = current && current->on_top();
+  state.theme_dialog = HasDialog(L"frmTHEME");
+  state.about_dialog = HasDialog(L"frmABOUT");
+  state.donation_dialog = HasDialog(L"frmDONATE");
+  state.other_apps_dialog = HasDialog(L"frmMORE");
+  return BuildSharedMenu(state);
+}
+
+void Application::ResizeCurrent(Size twips) {
+  LiveForm* form = WidgetNamed(current_widget_) ? CurrentForm() : nullptr;
+  if (!form) return;
+  form->SetSize(twips.width, twips.height);
+  form->Form_Resize();
+  manager_->WidgetRefresh();
+}
+
+bool Application::RunSizeCommand(int id) {
+  if (id == CommandId(L"mnuWIDGRESETD")) {
+    ResizeCurrent(DefaultSize());
+    return true;
+  }
+  if (const auto size = FixedSize(ArrayCommandIndex(L"mnuWIDGRESETA", 3, id))) {
+    ResizeCurrent(*size);
+    return true;
+  }
+  const int part = ArrayCommandIndex(L"mnuWIDGRESET", 4, id);
+  const int widget =
+      part < 0 || !WidgetNamed(current_widget_) ? -1 : WidgetNamed(current_widget_)->index;
+  if (widget < 0 || !widgets_[widget]) return part >= 0;
+  if (const auto size = ScreenPartSize(ScreenSizeAt(widgets_[widget]->screen_rect()), part)) {
+    ResizeCurrent(*size);
+  }
+  return true;
+}
+
+void Application::ShowHelp() {
+  ShowInformation(menus_.handle(), kHelpText, L"Widget Varnel: keys and tips");
+}
+
+void Application::RunCommand(int id) {
+  struct Handler {
+    std::wstring_view name;
+    void (*run)(Application&);
+  };
+  static constexpr Handler kHandlers[] = {
+      {L"mnuDCSHOWALL", [](Application& self) { self.manager_->WidgetSel(2); }},
+      {L"mnuDCHIDEALL", [](Application& self) { self.manager_->WidgetSel(1); }},
+      {L"mnuDCMANAGER", [](Application& self) { self.ShowManager(); }},
+      {L"mnuDCMANAGERHIDE", [](Application& self) { self.HideToTray(); }},
+      {L"mnuDCTOP",
+       [](Application& self) {
+         if (LiveForm* form = self.CurrentForm()) form->SetOnTop(!form->on_top());
+       }},
+      {L"mnuDCSETTINGS", [](Application& self) { self.OpenDialog(L"frmTHEME"); }},
+      {L"mnuDCGENSET", [](Application& self) { self.OpenDialog(L"frmVRNpr"); }},
+      {L"mnuDCUPDATES", [](Application& self) { self.CheckForUpdate(1); }},
+      {L"mnuDCHELP", [](Application& self) { self.ShowHelp(); }},
+      {L"mnuDCTUTS", [](Application& self) { self.OpenPage(self.pages_.support); }},
+      {L"mnuDCWEB", [](Application& self) { self.OpenPage(self.pages_.support); }},
+      {L"mnuDCWEBFEEDBACK", [](Application& self) { self.OpenPage(self.pages_.feedback); }},
+      {L"mnuDCABOUT", [](Application& self) { self.OpenDialog(L"frmABOUT"); }},
+      {L"mnuDCDONATE", [](Application& self) { self.OpenDialog(L"frmDONATE"); }},
+      {L"mnuDCMORE", [](Application& self) { self.OpenDialog(L"frmMORE"); }},
+      {L"mnuDCEXIT", [](Application& self) { self.ExitProgram(); }}};
+  if (id == 0 || closing_ || !manager_ || RunSizeCommand(id)) return;
+  const int widget = ArrayCommandIndex(L"mnuDCWIDGETS", kWidgetCount, id);
+  if (widget >= 0) WidgetCheck(widget);
+  for (const Handler& handler : kHandlers) {
+    if (CommandId(handler.name) == id) handler.run(*this);
+  }
+}
+
+}  // namespace varnel

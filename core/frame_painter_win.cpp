@@ -1,0 +1,81 @@
+#include "core/frame_painter_win.h"
+
+#include <algorithm>
+
+#include "base/image.h"
+#include "theme/gradient.h"
+#include "theme/system_colours_win.h"
+
+namespace varnel {
+namespace {
+
+constexpr int kTitleHeight = 13;
+constexpr int kStatusHeight = 11;
+constexpr int kGlyphHeight = 16;
+
+void PaintBar(Surface& surface, const FramePainting& frame) {
+  const Rect& bar = frame.layout.pfrBAR;
+  Image image(bar.width(), bar.height());
+  FillGradient(image, frame.chrome.bar.first, frame.chrome.bar.second, frame.chrome.bar_angle,
+               UserSystemColours());
+  const auto pixels = surface.pixels();
+  if (pixels.empty()) return;
+  for (int y = 0; y < image.height(); ++y) {
+    std::ranges::copy(image.Row(y),
+                      pixels.begin() + (bar.top + y) * surface.size().width + bar.left);
+  }
+}
+
+// Three short diagonal lines in the corner that sizes the window.
+void PaintGrip(Surface& surface, const FramePainting& frame) {
+  const Rect& grip = frame.layout.size_grip;
+  const int step = std::max(3, Scaled(4, frame.dpi));
+  const int edge = Scaled(3, frame.dpi);
+  const UniquePen pen(
+      ::CreatePen(PS_SOLID, std::max(1, Scaled(1, frame.dpi)), StripTextStyle(frame).colour));
+  const SelectedObject selected(surface.dc(), pen.get());
+  for (int i = 1; i <= 3; ++i) {
+    ::MoveToEx(surface.dc(), grip.right - edge - i * step, grip.bottom - edge, nullptr);
+    ::LineTo(surface.dc(), grip.right - edge + 1, grip.bottom - edge - i * step - 1);
+  }
+}
+
+}  // namespace
+
+TextStyle BarTextStyle(const FramePainting& frame) {
+  TextStyle style;
+  style.font = {frame.theme.strTHEMEBARFONTNAME, Scaled(kTitleHeight, frame.dpi), false};
+  style.colour = frame.theme.lngTHEMEBARFONTCOLOR;
+  style.ground = frame.chrome.bar.first;
+  style.halo_base = frame.theme.lngTHEMECOLOR;
+  style.align = Align::kLeft;
+  style.dpi = frame.dpi;
+  return style;
+}
+
+TextStyle StripTextStyle(const FramePainting& frame) {
+  TextStyle style = BarTextStyle(frame);
+  style.font.height = Scaled(kStatusHeight, frame.dpi);
+  style.ground = frame.chrome.ground;
+  return style;
+}
+
+void PaintFrame(Ui& ui, Surface& surface, const FramePainting& frame) {
+  const Rect all{0, 0, surface.size().width, surface.size().height};
+  FillRectangle(surface.dc(), all, frame.chrome.ground);
+  PaintBar(surface, frame);
+  TextStyle style = BarTextStyle(frame);
+  PaintText(ui, surface, frame.layout.title_text, frame.title, style);
+  style.font = {kIconFontName, Scaled(kGlyphHeight, frame.dpi), false};
+  style.align = Align::kCentre;
+  PaintText(ui, surface, frame.layout.title_glyph, std::wstring(1, frame.glyph), style);
+
+  const Rect& strip = frame.layout.picBOTTOMSTRIP;
+  FillRectangle(surface.dc(), {strip.left, strip.top, strip.right, strip.top + 1},
+                frame.chrome.border);
+  PaintText(ui, surface, frame.layout.status_text, frame.status, StripTextStyle(frame));
+  PaintGrip(surface, frame);
+  FrameRectangle(surface.dc(), all, frame.chrome.border);
+}
+
+}  // namespace varnel

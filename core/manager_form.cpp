@@ -1,0 +1,137 @@
+#include "core/manager_form.h"
+
+#include "base/number_text.h"
+#include "core/shared_menu.h"
+#include "resources/control_ids.h"
+
+namespace varnel {
+namespace {
+
+constexpr wchar_t kStar = L'\xE200';
+constexpr wchar_t kEmptyStar = L'\xE201';
+
+constexpr Command kBringToFront{L"mnuVRNFRONT", L"&Bring all to front"};
+constexpr Command kArrange{L"mnuVRNARRANGE", L"Arran&ge all"};
+constexpr Command kCloseAll{L"mnuVRNCLOSEALL", L"&Close all"};
+
+struct ManagerCommand {
+  Command command;
+  int mode;
+};
+constexpr ManagerCommand kCommands[] = {{kBringToFront, 0}, {kArrange, 3}, {kCloseAll, 8}};
+
+}  // namespace
+
+ManagerForm::ManagerForm(Services& services, WidgetHost& host)
+    : WidgetForm(services, kManagerForm, kManagerIndex),
+      host_(host),
+      states_(services.settings, *this) {}
+
+void ManagerForm::OnLoad() {
+  for (int i = 0; i < kWidgetCount; ++i) {
+    const WidgetEntry& widget = *WidgetAt(i);
+    buttons().Add(lblNUMBER + i, std::wstring(widget.title), widget.glyph, false);
+    if (!host_.Available(i)) ::EnableWindow(buttons().Find(lblNUMBER + i)->handle, FALSE);
+  }
+}
+
+void ManagerForm::LayOutPanel(const Rect& panel) {
+  const ManagerLayout tiles = LayOutManager(panel, dpi());
+  for (int i = 0; i < kWidgetCount; ++i) {
+    const Rect& tile = tiles.tiles[i];
+    ::MoveWindow(buttons().Find(lblNUMBER + i)->handle, tile.left, tile.top, tile.width(),
+                 tile.height(), TRUE);
+  }
+}
+
+void ManagerForm::DrawPanelButton(const ButtonPainting& painting) {
+  const int index = painting.button.id - lblNUMBER;
+  const bool open = states_.IsOpen(index);
+  ButtonPainting tile = painting;
+  if (!tile.enabled) tile.colours = {chrome().ground, chrome().border};
+  PaintButtonFace(tile, dpi());
+  const WidgetEntry& widget = *WidgetAt(index);
+  const TileLayout parts = LayOutTile({painting.bounds.width(), painting.bounds.height()}, dpi());
+  TextStyle style = PanelTextStyle(parts.caption_height);
+  style.ground = tile.colours.first;
+  style.faint = !tile.enabled;
+  PaintText(ui(), painting.surface, parts.caption, std::wstring(widget.title), style);
+  style.font = {kIconFontName, parts.glyph_height, false};
+  PaintText(ui(), painting.surface, parts.glyph,
+            std::wstring(1, open ? widget.open_glyph : widget.glyph), style);
+  if (!tile.enabled) return;
+  style.font.height = parts.star_height;
+  PaintText(ui(), painting.surface, parts.star, std::wstring(1, open ? kStar : kEmptyStar), style);
+}
+
+void ManagerForm::OnControl(int id, int code) {
+  if (code == BN_CLICKED && id >= lblNUMBER && id < lblNUMBER + kWidgetCount) {
+    WidgetCheck(id - lblNUMBER);
+  }
+}
+
+void ManagerForm::Mark(int index, bool open) {
+  // The star is drawn with the tile; its meaning is a word in the tile's name.
+  const std::wstring name(WidgetAt(index)->title);
+  const TextButton* tile = buttons().Find(lblNUMBER + index);
+  if (!tile) return;
+  ::SetWindowTextW(tile->handle, (open ? name + L" (open)" : name).c_str());
+  buttons().Repaint(tile->id);
+  RepaintStatus();
+}
+
+void ManagerForm::ShowIcons() {
+  for (const TextButton& button : buttons().all()) buttons().Repaint(button.id);
+}
+
+void ManagerForm::ThemeRefresh() {
+  ApplyChrome();
+  Form_Resize();
+  WidgetRefresh();
+  ShowIcons();
+}
+
+void ManagerForm::WidgetSel(int mode) {
+  switch (mode) {
+    case 0:
+      host_.BringToFront();
+      break;
+    case 3:
+      host_.ArrangeAll();
+      break;
+    case 5:
+      host_.OpenSupportPage();
+      break;
+    case 8:
+      for (int i = 0; i < kWidgetCount; ++i) {
+        if (IsOpen(i)) WidgetClose(i);
+      }
+      break;
+    default:
+      states_.WidgetSel(mode);
+  }
+}
+
+std::wstring ManagerForm::StatusText() const {
+  return NumberText(states_.OpenCount()) + L" of " + NumberText(kWidgetCount) + L" open";
+}
+
+std::vector<MenuItem> ManagerForm::MenuGroup() const {
+  std::vector<MenuItem> items;
+  for (const ManagerCommand& entry : kCommands) {
+    items.push_back(ItemOf(entry.command, states_.OpenCount() > 0));
+  }
+  return items;
+}
+
+bool ManagerForm::RunOwnCommand(int id) {
+  for (const ManagerCommand& entry : kCommands) {
+    if (CommandId(entry.command.name) == id) {
+      WidgetSel(entry.mode);
+      return true;
+    }
+  }
+  return false;
+}
+
+}  // namespace varnel

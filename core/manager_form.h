@@ -1,0 +1,64 @@
+// The manager: one tile a widget, which opens and closes it.
+#pragma once
+
+#include "core/manager_layout.h"
+#include "core/widget_form.h"
+#include "core/widget_states.h"
+
+namespace varnel {
+
+// The widgets' forms, as the manager needs them.
+class WidgetHost {
+ public:
+  virtual ~WidgetHost() = default;
+  // Whether this build has the widget at all.
+  virtual bool Available(int index) const = 0;
+  virtual bool LoadWidget(int index) = 0;
+  virtual void UnloadWidget(int index) = 0;
+  virtual void ShowWidget(int index, bool shown) = 0;
+  // Brings the shown widgets before other windows / all open ones to the places they first had.
+  virtual void BringToFront() = 0;
+  virtual void ArrangeAll() = 0;
+  virtual void OpenSupportPage() = 0;
+};
+
+class ManagerForm : public WidgetForm, private WidgetWindows {  // frmVRNwg
+ public:
+  ManagerForm(Services& services, WidgetHost& host);
+
+  // Paints the tiles' glyphs and stars.
+  void ShowIcons();
+  void ThemeRefresh();
+  void WidgetCheck(int index) { states_.WidgetCheck(index); }
+  void WidgetCheckOnLoad(int index) { states_.WidgetCheckOnLoad(index); }
+  void WidgetClose(int index) { states_.WidgetClose(index); }
+  void WidgetOpen(int index) { states_.WidgetOpen(index); }
+  // 0 brings the shown widgets to the front, 1 and 6 hide every open widget, 2 shows them, 3
+  // arranges them, 5 opens the support page, 8 closes them all; other modes do nothing.
+  void WidgetSel(int mode);
+  // Opens what was open when the program last ended.
+  void StartUp() { states_.StartUp(); }
+
+  bool IsOpen(int index) const { return states_.IsOpen(index); }
+
+ private:
+  bool Load(int index) override { return host_.LoadWidget(index); }
+  void Unload(int index) override { host_.UnloadWidget(index); }
+  void Show(int index, bool shown) override { host_.ShowWidget(index, shown); }
+  void Mark(int index, bool open) override;
+
+  void OnLoad() override;
+  void LayOutPanel(const Rect& panel) override;
+  void DrawPanelButton(const ButtonPainting& painting) override;
+  void OnControl(int id, int code) override;
+  std::wstring StatusText() const override;
+  std::vector<MenuItem> MenuGroup() const override;
+  bool RunOwnCommand(int id) override;
+  void OnCloseButton() override { services().program.ExitProgram(); }
+  void OnMinimiseButton() override { services().program.HideToTray(); }
+
+  WidgetHost& host_;
+  WidgetStates states_;
+};
+
+}  // namespace varnel

@@ -1,0 +1,45 @@
+// The hidden form that commands, system broadcasts and the program's own posted work arrive at.
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "core/program.h"
+#include "win/http.h"
+#include "win/timer.h"
+#include "win/window.h"
+
+namespace varnel {
+
+class MenusForm : public Window {  // frmSTRmn
+ public:
+  MenusForm(Ui& ui, Program& program, std::function<void()> save_everything);
+
+  // `title` tells this program's form from that of another settings root.
+  void Load(const std::wstring& title);
+  void Unload();
+
+  // Runs `work` later on this thread, after the message that is being handled.
+  void Post(std::function<void()> work);
+
+  // Called on every tick of tmrALARM, 100 ms apart, for as long as the form is loaded.
+  void OnAlarmTick(std::function<void()> handler) { alarm_tick_ = std::move(handler); }
+
+  HttpFetch& webDATA() { return web_data_; }
+
+  // The message by which a second start asks the first to show its manager.
+  static UINT ShowManagerMessage();
+
+ private:
+  LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
+  void RunPosted();
+
+  Program& program_;
+  std::function<void()> save_everything_;
+  std::vector<std::function<void()>> posted_;
+  std::function<void()> alarm_tick_;
+  Timer tmrALARM_;
+  HttpFetch web_data_;
+};
+
+}  // namespace varnel

@@ -1,0 +1,41 @@
+#include "core/options_dialog.h"
+
+#include "core/core_settings.h"
+#include "resources/control_ids.h"
+#include "win/ui.h"
+
+namespace varnel {
+namespace {
+
+struct Option {
+  int control;
+  const Setting& setting;
+};
+constexpr Option kOptions[] = {
+    {chkSTARTUP, kProgramLaunch}, {chkMINSTART, kMinimizeOnStart}, {chkONTOP, kOnTop}};
+
+}  // namespace
+
+OptionsDialog::OptionsDialog(Services& services)
+    : Dialog(services.ui, L"frmVRNpr"), services_(services) {}
+
+void OptionsDialog::OnOpen() {
+  for (const Option& option : kOptions) {
+    SetChecked(option.control, ReadCheck(services_.settings, option.setting));
+  }
+}
+
+void OptionsDialog::OnCommand(int id, int) {
+  if (id == IDOK) Store();
+  if (id == IDOK || id == IDCANCEL) Close();
+}
+
+void OptionsDialog::Store() {
+  for (const Option& option : kOptions) {
+    WriteCheck(services_.settings, option.setting, Checked(option.control));
+  }
+  services_.program.RegisterRunAtLogon();
+  for (const auto& [name, form] : services_.forms.all()) form->FollowOnTopSetting();
+}
+
+}  // namespace varnel

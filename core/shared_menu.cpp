@@ -1,0 +1,105 @@
+#include "core/shared_menu.h"
+
+#include <string>
+
+#include "base/number_text.h"
+#include "core/widget_index.h"
+
+namespace varnel {
+namespace {
+
+MenuItem Submenu(std::wstring_view caption, std::vector<MenuItem> children, bool enabled = true) {
+  MenuItem item;
+  item.caption = caption;
+  item.enabled = enabled;
+  item.children = std::move(children);
+  return item;
+}
+
+MenuItem ArrayItem(std::wstring_view name, int index, std::wstring_view caption) {
+  MenuItem item;
+  item.id = ArrayCommandId(name, index);
+  item.caption = caption;
+  return item;
+}
+
+constexpr std::wstring_view kWidgetCaptions[kWidgetCount] = {
+    L"&Clock",     L"C&alculator", L"Cal&endar",   L"&Notes",
+    L"&Stopwatch", L"Count&down",  L"&Whiteboard", L"Wea&ther"};
+
+std::vector<MenuItem> WidgetItems(const SharedMenuState& state) {
+  std::vector<MenuItem> items;
+  for (int i = 0; i < kWidgetCount; ++i) {
+    MenuItem item = ArrayItem(L"mnuDCWIDGETS", i, kWidgetCaptions[i]);
+    item.enabled = state.available[i];
+    item.checked = state.open[i];
+    items.push_back(std::move(item));
+  }
+  return items;
+}
+
+std::vector<MenuItem> SizeItems() {
+  return {ArrayItem(L"mnuWIDGRESETA", 0, L"&Large"),
+          ArrayItem(L"mnuWIDGRESETA", 1, L"&Medium"),
+          ArrayItem(L"mnuWIDGRESETA", 2, L"&Small"),
+          ItemOf({L"mnuWIDGRESETD", L"&Default size"}),
+          MenuSeparator(),
+          ArrayItem(L"mnuWIDGRESET", 0, L"&Full screen"),
+          ArrayItem(L"mnuWIDGRESET", 1, L"&Half of the screen"),
+          ArrayItem(L"mnuWIDGRESET", 2, L"&Quarter of the screen"),
+          ArrayItem(L"mnuWIDGRESET", 3, L"&Eighth of the screen")};
+}
+
+std::vector<MenuItem> HelpItems(const SharedMenuState& state) {
+  return {ItemOf({L"mnuDCHELP", L"&Keys and tips..."}),
+          ItemOf({L"mnuDCTUTS", L"&Video tutorials"}),
+          ItemOf({L"mnuDCWEB", L"&Support on the web"}),
+          ItemOf({L"mnuDCWEBFEEDBACK", L"Send &feedback"}),
+          ItemOf({L"mnuDCUPDATES", L"Check for &updates"}),
+          MenuSeparator(),
+          ItemOf({L"mnuDCMORE", L"&Other apps..."}, state.other_apps_dialog),
+          ItemOf({L"mnuDCDONATE", L"&Donate..."}, state.donation_dialog),
+          ItemOf({L"mnuDCABOUT", L"&About Widget Varnel..."}, state.about_dialog)};
+}
+
+}  // namespace
+
+MenuItem ItemOf(const Command& command, bool enabled, bool checked) {
+  MenuItem item;
+  item.id = CommandId(command.name);
+  item.caption = command.caption;
+  item.key = command.key;
+  item.enabled = enabled;
+  item.checked = checked;
+  return item;
+}
+
+std::vector<MenuItem> BuildSharedMenu(const SharedMenuState& state) {
+  return {Submenu(L"&Widgets", WidgetItems(state)),
+          ItemOf({L"mnuDCSHOWALL", L"Show &all widgets"}),
+          ItemOf({L"mnuDCHIDEALL", L"&Hide all widgets"}),
+          MenuSeparator(),
+          ItemOf({L"mnuDCMANAGER", L"Show &Varnel"}),
+          ItemOf({L"mnuDCMANAGERHIDE", L"Hide to T&ray"}),
+          MenuSeparator(),
+          Submenu(L"Si&ze", SizeItems(), state.sizable),
+          ItemOf({L"mnuDCTOP", L"&Keep on top"}, state.has_widget, state.on_top),
+          ItemOf({L"mnuDCSETTINGS", L"&Theme..."}, state.has_widget && state.theme_dialog),
+          ItemOf({L"mnuDCGENSET", L"&Options..."}),
+          MenuSeparator(),
+          Submenu(L"Hel&p", HelpItems(state)),
+          ItemOf({L"mnuDCEXIT", L"E&xit"})};
+}
+
+std::uint16_t ArrayCommandId(std::wstring_view name, int index) {
+  return CommandId(std::wstring(name) + L"(" + NumberText(index) + L")");
+}
+
+int ArrayCommandIndex(std::wstring_view name, int count, int id) {
+  for (int i = 0; i < count; ++i) {
+    if (ArrayCommandId(name, i) == id) return i;
+  }
+  return -1;
+}
+
+}  // namespace varnel

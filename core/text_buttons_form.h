@@ -1,0 +1,67 @@
+// The small text buttons of a widget: real buttons that the form draws, with three looks.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+#include "base/geometry.h"
+#include "theme/chrome_colours.h"
+#include "theme/text_painter_win.h"
+#include "win/window.h"
+
+namespace varnel {
+
+struct TextButton {
+  int id = 0;
+  HWND handle = nullptr;
+  wchar_t glyph = 0;    // drawn in place of the window text; 0 draws the text
+  bool on_bar = false;  // on the title bar, else on the panel
+};
+
+// One button about to be drawn.
+struct ButtonPainting {
+  const TextButton& button;
+  Surface& surface;  // already filled with the ground
+  Rect bounds;       // of the surface
+  ButtonLook look;
+  ColourPair colours;  // of that look: face and outline
+  bool focused;        // and the focus is to be seen
+  bool enabled;
+};
+
+class TextButtons {
+ public:
+  explicit TextButtons(Window& owner) : owner_(owner) {}
+
+  // Makes a button with `word` as its window text, which is what it is called. False when the
+  // system refuses.
+  bool Add(int id, const std::wstring& word, wchar_t glyph, bool on_bar);
+  const TextButton* Find(int id) const;
+  const std::vector<TextButton>& all() const { return buttons_; }
+
+  // The button under the mouse, or null.
+  const TextButton* hovered() const { return hovered_ ? Find(hovered_) : nullptr; }
+  // Notes that the mouse is over `control` (any window). True when it has just come to a button.
+  bool OnMouseOver(HWND control);
+  // Looks where the mouse is now. True when it has left the button that it was over.
+  bool MouseHasLeft();
+
+  ButtonLook LookOf(const TextButton& button, const DRAWITEMSTRUCT& item) const;
+  void Repaint(int id) const;
+
+ private:
+  Window& owner_;
+  std::vector<TextButton> buttons_;
+  int hovered_ = 0;
+};
+
+// A button's face with rounded corners, its outline, and the focus when it is to be seen.
+void PaintButtonFace(const ButtonPainting& painting, int dpi);
+
+// The same with the button's text or glyph on it; `height` is the em of its font, in pixels.
+void PaintTextButton(Ui& ui, const ButtonPainting& painting, const ThemeRecord& theme,
+                     const std::wstring& face, int height, int dpi);
+
+}  // namespace varnel

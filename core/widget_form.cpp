@@ -1,0 +1,245 @@
+#include "core/widget_form.h"
+
+#include "core/core_settings.h"
+#include "core/screens_win.h"
+#include "core/sizes.h"
+#include "resources/control_ids.h"
+#include "theme/theme_store.h"
+
+namespace varnel {
+namespace {
+
+constexpr int kHoverTickMs = 100;
+constexpr wchar_t kBarGlyphs[] = {L'\xE204', L'\xE203', L'\xE202'};
+constexpr const wchar_t* kBarWords[] = {L"Menu", L"Hide", L"Close"};
+constexpr int kBarGlyphHeight = 14;
+
+}  // namespace
+
+WidgetForm::WidgetForm(Services& services, const FormEntry& entry, int index)
+    : Window(services.ui),
+      services_(services),
+      entry_(entry),
+      index_(index),
+      buttons_(*this),
+      tmrBARBTNS_(*this, kHoverTickMs, [this] { HoverTick(tmrBARBTNS_); }),
+      tmrPANBTNS_(*this, kHoverTickMs, [this] { HoverTick(tmrPANBTNS_); }) {}
+
+WidgetForm::~WidgetForm() {
+  services_.forms.Remove(entry_.form_name);
+}
+
+bool WidgetForm::Load() {
+  const Screens screens = CurrentScreens();
+  place_ =
+      ReadPosition(services_.settings, entry_.form_name, DefaultPlace(index_, screens), true).place;
+  snapped_ = {place_.corner.x, place_.corner.y};
+  theme_ = LoadTheme(services_.settings, entry_.form_name, services_.colours);
+  Creation creation;
+  creation.class_name = entry_.form_name.data();
+  creation.title = entry_.title;
+  creation.style = WS_POPUP | WS_CLIPCHILDREN | WS_SYSMENU;
+  // Widgets are no entries of the task bar; the manager is.
+  creation.extended_style =
+      WS_EX_LAYERED | (index_ == kManagerIndex ? WS_EX_APPWINDOW : WS_EX_TOOLWINDOW);
+  creation.place = PixelsFromPlace(FitPlace(place_, screens), screens);
+  if (!Create(creation)) {
+    ui().log.Write(L"no window for " + std::wstring(entry_.form_name));
+    return false;
+  }
+  CreateBarButtons();
+  OnLoad();
+  services_.forms.Add(entry_.form_name, *this);
+  ApplyChrome();
+  Form_Resize();
+  WidgetRefresh();
+  return true;
+}
+
+void WidgetForm::Unload() {
+  if (!handle()) return;
+  SaveState();
+  OnUnload();
+  services_.forms.Remove(entry_.form_name);
+  Destroy();
+}
+
+void WidgetForm::SaveState() {
+  if (!handle()) return;
+  const WindowState state = ::IsIconic(handle())   ? WindowState::kMinimised
+                            : ::IsZoomed(handle()) ? WindowState::kMaximised
+                                                   : WindowState::kNormal;
+  SavePosition(services_.settings, entry_.form_name, state, place_, true);
+  OnSaveState();
+}
+
+void WidgetForm::Show(bool shown) {
+  const bool manager = index_ == kManagerIndex;
+  ::ShowWindow(handle(), !shown ? SW_HIDE : manager ? SW_SHOWNORMAL : SW_SHOWNOACTIVATE);
+  if (shown && manager) ::SetForegroundWindow(handle());
+}
+
+void WidgetForm::CreateBarButtons() {
+  for (int i = 0; i < kBarButtonCount; ++i) {
+    buttons_.Add(lablTBARTOP + i, kBarWords[i], kBarGlyphs[i], true);
+  }
+}
+
+void WidgetForm::Form_Resize() {
+  const Rect area = client();
+  layout_ = LayOutFrame({area.width(), area.height()}, dpi());
+  for (int i = 0; i < kBarButtonCount; ++i) {
+    const Rect& box = layout_.bar_buttons[i];
+    ::MoveWindow(::GetDlgItem(handle(), lablTBARTOP + i), box.left, box.top, box.width(),
+                 box.height(), FALSE);
+  }
+  ui().fonts.Trim(200);
+  LayOutPanel(layout_.pfrPANEL);
+  ::InvalidateRect(handle(), nullptr, FALSE);
+}
+
+void WidgetForm::WidgetRefresh() {
+  RefreshContent();
+  ::RedrawWindow(handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+}
+
+void WidgetForm::ApplyChrome() {
+  if (!own_on_top_) on_top_ = ReadFlag(services_.settings, kOnTop);
+  ::SetWindowPos(handle(), on_top_ ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  chrome_ = varnel::ApplyChrome(theme_, services_.colours);
+  ::SetLayeredWindowAttributes(handle(), 0, WindowAlpha(theme_.bytTHEMEOPACITY), LWA_ALPHA);
+}
+
+void WidgetForm::SetOnTop(bool on) {
+  own_on_top_ = true;
+  on_top_ = on;
+  ApplyChrome();
+}
+
+void WidgetForm::FollowOnTopSetting() {
+  own_on_top_ = false;
+  ApplyChrome();
+}
+
+TextStyle WidgetForm::PanelTextStyle(int font_height) const {
+  TextStyle style;
+  style.font = {theme_.strTHEMEPANELFONTNAME, font_height, false};
+  style.colour = Translate(theme_.lngTHEMEPANELFONTCOLOR, services_.colours);
+  style.ground = chrome_.ground;
+  style.halo_base = Translate(theme_.lngTHEMECOLOR, services_.colours);
+  style.dpi = dpi();
+  return style;
+}
+
+void WidgetForm::RepaintStatus() {
+  const RECT strip = ToSystem(layout_.picBOTTOMSTRIP);
+  ::InvalidateRect(handle(), &strip, FALSE);
+}
+
+FramePainting WidgetForm::Painting() const {
+  return {layout_, chrome_, theme_, std::wstring(entry_.title), entry_.glyph, StatusText(), dpi()};
+}
+
+void WidgetForm::Paint() {
+  PAINTSTRUCT paint;
+  HDC dc = ::BeginPaint(handle(), &paint);
+  const Rect area = client();
+  Surface surface({area.width(), area.height()});
+  PaintFrame(ui(), surface, Painting());
+  PaintPanel(surface, layout_.pfrPANEL);
+  surface.CopyTo(dc, {0, 0});
+  ::EndPaint(handle(), &paint);
+}
+
+void WidgetForm::DrawButton(const DRAWITEMSTRUCT& item) {
+  const TextButton* button = buttons_.Find(static_cast<int>(item.CtlID));
+  if (!button) return;
+  const Rect bounds = FromSystem(item.rcItem);
+  Surface surface({bounds.width(), bounds.height()});
+  FillRectangle(surface.dc(), bounds, button->on_bar ? chrome_.bar.first : chrome_.ground);
+  const ButtonLook look = buttons_.LookOf(*button, item);
+  const ButtonPainting painting{
+      *button,
+      surface,
+      bounds,
+      look,
+      ButtonColours(theme_, look, services_.colours),
+      (item.itemState & ODS_FOCUS) != 0 && (item.itemState & ODS_NOFOCUSRECT) == 0,
+      (item.itemState & ODS_DISABLED) == 0};
+  if (button->on_bar) {
+    ButtonPainting small = painting;
+    small.bounds = Inset(bounds, Scaled(2, dpi()));
+    PaintTextButton(ui(), small, theme_, {}, Scaled(kBarGlyphHeight, dpi()), dpi());
+  } else {
+    DrawPanelButton(painting);
+  }
+  surface.CopyTo(item.hDC, {0, 0});
+}
+
+void WidgetForm::DrawPanelButton(const ButtonPainting& painting) {
+  PaintTextButton(ui(), painting, theme_, theme_.strTHEMEPANELFONTNAME,
+                  painting.bounds.height() * 2 / 5, dpi());
+}
+
+LRESULT WidgetForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+  switch (message) {
+    case WM_PAINT:
+      Paint();
+      return 0;
+    case WM_ERASEBKGND:
+      return 1;
+    case WM_DRAWITEM:
+      DrawButton(*reinterpret_cast<const DRAWITEMSTRUCT*>(lparam));
+      return TRUE;
+    case WM_SIZE:
+      if (!layout_.pfrBAR.empty()) Form_Resize();
+      return 0;
+    case WM_COMMAND:
+      OnCommand(LOWORD(wparam), HIWORD(wparam), reinterpret_cast<HWND>(lparam));
+      return 0;
+    case WM_CONTEXTMENU:
+      OnContextMenu(lparam);
+      return 0;
+    case WM_SETCURSOR:
+      OnMouseOver(reinterpret_cast<HWND>(wparam));
+      break;
+    case WM_LBUTTONDOWN:
+      OnLeftButtonDown({static_cast<short>(LOWORD(lparam)), static_cast<short>(HIWORD(lparam))});
+      return 0;
+    case WM_MOUSEMOVE:
+      if (sizing_) DragSize();
+      return 0;
+    case WM_LBUTTONUP:
+      ::ReleaseCapture();
+      return 0;
+    case WM_CAPTURECHANGED:
+      if (std::exchange(sizing_, false)) SaveState();
+      return 0;
+    case WM_ACTIVATE:
+      if (LOWORD(wparam) == WA_INACTIVE) last_focus_ = ::GetFocus();
+      break;
+    case WM_SETFOCUS:
+      if (::IsChild(handle(), last_focus_)) ::SetFocus(last_focus_);
+      return 0;
+    case WM_CLOSE:
+      OnCloseButton();
+      return 0;
+    case WM_DISPLAYCHANGE:
+    case WM_SETTINGCHANGE:
+      ReturnToScreen();
+      return 0;
+    case WM_DPICHANGED:
+      OnDpiChanged(*reinterpret_cast<const RECT*>(lparam));
+      return 0;
+    case WM_SYSCOLORCHANGE:
+      ApplyChrome();
+      WidgetRefresh();
+      return 0;
+    default:
+      break;
+  }
+  return Window::OnMessage(message, wparam, lparam);
+}
+
+}  // namespace varnel

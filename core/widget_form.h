@@ -1,0 +1,117 @@
+// The frame that every widget's window has: title bar, panel, bottom strip, theme, place and menu.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "base/menu.h"
+#include "core/form_registry.h"
+#include "core/frame_layout.h"
+#include "core/frame_painter_win.h"
+#include "core/placement.h"
+#include "core/services.h"
+#include "core/text_buttons_form.h"
+#include "core/widget_index.h"
+#include "win/timer.h"
+#include "win/window.h"
+
+namespace varnel {
+
+class WidgetForm : public Window, public LiveForm {
+ public:
+  // `entry` outlives the form; `index` is the widget's number or kManagerIndex.
+  WidgetForm(Services& services, const FormEntry& entry, int index);
+  ~WidgetForm() override;
+
+  // Makes the window, hidden, in its place and theme. False when the system refuses.
+  bool Load();
+  // Saves place and settings and removes the window.
+  void Unload();
+  // Saves what Unload would, while the form stays.
+  void SaveState();
+  void Show(bool shown);
+
+  ThemeRecord& theme() override { return theme_; }
+  void Form_Resize() override;
+  void WidgetRefresh() override;
+  void ApplyChrome() override;
+  void SetSize(int width, int height) override;
+  // Goes back to the place that the form had when it was first opened.
+  void MoveToDefaultPlace();
+  bool on_top() const override { return on_top_; }
+  void SetOnTop(bool on) override;
+  void FollowOnTopSetting() override;
+
+ protected:
+  // What a widget adds to the frame. OnLoad makes its controls; OnShown starts what ticks.
+  virtual void OnLoad() {}
+  virtual void OnUnload() {}
+  virtual void OnSaveState() {}
+  // Places the controls on the panel (pixels of the window).
+  virtual void LayOutPanel(const Rect&) {}
+  // Brings the controls' texts up to date.
+  virtual void RefreshContent() {}
+  // Paints on the panel what is not a control.
+  virtual void PaintPanel(Surface&, const Rect&) {}
+  virtual void DrawPanelButton(const ButtonPainting& painting);
+  // A button was clicked, or another control sent notification `code`.
+  virtual void OnControl(int /*id*/, int /*code*/) {}
+  virtual std::wstring StatusText() const { return {}; }
+  // The widget's own commands, shown above the shared ones.
+  virtual std::vector<MenuItem> MenuGroup() const { return {}; }
+  // Runs one of them; false when `id` is none.
+  virtual bool RunOwnCommand(int /*id*/) { return false; }
+  // The title bar's buttons for closing and for going out of sight.
+  virtual void OnCloseButton();
+  virtual void OnMinimiseButton() { Show(false); }
+
+  LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
+  bool OnKey(const MSG& message) override;
+
+  Services& services() const { return services_; }
+  const FormEntry& entry() const { return entry_; }
+  const FrameLayout& layout() const { return layout_; }
+  const ChromeColours& chrome() const { return chrome_; }
+  TextButtons& buttons() { return buttons_; }
+  // A style for texts on the panel: the theme's panel font and colour.
+  TextStyle PanelTextStyle(int font_height) const;
+  void RepaintStatus();
+
+ private:
+  void CreateBarButtons();
+  void Paint();
+  FramePainting Painting() const;
+  void DrawButton(const DRAWITEMSTRUCT& item);
+  void OnCommand(int id, int code, HWND control);
+  void RunCommand(int id);
+  void ShowMenu(Point at);
+  void OnContextMenu(LPARAM position);
+  void OnMouseOver(HWND control);
+  void HoverTick(Timer& timer);
+  void OnLeftButtonDown(Point at);
+  void DragStart(int button);
+  void DragSize();
+  bool OnArrow(WPARAM key, bool sizing);
+  void MoveTo(const Place& place);
+  void SnapAndKeep();
+  void ReturnToScreen();
+  void OnDpiChanged(const RECT& suggested);
+
+  Services& services_;
+  const FormEntry& entry_;
+  const int index_;
+  ThemeRecord theme_;
+  ChromeColours chrome_;
+  FrameLayout layout_;
+  Place place_;  // as the user wished it; the window may have had to go elsewhere
+  SnappedPosition snapped_;
+  bool on_top_ = false;
+  bool own_on_top_ = false;  // on_top_ was chosen for this window alone
+  bool sizing_ = false;
+  HWND last_focus_ = nullptr;
+  TextButtons buttons_;
+  Timer tmrBARBTNS_;
+  Timer tmrPANBTNS_;
+};
+
+}  // namespace varnel

@@ -1,0 +1,49 @@
+#include "core/widget_index.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "core/core_settings.h"
+
+namespace varnel {
+namespace {
+
+// The glyphs stand in the font in the order of the widgets, closed ones from E100, open ones from
+// E110.
+constexpr WidgetEntry Entry(int index, std::wstring_view form_name, std::wstring_view title,
+                            std::wstring_view theme_caption) {
+  return {{form_name, title, theme_caption, static_cast<wchar_t>(0xE100 + index),
+           static_cast<wchar_t>(0xE110 + index)},
+          index,
+          kStartLoad[index]};
+}
+
+constexpr WidgetEntry kWidgets[] = {
+    Entry(0, L"frmCLKwg", L"Clock", L"Alarm Clock Theme Settings"),
+    Entry(1, L"frmCLCwg", L"Calculator", L"Calculator Theme Settings"),
+    Entry(2, L"frmCALwg", L"Calendar", L"Calendar Theme Settings"),
+    Entry(3, L"frmNOTwg", L"Notes", L"Notes Theme Settings"),
+    Entry(4, L"frmSTWwg", L"Stopwatch", L"Stopwatch Theme Settings"),
+    Entry(5, L"frmCDNwg", L"Countdown Timer", L"Countdown Theme Settings"),
+    Entry(6, L"frmWBDwg", L"Whiteboard", L"Whiteboard Theme Settings"),
+    Entry(7, L"frmWTHwg", L"Weather", L"Weather Theme Settings"),
+};
+static_assert(std::size(kWidgets) == kWidgetCount && std::size(kStartLoad) == kWidgetCount);
+
+}  // namespace
+
+const WidgetEntry* WidgetAt(int index) {
+  return index >= 0 && index < kWidgetCount ? &kWidgets[index] : nullptr;
+}
+
+const WidgetEntry* WidgetNamed(std::wstring_view form_name) {
+  const auto* found = std::ranges::find(kWidgets, form_name, &WidgetEntry::form_name);
+  return found == std::end(kWidgets) ? nullptr : found;
+}
+
+const FormEntry* FormNamed(std::wstring_view form_name) {
+  if (form_name == kManagerForm.form_name) return &kManagerForm;
+  return WidgetNamed(form_name);
+}
+
+}  // namespace varnel

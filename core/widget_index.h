@@ -1,0 +1,34 @@
+// The fixed table of the widgets, by the number that manager, menus and start-up flags share.
+#pragma once
+
+#include <string_view>
+
+#include "base/settings.h"
+
+namespace varnel {
+
+struct FormEntry {
+  std::wstring_view form_name;
+  std::wstring_view title;          // as shown to the user
+  std::wstring_view theme_caption;  // of the theme dialog opened from this form
+  wchar_t glyph;                    // in the font "Icon-works": the form is closed
+  wchar_t open_glyph;               // the same, filled: the form is open
+};
+
+struct WidgetEntry : FormEntry {
+  int index;
+  Setting start_load;  // flag: the widget opens at start-up
+};
+
+inline constexpr int kWidgetCount = 8;
+inline constexpr FormEntry kManagerForm{L"frmVRNwg", L"Widget Varnel", L"Varnel Theme Settings",
+                                        L'\xE108', L'\xE118'};
+
+// The widget of that number or name; null when there is none.
+const WidgetEntry* WidgetAt(int index);
+const WidgetEntry* WidgetNamed(std::wstring_view form_name);
+
+// A widget or the manager by its form name; null when there is none.
+const FormEntry* FormNamed(std::wstring_view form_name);
+
+}  // namespace varnel

@@ -1,0 +1,36 @@
+// The program's entry.
+#include <windows.h>
+
+#include "catalogue_win.h"
+#include "core/application_win.h"
+#include "win/hardening.h"
+#include "win/shell.h"
+#include "win/single_instance.h"
+
+namespace {
+
+// Asks the program that runs already to show its manager, and lets it come to the front.
+void ShowFirstInstance(const std::wstring& name) {
+  HWND first = ::FindWindowW(L"frmSTRmn", name.c_str());
+  DWORD process = 0;
+  ::GetWindowThreadProcessId(first, &process);
+  ::AllowSetForegroundWindow(process);
+  ::PostMessageW(first, varnel::MenusForm::ShowManagerMessage(), 0, 0);
+}
+
+}  // namespace
+
+int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, wchar_t*, int) {
+  varnel::HardenProcess();
+  varnel::EndOnUnhandledFault();
+  varnel::BecomeDpiAware();
+  const auto words = varnel::CommandLineWords();
+  const varnel::CommandLine command_line = varnel::ParseCommandLine(words);
+  const std::wstring name = varnel::Application::InstanceName(command_line);
+  const varnel::SingleInstance only(name);
+  if (!only.first()) {
+    ShowFirstInstance(name);
+    return 0;
+  }
+  return varnel::Application(instance, command_line, varnel::ProgramCatalogue()).Run();
+}

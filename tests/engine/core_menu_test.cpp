@@ -1,0 +1,95 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <map>
+
+#include "core/shared_menu.h"
+
+namespace varnel {
+namespace {
+
+void ForEach(const std::vector<MenuItem>& items, const std::function<void(const MenuItem&)>& see) {
+  for (const MenuItem& item : items) {
+    see(item);
+    ForEach(item.children, see);
+  }
+}
+
+const MenuItem* Find(const std::vector<MenuItem>& items, std::wstring_view name) {
+  const MenuItem* found = nullptr;
+  ForEach(items, [&](const MenuItem& item) {
+    if (item.id == CommandId(name)) found = &item;
+  });
+  return found;
+}
+
+// Every item of the shared menu, by name.
+const wchar_t* const kSharedItems[] = {
+    L"mnuDCWIDGETS(0)", L"mnuDCWIDGETS(7)",  L"mnuDCSHOWALL",     L"mnuDCHIDEALL",
+    L"mnuDCMANAGER",    L"mnuDCMANAGERHIDE", L"mnuWIDGRESETA(0)", L"mnuWIDGRESETA(2)",
+    L"mnuWIDGRESETD",   L"mnuWIDGRESET(0)",  L"mnuWIDGRESET(3)",  L"mnuDCTOP",
+    L"mnuDCSETTINGS",   L"mnuDCGENSET",      L"mnuDCUPDATES",     L"mnuDCHELP",
+    L"mnuDCTUTS",       L"mnuDCWEB",         L"mnuDCWEBFEEDBACK", L"mnuDCABOUT",
+    L"mnuDCDONATE",     L"mnuDCMORE",        L"mnuDCEXIT"};
+
+TEST(SharedMenu, HoldsEveryCommandOnceUnderANumberOfItsOwn) {
+  const auto menu = BuildSharedMenu({});
+  std::map<int, std::wstring> seen;
+  ForEach(menu, [&](const MenuItem& item) {
+    if (item.id == 0) return;
+    EXPECT_TRUE(seen.emplace(item.id, item.caption).second)
+        << "two commands share the number " << item.id;
+  });
+  for (const wchar_t* name : kSharedItems) EXPECT_TRUE(Find(menu, name)) << name;
+}
+
+TEST(SharedMenu, EveryLevelHasUniqueMnemonics) {
+  const std::function<void(const std::vector<MenuItem>&)> check =
+      [&](const std::vector<MenuItem>& items) {
+        std::map<wchar_t, std::wstring> used;
+        for (const MenuItem& item : items) {
+          check(item.children);
+          if (item.caption.empty()) continue;
+          const std::size_t mark = item.caption.find(L'&');
+          ASSERT_NE(mark, std::wstring::npos) << "no mnemonic in an item";
+          const wchar_t letter = item.caption[mark + 1] | 0x20;
+          EXPECT_TRUE(used.emplace(letter, item.caption).second)
+              << "the mnemonic " << static_cast<char>(letter) << " stands twice in a menu";
+        }
+      };
+  check(BuildSharedMenu({}));
+}
+
+TEST(SharedMenu, ShowsTheStateAndGreysWhatCannotBeDone) {
+  SharedMenuState state;
+  state.available[0] = state.available[1] = true;
+  state.open[1] = true;
+  auto menu = BuildSharedMenu(state);
+  EXPECT_TRUE(Find(menu, L"mnuDCWIDGETS(1)")->checked);
+  EXPECT_FALSE(Find(menu, L"mnuDCWIDGETS(0)")->checked);
+  EXPECT_TRUE(Find(menu, L"mnuDCWIDGETS(0)")->enabled);
+  EXPECT_FALSE(Find(menu, L"mnuDCWIDGETS(3)")->enabled);
+  for (const wchar_t* name : {L"mnuDCTOP", L"mnuDCSETTINGS", L"mnuDCABOUT", L"mnuDCDONATE"}) {
+    EXPECT_FALSE(Find(menu, name)->enabled) << name;
+  }
+  state.has_widget = state.on_top = state.theme_dialog = true;
+  menu = BuildSharedMenu(state);
+  EXPECT_TRUE(Find(menu, L"mnuDCTOP")->checked);
+  EXPECT_TRUE(Find(menu, L"mnuDCSETTINGS")->enabled);
+}
+
+TEST(SharedMenu, CaptionsOfTheManagerItems) {
+  const auto menu = BuildSharedMenu({});
+  EXPECT_EQ(Find(menu, L"mnuDCMANAGER")->caption, L"Show &Varnel");
+  EXPECT_EQ(Find(menu, L"mnuDCMANAGERHIDE")->caption, L"Hide to T&ray");
+}
+
+TEST(CommandIds, ArrayElementsAreFoundAgain) {
+  for (int i = 0; i < 8; ++i) {
+    EXPECT_EQ(ArrayCommandIndex(L"mnuDCWIDGETS", 8, ArrayCommandId(L"mnuDCWIDGETS", i)), i);
+  }
+  EXPECT_EQ(ArrayCommandIndex(L"mnuDCWIDGETS", 8, CommandId(L"mnuDCEXIT")), -1);
+}
+
+}  // namespace
+}  // namespace varnel

@@ -1,0 +1,92 @@
+#include "theme/text_painter_win.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "base/halo.h"
+#include "theme/contrast.h"
+#include "theme/system_colours_win.h"
+
+namespace varnel {
+namespace {
+
+constexpr int kFaintWeight = 110;
+
+UINT DrawFlags(Align align) {
+  const UINT across = align == Align::kLeft    ? DT_LEFT
+                      : align == Align::kRight ? DT_RIGHT
+                                               : DT_CENTER;
+  return across | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS;
+}
+
+void DrawPlain(HDC dc, HFONT font, const Rect& box, const std::wstring& text,
+               const TextStyle& style, COLORREF colour) {
+  const SelectedObject selected(dc, font);
+  ::SetBkMode(dc, TRANSPARENT);
+  ::SetTextColor(dc, colour);
+  RECT area = ToSystem(box);
+  ::DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &area, DrawFlags(style.align));
+}
+
+// Letters of any size get a rim in proportion; small ones a relatively wide one, for it is their
+// only ground.
+HaloShape ShapeFor(const TextStyle& style) {
+  const double unit = style.dpi / static_cast<double>(kDefaultDpi);
+  const double height = style.font.height;
+  return {std::max(1.0 * unit, height / 26), std::max(1.6 * unit, height / 16)};
+}
+
+// How much of each pixel of `box` the text covers.
+Mask CoverageOf(HFONT font, Size size, const std::wstring& text, const TextStyle& style) {
+  Surface surface(size);
+  DrawPlain(surface.dc(), font, {0, 0, size.width, size.height}, text, style, RGB(255, 255, 255));
+  Mask mask(size.width, size.height);
+  const auto pixels = surface.pixels();
+  const auto values = mask.All();
+  for (std::size_t i = 0; i < std::min(pixels.size(), values.size()); ++i) {
+    values[i] = static_cast<std::uint8_t>(pixels[i] >> 8);
+  }
+  return mask;
+}
+
+// The part of `box` that lies on the surface.
+Rect Clipped(const Rect& box, Size size) {
+  return {std::max(box.left, 0), std::max(box.top, 0), std::min(box.right, size.width),
+          std::min(box.bottom, size.height)};
+}
+
+}  // namespace
+
+void PaintText(Ui& ui, Surface& surface, const Rect& box, const std::wstring& text,
+               const TextStyle& style) {
+  const Rect area = Clipped(box, surface.size());
+  if (area.empty() || text.empty()) return;
+  HFONT font = ui.fonts.Get(style.font);
+  const UserSystemColours system;
+  if (style.faint) {
+    DrawPlain(surface.dc(), font, area, text, style,
+              Blend(style.colour, style.ground, kFaintWeight, system));
+    return;
+  }
+  const double needed = NeededContrast(style.font.height, style.dpi, style.font.bold);
+  const auto halo =
+      HaloColour(style.colour, style.ground, style.halo_base, needed, system);
+  if (!halo) {
+    DrawPlain(surface.dc(), font, area, text, style, style.colour);
+    return;
+  }
+  const Mask letters = CoverageOf(font, {area.width(), area.height()}, text, style);
+  const auto pixels = surface.pixels();
+  if (pixels.empty()) return;
+  Image image(area.width(), area.height());
+  const auto row_of = [&](int y) {
+    return pixels.subspan(static_cast<std::size_t>(area.top + y) * surface.size().width + area.left,
+                          area.width());
+  };
+  for (int y = 0; y < image.height(); ++y) std::ranges::copy(row_of(y), image.Row(y).begin());
+  CompositeText(image, {0, 0}, letters, HaloMask(letters, ShapeFor(style)),
+                OpaquePixel(style.colour), OpaquePixel(*halo));
+  for (int y = 0; y < image.height(); ++y) std::ranges::copy(image.Row(y), row_of(y).begin());
+}
+
+}  // namespace varnel

@@ -1,0 +1,66 @@
+#include "theme/themed_label_win.h"
+
+namespace varnel {
+
+bool ThemedLabel::Load(HWND parent, int id) {
+  Creation creation;
+  creation.class_name = L"VarnelLabel";
+  creation.style = WS_CHILD;
+  creation.parent = parent;
+  creation.id = id;
+  return Create(creation);
+}
+
+void ThemedLabel::SetText(const std::wstring& text) {
+  if (text == shown_text_) return;
+  shown_text_ = text;
+  ::SetWindowTextW(handle(), text.c_str());
+  ::InvalidateRect(handle(), nullptr, FALSE);
+}
+
+void ThemedLabel::SetGlyph(wchar_t glyph) {
+  if (glyph == glyph_) return;
+  glyph_ = glyph;
+  ::InvalidateRect(handle(), nullptr, FALSE);
+}
+
+void ThemedLabel::Place(const Rect& box, const TextStyle& style) {
+  ::SetWindowPos(handle(), nullptr, box.left, box.top, box.width(), box.height(),
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+  if (style == style_) return;
+  style_ = style;
+  ::InvalidateRect(handle(), nullptr, FALSE);
+}
+
+void ThemedLabel::Show(bool shown) {
+  // The window's own style, not its visibility, which depends on the form's.
+  const bool now = ::GetWindowLongPtrW(handle(), GWL_STYLE) & WS_VISIBLE;
+  if (now != shown) ::ShowWindow(handle(), shown ? SW_SHOWNA : SW_HIDE);
+}
+
+LRESULT ThemedLabel::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+  switch (message) {
+    case WM_PAINT:
+      Paint();
+      return 0;
+    case WM_ERASEBKGND:
+      return 1;
+    case WM_NCHITTEST:
+      return HTTRANSPARENT;  // the mouse belongs to the form
+    default:
+      return Window::OnMessage(message, wparam, lparam);
+  }
+}
+
+void ThemedLabel::Paint() {
+  PAINTSTRUCT paint;
+  HDC dc = ::BeginPaint(handle(), &paint);
+  const Rect area = client();
+  Surface surface({area.width(), area.height()});
+  FillRectangle(surface.dc(), area, style_.ground);
+  PaintText(ui(), surface, area, glyph_ ? std::wstring(1, glyph_) : shown_text_, style_);
+  surface.CopyTo(dc, {0, 0});
+  ::EndPaint(handle(), &paint);
+}
+
+}  // namespace varnel

@@ -1,0 +1,35 @@
+// A label of a widget's panel: its window text is what it shows.
+#pragma once
+
+#include "theme/text_painter_win.h"
+#include "win/window.h"
+
+namespace varnel {
+
+class ThemedLabel : public Window {
+ public:
+  using Window::Window;
+
+  // `id` is the control's number in `parent`. False when the system refuses.
+  bool Load(HWND parent, int id);
+
+  // Shows `text`; a text that is shown already costs nothing and repaints nothing.
+  void SetText(const std::wstring& text);
+  // A glyph of the symbol font drawn in place of the window text, which stays the label's name for
+  // those who cannot see it.
+  void SetGlyph(wchar_t glyph);
+
+  // Places the label (pixels of the parent) and sets how it is painted.
+  void Place(const Rect& box, const TextStyle& style);
+  void Show(bool shown);
+
+ private:
+  LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
+  void Paint();
+
+  std::wstring shown_text_;
+  wchar_t glyph_ = 0;
+  TextStyle style_;
+};
+
+}  // namespace varnel

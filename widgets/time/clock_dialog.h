@@ -1,0 +1,23 @@
+// The clock's properties: time style, date style, what is shown, and the alarm sound.
+#pragma once
+
+#include "core/services.h"
+#include "win/dialog.h"
+
+namespace varnel {
+
+class ClockDialog : public Dialog {  // frmCLKpr
+ public:
+  explicit ClockDialog(Services& services);
+
+ private:
+  void OnOpen() override;
+  void OnCommand(int id, int code) override;
+  void Store();
+  void Browse();
+  void EnableDependents();
+
+  Services& services_;
+};
+
+}  // namespace varnel

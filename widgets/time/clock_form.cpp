@@ -1,0 +1,95 @@
+#include "widgets/time/clock_form.h"
+
+#include "core/shared_menu.h"
+#include "resources/control_ids.h"
+#include "win/font_measure.h"
+
+namespace varnel {
+namespace {
+
+constexpr int kTickMs = 100;
+constexpr Command kProperties{L"mnuCLOCKPROPS", L"Clock &properties..."};
+constexpr Command kAlarms{L"mnuCLOCKALARMSET", L"A&larms..."};
+constexpr Command kKeepOnTop{L"mnuCLOCKTOP", L"Keep cloc&k on top"};
+
+}  // namespace
+
+ClockForm::ClockForm(Services& services, const FormEntry& entry, int index)
+    : WidgetForm(services, entry, index),
+      lblPANECLOCK_(services.ui),
+      lblSECS_(services.ui),
+      lblSTYLE_(services.ui),
+      lbl7Sept2010_(services.ui),
+      tmrCLOCK_(*this, kTickMs, [this] { OnTick(); }) {}
+
+void ClockForm::OnLoad() {
+  lblPANECLOCK_.Load(handle(), lblPANECLOCK);
+  lblSECS_.Load(handle(), lblSECS);
+  lblSTYLE_.Load(handle(), lblSTYLE);
+  lbl7Sept2010_.Load(handle(), lbl7Sept2010);
+  tmrCLOCK_.Start();
+}
+
+void ClockForm::OnTick() {
+  // Ten ticks a second keep the change of the second prompt; only one of them has anything to show.
+  if (visible() && services().clock.Now().second != second_) RefreshContent();
+}
+
+void ClockForm::RefreshContent() {
+  const LocalTime now = services().clock.Now();
+  second_ = now.second;
+  const std::wstring former_status = StatusText();
+  shown_ = ReadDisplay(LoadClockSettings(services().settings), now, services().formatter);
+  if (ShapeOf(shown_) != shape_) LayOutPanel(layout().pfrPANEL);
+  lblPANECLOCK_.SetText(shown_.time);
+  lblSECS_.SetText(shown_.seconds);
+  lblSTYLE_.SetText(shown_.marker);
+  lbl7Sept2010_.SetText(shown_.date);
+  if (StatusText() != former_status) RepaintStatus();
+}
+
+void ClockForm::LayOutPanel(const Rect& panel) {
+  shape_ = ShapeOf(shown_);
+  labels_ = LayOutClock({panel.width(), panel.height()}, dpi(), shape_,
+                        FontMeasure(theme().strTHEMEPANELFONTNAME, false));
+  PlaceLabels();
+}
+
+void ClockForm::PlaceLabels() {
+  const Rect& panel = layout().pfrPANEL;
+  const auto place = [&](ThemedLabel& label, const LabelPlace& place) {
+    const Rect box{panel.left + place.box.left, panel.top + place.box.top,
+                   panel.left + place.box.right, panel.top + place.box.bottom};
+    label.Place(box, PanelTextStyle(place.font_height));
+    label.Show(place.shown());
+  };
+  place(lblPANECLOCK_, labels_.time);
+  place(lblSECS_, labels_.seconds);
+  place(lblSTYLE_, labels_.marker);
+  place(lbl7Sept2010_, labels_.date);
+}
+
+std::wstring ClockForm::StatusText() const {
+  // A date that the panel has no room for stands in the strip.
+  return labels_.date.shown() ? L"" : shown_.date;
+}
+
+std::vector<MenuItem> ClockForm::MenuGroup() const {
+  return {ItemOf(kProperties), ItemOf(kAlarms, services().program.HasDialog(L"frmCLKas")),
+          ItemOf(kKeepOnTop, true, on_top())};
+}
+
+bool ClockForm::RunOwnCommand(int id) {
+  if (id == CommandId(kProperties.name)) {
+    services().program.OpenDialog(L"frmCLKpr");
+  } else if (id == CommandId(kAlarms.name)) {
+    services().program.OpenDialog(L"frmCLKas");
+  } else if (id == CommandId(kKeepOnTop.name)) {
+    SetOnTop(!on_top());
+  } else {
+    return false;
+  }
+  return true;
+}
+
+}  // namespace varnel

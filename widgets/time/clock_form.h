@@ -1,0 +1,37 @@
+// The clock widget.
+#pragma once
+
+#include "core/widget_form.h"
+#include "theme/themed_label_win.h"
+#include "widgets/time/clock_layout.h"
+
+namespace varnel {
+
+class ClockForm : public WidgetForm {  // frmCLKwg
+ public:
+  ClockForm(Services& services, const FormEntry& entry, int index);
+
+ private:
+  void OnLoad() override;
+  void OnUnload() override { tmrCLOCK_.Stop(); }
+  void LayOutPanel(const Rect& panel) override;
+  void RefreshContent() override;
+  std::wstring StatusText() const override;
+  std::vector<MenuItem> MenuGroup() const override;
+  bool RunOwnCommand(int id) override;
+
+  void OnTick();
+  void PlaceLabels();
+
+  ClockDisplay shown_;
+  ClockDisplay shape_;  // what the labels are laid out for
+  ClockLayout labels_;
+  int second_ = -1;  // of the last refresh
+  ThemedLabel lblPANECLOCK_;
+  ThemedLabel lblSECS_;
+  ThemedLabel lblSTYLE_;
+  ThemedLabel lbl7Sept2010_;
+  Timer tmrCLOCK_;
+};
+
+}  // namespace varnel

@@ -1,0 +1,47 @@
+#include "win/debug_log.h"
+
+#include <windows.h>
+
+#include "base/number_text.h"
+#include "base/text.h"
+#include "win/handles.h"
+
+namespace varnel {
+namespace {
+
+constexpr LONGLONG kMostBytes = 512 * 1024;
+
+std::wstring TimeStamp() {
+  SYSTEMTIME now;
+  ::GetLocalTime(&now);
+  return PaddedNumber(now.wYear, 4) + L"-" + PaddedNumber(now.wMonth, 2) + L"-" +
+         PaddedNumber(now.wDay, 2) + L" " + PaddedNumber(now.wHour, 2) + L":" +
+         PaddedNumber(now.wMinute, 2) + L":" + PaddedNumber(now.wSecond, 2) + L" ";
+}
+
+void AppendLine(const std::wstring& path, std::wstring_view line) {
+  WIN32_FILE_ATTRIBUTE_DATA data;
+  if (::GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data) &&
+      data.nFileSizeLow > kMostBytes) {
+    ::MoveFileExW(path.c_str(), (path + L".old").c_str(), MOVEFILE_REPLACE_EXISTING);
+  }
+  const UniqueFile file(::CreateFileW(path.c_str(), FILE_APPEND_DATA, FILE_SHARE_READ, nullptr,
+                                      OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+  if (!file) return;
+  const std::string bytes = Utf8FromWide(TimeStamp() + std::wstring(line) + L"\r\n");
+  DWORD written = 0;
+  ::WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
+}
+
+}  // namespace
+
+void DebugLog::Write(std::wstring_view line) const noexcept {
+  try {
+    ::OutputDebugStringW((std::wstring(line) + L"\n").c_str());
+    if (!path_.empty()) AppendLine(path_, line);
+  } catch (...) {
+    // Out of memory while reporting a fault: there is nobody left to tell.
+  }
+}
+
+}  // namespace varnel

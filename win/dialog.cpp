@@ -1,0 +1,80 @@
+#include "win/dialog.h"
+
+#include <exception>
+
+#include "base/text.h"
+
+namespace varnel {
+
+bool Dialog::Open(HWND owner) {
+  if (!handle_) {
+    WNDCLASSEXW description = {};
+    description.cbSize = sizeof description;
+    description.lpfnWndProc = ::DefDlgProcW;
+    description.cbWndExtra = DLGWINDOWEXTRA;
+    description.hInstance = ui_.instance;
+    description.hCursor = ::LoadCursorW(nullptr, MAKEINTRESOURCEW(32512));  // the arrow
+    description.hIcon = ::LoadIconW(ui_.instance, MAKEINTRESOURCEW(kApplicationIcon));
+    description.lpszClassName = form_name_;
+    ::RegisterClassExW(&description);
+    ::CreateDialogParamW(ui_.instance, form_name_, owner, &Procedure,
+                         reinterpret_cast<LPARAM>(this));
+    if (!handle_) return false;
+  }
+  ::ShowWindow(handle_, SW_SHOW);
+  ::SetForegroundWindow(handle_);
+  return true;
+}
+
+void Dialog::Close() {
+  if (handle_) ::DestroyWindow(handle_);
+}
+
+std::wstring Dialog::ControlText(int id) const {
+  std::wstring text(::GetWindowTextLengthW(Control(id)), L'\0');
+  text.resize(::GetWindowTextW(Control(id), text.data(), static_cast<int>(text.size()) + 1));
+  return text;
+}
+
+void Dialog::SetControlText(int id, const std::wstring& text) {
+  ::SetWindowTextW(Control(id), text.c_str());
+}
+
+void Dialog::SetChecked(int id, bool on) {
+  ::CheckDlgButton(handle_, id, on ? BST_CHECKED : BST_UNCHECKED);
+}
+
+INT_PTR CALLBACK Dialog::Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam) {
+  if (message == WM_INITDIALOG) {
+    ::SetWindowLongPtrW(handle, DWLP_USER, lparam);
+    reinterpret_cast<Dialog*>(lparam)->handle_ = handle;
+  }
+  auto* dialog = reinterpret_cast<Dialog*>(::GetWindowLongPtrW(handle, DWLP_USER));
+  return dialog ? dialog->Guarded(message, wparam, lparam) : FALSE;
+}
+
+INT_PTR Dialog::Guarded(UINT message, WPARAM wparam, LPARAM lparam) noexcept {
+  try {
+    switch (message) {
+      case WM_INITDIALOG:
+        OnOpen();
+        return TRUE;
+      case WM_COMMAND:
+        OnCommand(LOWORD(wparam), HIWORD(wparam));
+        return TRUE;
+      case WM_NCDESTROY:
+        ::SetWindowLongPtrW(handle_, DWLP_USER, 0);
+        handle_ = nullptr;
+        return FALSE;
+      default:
+        return OnMessage(message, wparam, lparam);
+    }
+  } catch (const std::exception& fault) {
+    ui_.log.Write(std::wstring(form_name_) + L" failed: " + WideFromUtf8(fault.what()));
+  } catch (...) {
+    ui_.log.Write(std::wstring(form_name_) + L" failed");
+  }
+  return FALSE;
+}
+
+}  // namespace varnel

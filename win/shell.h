@@ -1,0 +1,46 @@
+// Small services of the shell and the process.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+namespace varnel {
+
+// The full path of the running program file.
+std::wstring ProgramPath();
+
+// The words of the command line after the program's own name.
+std::vector<std::wstring> CommandLineWords();
+
+// Opens an http or https address with the shell's "OPEN" verb in the user's browser; anything else
+// is refused. False when it was refused or failed.
+bool OpenWebPage(HWND owner, const std::wstring& address);
+
+// Shows `folder` in the system's file manager.
+bool OpenFolder(HWND owner, const std::wstring& folder);
+
+// The system's folder picker; empty when the user cancelled.
+std::wstring BrowseForFolder(HWND owner, const std::wstring& title);
+
+// The system's dialog for choosing an existing file. `filter` in the platform's form: pairs of name
+// and pattern, each ended by a zero. Empty when the user cancelled.
+std::wstring BrowseForFile(HWND owner, const wchar_t* title, const wchar_t* filter);
+
+// A message box with an OK button and the information sign.
+void ShowInformation(HWND owner, const std::wstring& text, const std::wstring& title);
+
+// Shows the hourglass pointer for the length of a scope.
+class HourglassPointer {
+ public:
+  HourglassPointer() : former_(::SetCursor(::LoadCursorW(nullptr, MAKEINTRESOURCEW(32514)))) {}
+  HourglassPointer(const HourglassPointer&) = delete;
+  HourglassPointer& operator=(const HourglassPointer&) = delete;
+  ~HourglassPointer() { ::SetCursor(former_); }
+
+ private:
+  HCURSOR former_;
+};
+
+}  // namespace varnel

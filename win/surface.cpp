@@ -1,0 +1,43 @@
+#include "win/surface.h"
+
+#include <algorithm>
+
+namespace varnel {
+
+Surface::Surface(Size size)
+    : size_{std::max(size.width, 1), std::max(size.height, 1)}, dc_(::CreateCompatibleDC(nullptr)) {
+  BITMAPINFO info = {};
+  info.bmiHeader.biSize = sizeof info.bmiHeader;
+  info.bmiHeader.biWidth = size_.width;
+  info.bmiHeader.biHeight = -size_.height;  // rows from the top
+  info.bmiHeader.biPlanes = 1;
+  info.bmiHeader.biBitCount = 32;
+  void* bits = nullptr;
+  bitmap_ = UniqueBitmap(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+  bits_ = static_cast<std::uint32_t*>(bits);
+  if (bitmap_) ::SelectObject(dc_.get(), bitmap_.get());
+}
+
+std::span<std::uint32_t> Surface::pixels() {
+  if (!bits_) return {};
+  ::GdiFlush();
+  return {bits_, static_cast<std::size_t>(size_.width) * size_.height};
+}
+
+void Surface::CopyTo(HDC target, Point corner) const {
+  ::BitBlt(target, corner.x, corner.y, size_.width, size_.height, dc(), 0, 0, SRCCOPY);
+}
+
+void FillRectangle(HDC dc, const Rect& rect, COLORREF colour) {
+  const RECT system = ToSystem(rect);
+  ::SetDCBrushColor(dc, colour);
+  ::FillRect(dc, &system, static_cast<HBRUSH>(::GetStockObject(DC_BRUSH)));
+}
+
+void FrameRectangle(HDC dc, const Rect& rect, COLORREF colour) {
+  const RECT system = ToSystem(rect);
+  ::SetDCBrushColor(dc, colour);
+  ::FrameRect(dc, &system, static_cast<HBRUSH>(::GetStockObject(DC_BRUSH)));
+}
+
+}  // namespace varnel

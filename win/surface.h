@@ -1,0 +1,46 @@
+// A block of pixels that the platform can draw on and that engines can read and write.
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+#include <span>
+
+#include "base/geometry.h"
+#include "win/handles.h"
+
+namespace varnel {
+
+class Surface {
+ public:
+  // A black surface of at least 1 x 1 pixels. When the system has no memory for it `dc` is null,
+  // `pixels` empty, and drawing has no effect.
+  explicit Surface(Size size);
+
+  HDC dc() const { return bitmap_ ? dc_.get() : nullptr; }
+  Size size() const { return size_; }
+  // Rows from the top, each `size().width` long; blue in the low byte. Flushes pending drawing.
+  std::span<std::uint32_t> pixels();
+
+  void CopyTo(HDC target, Point corner) const;
+
+ private:
+  Size size_;
+  UniqueBitmap bitmap_;
+  UniqueDc dc_;  // destroyed before the bitmap it holds
+  std::uint32_t* bits_ = nullptr;
+};
+
+void FillRectangle(HDC dc, const Rect& rect, COLORREF colour);
+// A one-pixel line inside the edges of `rect`.
+void FrameRectangle(HDC dc, const Rect& rect, COLORREF colour);
+
+inline RECT ToSystem(const Rect& rect) {
+  return {rect.left, rect.top, rect.right, rect.bottom};
+}
+inline Rect FromSystem(const RECT& rect) {
+  return {static_cast<int>(rect.left), static_cast<int>(rect.top), static_cast<int>(rect.right),
+          static_cast<int>(rect.bottom)};
+}
+
+}  // namespace varnel

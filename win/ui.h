@@ -1,0 +1,20 @@
+// What every window of the program shares.
+#pragma once
+
+#include <windows.h>
+
+#include "win/debug_log.h"
+#include "win/fonts.h"
+
+namespace varnel {
+
+// The number of the program's icon among its resources.
+inline constexpr int kApplicationIcon = 1;
+
+struct Ui {
+  HINSTANCE instance = nullptr;
+  DebugLog log;
+  FontCache fonts;
+};
+
+}  // namespace varnel

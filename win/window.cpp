@@ -1,0 +1,125 @@
+#include "win/window.h"
+
+#include <algorithm>
+#include <exception>
+
+#include "base/number_text.h"
+#include "base/text.h"
+#include "win/surface.h"
+#include "win/timer.h"
+
+namespace varnel {
+
+Window::~Window() {
+  Destroy();
+}
+
+int Window::dpi() const {
+  return handle_ ? static_cast<int>(::GetDpiForWindow(handle_)) : kDefaultDpi;
+}
+
+Rect Window::client() const {
+  RECT rect = {};
+  ::GetClientRect(handle_, &rect);
+  return FromSystem(rect);
+}
+
+Rect Window::screen_rect() const {
+  RECT rect = {};
+  ::GetWindowRect(handle_, &rect);
+  return FromSystem(rect);
+}
+
+std::wstring Window::text() const {
+  std::wstring text(::GetWindowTextLengthW(handle_), L'\0');
+  text.resize(::GetWindowTextW(handle_, text.data(), static_cast<int>(text.size()) + 1));
+  return text;
+}
+
+Window* Window::FromHandle(HWND handle) {
+  if (::GetClassLongPtrW(handle, GCLP_WNDPROC) != reinterpret_cast<ULONG_PTR>(&Procedure)) {
+    return nullptr;
+  }
+  return reinterpret_cast<Window*>(::GetWindowLongPtrW(handle, GWLP_USERDATA));
+}
+
+bool Window::Create(const Creation& creation) {
+  WNDCLASSEXW description = {};
+  description.cbSize = sizeof description;
+  description.lpfnWndProc = &Procedure;
+  description.hInstance = ui_.instance;
+  description.hCursor = ::LoadCursorW(nullptr, MAKEINTRESOURCEW(32512));  // the arrow
+  description.hIcon = ::LoadIconW(ui_.instance, MAKEINTRESOURCEW(kApplicationIcon));
+  description.lpszClassName = creation.class_name;
+  if (!::RegisterClassExW(&description) && ::GetLastError() != ERROR_CLASS_ALREADY_EXISTS) {
+    return false;
+  }
+  const Rect& place = creation.place;
+  return ::CreateWindowExW(creation.extended_style, creation.class_name, creation.title.c_str(),
+                           creation.style, place.left, place.top, place.width(), place.height(),
+                           creation.parent,
+                           reinterpret_cast<HMENU>(static_cast<INT_PTR>(creation.id)), ui_.instance,
+                           this) != nullptr;
+}
+
+void Window::Destroy() {
+  if (handle_) ::DestroyWindow(handle_);
+}
+
+LRESULT Window::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+  return ::DefWindowProcW(handle_, message, wparam, lparam);
+}
+
+LRESULT CALLBACK Window::Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam) {
+  if (message == WM_NCCREATE) {
+    auto* window = static_cast<Window*>(reinterpret_cast<CREATESTRUCTW*>(lparam)->lpCreateParams);
+    window->handle_ = handle;
+    ::SetWindowLongPtrW(handle, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(window));
+  }
+  auto* window = reinterpret_cast<Window*>(::GetWindowLongPtrW(handle, GWLP_USERDATA));
+  return window ? window->Guarded(message, wparam, lparam)
+                : ::DefWindowProcW(handle, message, wparam, lparam);
+}
+
+LRESULT Window::Guarded(UINT message, WPARAM wparam, LPARAM lparam) noexcept {
+  try {
+    if (message == WM_TIMER) {
+      OnTimer(wparam);
+      return 0;
+    }
+    const LRESULT result = OnMessage(message, wparam, lparam);
+    if (message == WM_NCDESTROY) {
+      ::SetWindowLongPtrW(handle_, GWLP_USERDATA, 0);
+      handle_ = nullptr;
+    }
+    return result;
+  } catch (const std::exception& fault) {
+    ui_.log.Write(L"message " + NumberText(message) + L" failed: " + WideFromUtf8(fault.what()));
+  } catch (...) {
+    ui_.log.Write(L"message " + NumberText(message) + L" failed");
+  }
+  return 0;
+}
+
+void Window::OnTimer(UINT_PTR id) {
+  const auto found = std::find_if(timers_.begin(), timers_.end(),
+                                  [id](Timer* timer) { return timer->id() == id; });
+  if (found != timers_.end()) (*found)->Tick();
+}
+
+int RunMessageLoop() {
+  MSG message;
+  while (::GetMessageW(&message, nullptr, 0, 0) > 0) {
+    if (message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST) {
+      HWND top = ::GetAncestor(message.hwnd, GA_ROOT);
+      Window* window = Window::FromHandle(top);
+      if (window && window->OnKey(message)) continue;
+      if (::IsDialogMessageW(top, &message)) continue;
+    }
+    ::TranslateMessage(&message);
+    ::DispatchMessageW(&message);
+  }
+  return static_cast<int>(message.wParam);
+}
+
+}  // namespace varnel

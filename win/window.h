@@ -1,0 +1,75 @@
+// The base of every window that the program draws itself.
+#pragma once
+
+#include <windows.h>
+
+#include <memory>
+#include <vector>
+
+#include "base/geometry.h"
+#include "win/ui.h"
+
+namespace varnel {
+
+class Timer;
+
+class Window {
+ public:
+  explicit Window(Ui& ui) : ui_(ui) {}
+  Window(const Window&) = delete;
+  Window& operator=(const Window&) = delete;
+  virtual ~Window();
+
+  HWND handle() const { return handle_; }
+  // Dots to the inch of the monitor the window is on; 96 before it is created.
+  int dpi() const;
+  Rect client() const;       // in pixels, corner 0, 0
+  Rect screen_rect() const;  // in pixels of the screen
+  bool visible() const { return ::IsWindowVisible(handle_) != FALSE; }
+  std::wstring text() const;
+
+  // The window object behind a handle made by this class, or null for any other window.
+  static Window* FromHandle(HWND handle);
+
+  // Sees a key message for this window or a control in it before anything else does; true when it
+  // has been dealt with.
+  virtual bool OnKey(const MSG&) { return false; }
+
+ protected:
+  struct Creation {
+    const wchar_t* class_name = L"";
+    std::wstring title;
+    DWORD style = WS_POPUP;
+    DWORD extended_style = 0;
+    Rect place;  // in pixels of the screen, or of the parent's client area
+    HWND parent = nullptr;
+    int id = 0;  // of a child window
+  };
+
+  // Makes the system's window; the second step of construction. Five messages arrive before it
+  // returns, so members have to be ready. False when the system refuses.
+  [[nodiscard]] bool Create(const Creation& creation);
+  void Destroy();
+
+  // Handles one message; what it does not know goes to the next base and at last to the system. It
+  // may throw: the message is then logged and counts as handled with 0.
+  virtual LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam);
+
+  Ui& ui() const { return ui_; }
+
+ private:
+  friend class Timer;
+  static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam);
+  LRESULT Guarded(UINT message, WPARAM wparam, LPARAM lparam) noexcept;
+  void OnTimer(UINT_PTR id);
+
+  Ui& ui_;
+  HWND handle_ = nullptr;
+  std::vector<Timer*> timers_;
+};
+
+// Runs messages until the program posts its quit message; gives that message's exit code. Keys go
+// first to the top-level window's OnKey, then to the system's keyboard handling for dialogs.
+int RunMessageLoop();
+
+}  // namespace varnel
