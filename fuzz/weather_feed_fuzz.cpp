@@ -1,0 +1,48 @@
+// Any response, through the field rule and the reader. The first byte chooses the scale.
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+
+#include "base/text.h"
+#include "widgets/weather/feed_text.h"
+#include "widgets/weather/weather_feed.h"
+
+namespace {
+
+void Require(bool holds) {
+  if (!holds) std::abort();
+}
+
+std::size_t CountOf(std::wstring_view text, wchar_t unit) {
+  std::size_t count = 0;
+  for (const wchar_t one : text) count += one == unit ? 1 : 0;
+  return count;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  if (size == 0) return 0;
+  const bool fahrenheit = data[0] % 2 == 1;
+  const std::wstring response =
+      varnel::WideFromUtf8({reinterpret_cast<const char*>(data) + 1, size - 1});
+  const std::wstring text = varnel::NormaliseFeed(response);
+  Require(CountOf(text, L',') == 0 && CountOf(text, L'\r') == CountOf(text, L'\n'));
+  Require(text.empty() == response.empty() && (text.empty() || text.ends_with(L"\r\n")));
+
+  varnel::WeatherData weather;
+  weather.TemperatureF = 59;
+  const auto labels = varnel::DataFileRead(text, fahrenheit, weather);
+  Require(labels.has_value() != text.empty());
+  if (!labels) return 0;
+  Require(weather.TemperatureF > 0 && !weather.ConditionText.empty());
+  Require(labels->txtCURRENT.size() <= 1000 && labels->lblDESC == weather.ConditionText);
+  Require(labels->lblWeathersymbol >= 0 && labels->lblWeathersymbol <= 99);
+  for (const varnel::ForecastSlot& slot : labels->pfrFORECAST) {
+    Require(slot.lblFOREDATE.size() + slot.lblFORETEMP.size() <= 1001);
+  }
+  const auto again = varnel::DataFileRead(text, fahrenheit, weather);
+  Require(again && again->txtFINALNOW == labels->txtFINALNOW &&
+          again->lblTEMPERATURE == labels->lblTEMPERATURE);
+  return 0;
+}

@@ -1,0 +1,310 @@
+#include "widgets/weather/weather_feed.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "tests/support/weather_samples.h"
+#include "widgets/weather/feed_text.h"
+
+namespace varnel {
+namespace {
+
+using test::FeedSample;
+using test::FeedText;
+
+struct Reading {
+  WeatherData data;
+  WeatherLabels labels;
+};
+
+Reading Read(const std::wstring& raw, bool fahrenheit = false, double earlier = 0) {
+  Reading reading;
+  reading.data.TemperatureF = earlier;
+  reading.labels = DataFileRead(NormaliseFeed(raw), fahrenheit, reading.data).value();
+  return reading;
+}
+
+Reading ReadSample(const FeedSample& sample, bool fahrenheit = false, double earlier = 0) {
+  return Read(FeedText(sample), fahrenheit, earlier);
+}
+
+TEST(FeedFields, EveryCommaAndLineEndEndsAField) {
+  const struct {
+    const wchar_t* response;
+    const wchar_t* text;
+  } cases[] = {
+      {L"", L""},
+      {L"a", L"a\r\n"},
+      {L"London, United Kingdom", L"London\r\nUnited Kingdom\r\n"},
+      {L"a\r\nb\rc\nd", L"a\r\nb\r\nc\r\nd\r\n"},
+      {L"a,\r\nb", L"a\r\n\r\nb\r\n"},
+      {L"a\r\n", L"a\r\n\r\n"},
+      {L"\n\r", L"\r\n\r\n\r\n"},
+      {L"   a b  ,\tc", L"a b  \r\n\tc\r\n"},
+      {L" \"quoted\",\"\",\"", L"quoted\r\n\r\n\"\r\n"},
+      {L"\"\"twice\"\"", L"\"twice\"\r\n"},
+      {L"\"a,b\"", L"\"a\r\nb\"\r\n"},
+      {L"<a b=\"c\">", L"<a b=\"c\">\r\n"},
+  };
+  for (const auto& test : cases) EXPECT_EQ(NormaliseFeed(test.response), test.text);
+}
+
+TEST(FeedFields, NothingIsReadBeyondTheLimit) {
+  const std::wstring longest(kMostFeedText, L',');
+  EXPECT_EQ(NormaliseFeed(longest).size(), 2 * (kMostFeedText + 1));
+  EXPECT_EQ(NormaliseFeed(longest + L"more"), NormaliseFeed(longest));
+}
+
+TEST(WeatherFeed, AWholeReading) {
+  const Reading reading = ReadSample({});
+  EXPECT_EQ(reading.data.LocationTitle, L"London, United Kingdom");
+  EXPECT_EQ(reading.data.ConditionText, L"Mostly Cloudy");
+  EXPECT_EQ(reading.data.TemperatureF, 50);
+  EXPECT_EQ(reading.labels.txtCURRENT.rfind(L"Current Weather Conditions In London", 0), 0u);
+  EXPECT_LE(reading.labels.txtCURRENT.size(), 1000u);
+  EXPECT_EQ(reading.labels.lblWeatherCountry, L"London, United Kingdom");
+  EXPECT_EQ(reading.labels.lblWeathersymbol, 28);
+  EXPECT_EQ(reading.labels.lblTEMPERATURE, L"10C");
+  EXPECT_EQ(reading.labels.lblDESC, L"Mostly Cloudy");
+  EXPECT_EQ(reading.labels.txtFINALNOW, L"London, United Kingdom\r\n\r\nMostly Cloudy\r\n\r\n50");
+  const auto& days = reading.labels.pfrFORECAST;
+  EXPECT_EQ(days[0].lblFOREDATE, L"Sat");
+  EXPECT_EQ(days[0].lblFORETEMP, L"72/55");
+  EXPECT_EQ(days[0].lblFOREICON, 28);
+  EXPECT_EQ(days[1].lblFOREDATE, L"Sun");
+  EXPECT_EQ(days[1].lblFOREICON, 3);
+  EXPECT_EQ(days[2].lblFORETEMP, L"64/49");
+  EXPECT_EQ(days[2].lblFOREICON, 19);
+  EXPECT_EQ(ReadSample({}, true).labels.lblTEMPERATURE, L"50F ");
+}
+
+TEST(WeatherFeed, AnEmptyTextChangesNothing) {
+  WeatherData data{L"title", L"words", L"block", 41};
+  EXPECT_FALSE(DataFileRead(L"", true, data));
+  EXPECT_EQ(data.LocationTitle, L"title");
+  EXPECT_EQ(data.TemperatureF, 41);
+}
+
+TEST(WeatherFeed, OnlyAWholeTemperatureAboveZeroIsTakenOver) {
+  const struct {
+    const wchar_t* temperature;
+    double kept;
+    const wchar_t* label;
+  } cases[] = {{L"1", 1, L"1F "},          {L"0", 59, L"59F "},   {L"-4", 59, L"59F "},
+               {L"57.5", 59, L"59F "},     {L"N/A", 59, L"59F "}, {L"101", 101, L"101F "},
+               {L"57\u00B0", 59, L"59F "}, {L"", 59, L"-"}};
+  for (const auto& test : cases) {
+    FeedSample sample;
+    sample.temperature = test.temperature;
+    const Reading reading = ReadSample(sample, true, 59);
+    EXPECT_EQ(reading.data.TemperatureF, test.kept) << test.temperature;
+    EXPECT_EQ(reading.labels.lblTEMPERATURE, test.label) << test.temperature;
+  }
+  FeedSample cold;
+  cold.temperature = L"-4";
+  EXPECT_EQ(ReadSample(cold, false, 50).labels.lblTEMPERATURE, L"10C");
+  EXPECT_TRUE(ReadSample(cold, false, 50).labels.txtFINALNOW.ends_with(L"\r\n\r\n-4"));
+}
+
+TEST(WeatherFeed, AMissingTemperatureIsTold) {
+  const std::wstring raw = test::With<std::wstring>(FeedText(), L", and 50 &deg; F.", L".");
+  const Reading reading = Read(raw, false, 50);
+  EXPECT_EQ(reading.labels.lblTEMPERATURE, L"-");
+  EXPECT_EQ(reading.labels.txtFINALNOW,
+            L"London, United Kingdom\r\n\r\nMostly Cloudy.\r\n\r\nNo Temp");
+}
+
+TEST(WeatherFeed, ConditionFixUpsInTheirOrder) {
+  const struct {
+    const wchar_t* condition;
+    const wchar_t* image;
+    const wchar_t* shown;
+    int icon;
+  } cases[] = {{L"", L"28.gif", L"None", 28},
+               {L"Fair", L"44.gif", L"No Description", 25},
+               {L"Fair", L"25.gif", L"None", 25},
+               {L"", L"44.gif", L"No Description", 25},
+               {L"No Description", L"27.gif", L"Partly Cloudy", 0},
+               {L"No Description", L"29.gif", L"No Description", 27},
+               {L"Fair", L"27.gif", L"Fair", 0},
+               {L"25.gif 44.gif", L"27.gif", L"Partly Cloudy", 0}};
+  for (const auto& test : cases) {
+    FeedSample sample;
+    sample.condition = test.condition;
+    sample.image = std::wstring(L"http://feed.example/icons/") + test.image;
+    const Reading reading = ReadSample(sample);
+    EXPECT_EQ(reading.labels.lblDESC, test.shown) << test.condition << test.image;
+    EXPECT_EQ(reading.data.ConditionText, test.shown);
+    EXPECT_EQ(reading.labels.lblWeathersymbol, test.icon) << test.image;
+  }
+}
+
+TEST(WeatherFeed, TheIconIsTheNumberOfTheImagesFile) {
+  const struct {
+    const wchar_t* image;
+    int icon;
+  } cases[] = {{L"http://h/31/4.gif", 3},   {L"4.gif", 3},       {L"c:\\a/b\\32.gif", 32},
+               {L"http://h/a\\17.gif", 17}, {L"/x/123.gif", 12}, {L"/x/na.gif", 25},
+               {L"/x/-1.gif", 25},          {L"", 25},           {L"/x/", 25},
+               {L"/x/99.gif", 99}};
+  for (const auto& test : cases) {
+    FeedSample sample;
+    sample.image = test.image;
+    EXPECT_EQ(ReadSample(sample).labels.lblWeathersymbol, test.icon) << test.image;
+  }
+}
+
+TEST(WeatherFeed, IconsAreReducedInOneStep) {
+  const int expected[48] = {0,  1,  1,  3,  3,  5,  5,  5,  5,  9,  5,  9,  12, 13, 13, 13,
+                            13, 17, 5,  19, 19, 19, 19, 23, 24, 25, 26, 0,  28, 27, 28, 31,
+                            32, 27, 28, 35, 32, 3,  3,  9,  40, 13, 13, 13, 25, 9,  13, 3};
+  for (int code = 0; code < 48; ++code) EXPECT_EQ(ReducedIcon(code), expected[code]) << code;
+  EXPECT_EQ(ReducedIcon(99), 99);
+}
+
+TEST(WeatherFeed, TheLocationLabelHasTwoFields) {
+  const struct {
+    const wchar_t* title;
+    const wchar_t* label;
+  } cases[] = {{L"New York, New York", L"New York, New York"},
+               {L"Kralendijk, Bonaire, Saba", L"Kralendijk, Bonaire"},
+               {L"Nowhere", L"Nowhere, "},
+               {L"A,B", L"A, B"}};
+  for (const auto& test : cases) {
+    FeedSample sample;
+    sample.title = test.title;
+    EXPECT_EQ(ReadSample(sample).labels.lblWeatherCountry, test.label);
+  }
+}
+
+TEST(WeatherFeed, MissingMarkersLeaveTheirSlicesEmpty) {
+  const Reading junk = Read(L"<html><body>Not found, sorry</body></html>", false, 50);
+  EXPECT_EQ(junk.labels.lblDESC, L"None");
+  EXPECT_EQ(junk.labels.lblTEMPERATURE, L"-");
+  EXPECT_EQ(junk.labels.lblWeathersymbol, kIconNotAvailable);
+  EXPECT_EQ(junk.labels.pfrFORECAST[0].lblFORETEMP, L"");
+  EXPECT_EQ(junk.data.TemperatureF, 50);
+  EXPECT_FALSE(HoldsWeather(L"<html>"));
+  EXPECT_TRUE(HoldsWeather(FeedText()));
+
+  using test::With;
+  for (const wchar_t* marker : {L"]]></title>\n    <link>http://feed.example/now", L"<description>",
+                                L"</description>", L"/>", L"For more details", L"---"}) {
+    const Reading reading = Read(With<std::wstring>(FeedText(), marker, L""), true, 50);
+    EXPECT_FALSE(reading.labels.lblDESC.empty()) << marker;
+  }
+}
+
+TEST(WeatherFeed, AnItemEndsAfterAThousandCharacters) {
+  FeedSample sample;
+  sample.condition = std::wstring(900, L'x');
+  const Reading reading = ReadSample(sample);
+  EXPECT_EQ(reading.labels.txtCURRENT.size(), 1000u);
+  EXPECT_EQ(reading.data.DescriptionBlock, L"");
+  EXPECT_EQ(reading.labels.lblDESC, L"None");
+}
+
+TEST(WeatherFeed, CelsiusIsCutToHundredthsAndRoundedToTenths) {
+  const struct {
+    double f, c;
+  } cases[] = {{50, 10},   {33, 0.6},  {32, 0},     {31, -0.6}, {212, 100},
+               {-40, -40}, {1, -17.2}, {100, 37.8}, {34, 1.1},  {32.09, 0.1}};
+  for (const auto& test : cases) EXPECT_DOUBLE_EQ(FahrenheitToCelsius(test.f), test.c) << test.f;
+  EXPECT_EQ(TemperatureLabel(33, false), L"1C");
+  EXPECT_EQ(TemperatureLabel(31, false), L"-1C");
+  EXPECT_EQ(TemperatureLabel(31.9, false), L"0C");
+  EXPECT_EQ(TemperatureLabel(5, true), L"5F ");
+}
+
+TEST(Forecast, WordsAreSearchedInTheirOrder) {
+  const struct {
+    const wchar_t* words;
+    int icon;
+  } cases[] = {{L"Mostly Sunny", 28},
+               {L"Sunny", 32},
+               {L"Scattered Thunderstorms", 3},
+               {L"Cloudy", 19},
+               {L"PARTLY CLOUDY", 28},
+               {L"Fair and Windy", 28},
+               {L"Clear", 31},
+               {L"Rain / Snow", 9},
+               {L"Snow Showers", 5},
+               {L"Thundershowers", 9},
+               {L"Isolated Storms", 3},
+               {L"Mist", 19},
+               {L"Windy", 24},
+               {L"Haze", 25},
+               {L"", 25},
+               {L"Mostly Clear", 31},
+               {L"Sunny then Showers", 9}};
+  for (const auto& test : cases) {
+    EXPECT_EQ(ForecastIcon(test::EntryText({L"Sat", test.words, L"72", L"55"})), test.icon)
+        << test.words;
+  }
+  EXPECT_EQ(ForecastIcon(L"Rain before the colon: / High 72&"), 25);
+  EXPECT_EQ(ForecastIcon(L"Sat: Low 40 after a clear night"), 31);
+  EXPECT_EQ(ForecastIcon(L"Sat:High"), 25);
+}
+
+TEST(Forecast, TemperaturesOfAnEntry) {
+  const struct {
+    const wchar_t* entry;
+    const wchar_t* temps;
+  } cases[] = {{L"Sat: Fair / High 72&deg; F / Low 55&deg; F", L"72/55"},
+               {L"Sat: Fair / High  72 &deg; F / Low -5 &deg; F", L"72/-5"},
+               {L"Sat: Fair / High 72 AM &deg; F / Low PM 55&deg; F", L"72/5"},
+               {L"Sat: Fair / High 72 PM &deg; F / Low 55&deg; F", L"72/55"},
+               {L"Sat: Fair / Low 55&deg; F / High 72&deg; F", L"72/"},
+               {L"Sat: Fair / Low 55&deg; F", L"/55"},
+               {L"Sat: Fair / High 72", L"/"},
+               {L"High", L"/"},
+               {L"", L"/"}};
+  for (const auto& test : cases) EXPECT_EQ(ForecastTemps(test.entry), test.temps) << test.entry;
+}
+
+TEST(Forecast, SlotsAreFilledInTurn) {
+  FeedSample sample;
+  sample.days = {{L"Tonight", L"Clear", L"null", L"40"}, {L" Sun ", L"Rain", L"null", L"null"}};
+  const auto slots = ReadSample(sample).labels.pfrFORECAST;
+  EXPECT_EQ(slots[0].lblFORETEMP, L"/40");
+  EXPECT_EQ(slots[1].lblFOREDATE, L"Sun");
+  EXPECT_EQ(slots[1].lblFORETEMP, L"/");
+  EXPECT_EQ(slots[2].lblFOREDATE, L"");
+  EXPECT_EQ(slots[2].lblFORETEMP, L"");
+  EXPECT_EQ(slots[2].lblFOREICON, kIconNotAvailable);
+  EXPECT_EQ(ForecastDay(L"\r\nMon: Rain"), L"Mon");
+  EXPECT_EQ(ForecastDay(L"no colon"), L"");
+}
+
+// Whatever is lost, doubled or changed on the way, reading ends with bounded texts.
+TEST(WeatherFeed, DamagedFeedsAreReadToo) {
+  const std::wstring good = FeedText();
+  std::mt19937 random(7);
+  const auto any = [&](std::size_t below) { return random() % below; };
+  for (int round = 0; round < 3000; ++round) {
+    std::wstring raw = good;
+    for (std::size_t damages = 1 + any(4); damages > 0; --damages) {
+      const std::size_t at = any(raw.size());
+      switch (any(3)) {
+        case 0:
+          raw.erase(at, any(60));
+          break;
+        case 1:
+          raw.insert(at, good.substr(any(good.size()), any(200)));
+          break;
+        default:
+          raw[at] = L"]<>&:-,\r\n/\"9H\0"[any(14)];
+      }
+    }
+    const Reading reading = Read(raw, any(2) == 0, 50);
+    EXPECT_GT(reading.data.TemperatureF, 0);
+    EXPECT_FALSE(reading.labels.lblTEMPERATURE.empty());
+    for (const ForecastSlot& slot : reading.labels.pfrFORECAST) {
+      EXPECT_LE(slot.lblFOREDATE.size() + slot.lblFORETEMP.size(), 1000u);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace varnel

@@ -1,0 +1,19 @@
+// A fetched response, made ready for the feed reader.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace varnel {
+
+// The longest response that is read, in characters; what follows is left out.
+inline constexpr std::size_t kMostFeedText = std::size_t{1} << 20;
+
+// The fields of a response, one a line: every comma and every line end (CR LF, CR or LF) ends a
+// field, also inside quotes; a field loses its leading blanks and then one pair of quotes around
+// it, and is followed by CR LF. The end of the text ends the last field, so "a" and "a,b" give one
+// and two lines. An empty response gives an empty text.
+std::wstring NormaliseFeed(std::wstring_view response);
+
+}  // namespace varnel

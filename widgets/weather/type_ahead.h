@@ -1,0 +1,23 @@
+// Finds list items as the user types.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace varnel {
+
+// The text in the form that searching compares: lower case, letters without their accents (Latin
+// letters; ligatures as two letters), hyphens as blanks, apostrophes and full stops left out.
+// Other writing is kept as it is.
+std::wstring FoldForSearch(std::wstring_view text);
+
+// The item that `typed` means: the first that begins with it, else the first with a later word
+// that does, both compared folded. Nothing when none does or nothing was typed. Completing to a
+// whole item keeps the list's own spelling in the box, which is what resolving a place needs.
+std::optional<std::size_t> TypeAheadMatch(std::span<const std::wstring> items,
+                                          std::wstring_view typed);
+
+}  // namespace varnel

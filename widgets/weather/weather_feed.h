@@ -1,0 +1,70 @@
+// Reads the weather feed: current conditions and a three-day forecast, from the text that
+// NormaliseFeed makes. A missing marker never fails; what it should have led to is then empty.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace varnel {
+
+// What is known of the current weather; kept between readings.
+struct WeatherData {
+  std::wstring LocationTitle;     // city and country, comma-separated, as the feed names them
+  std::wstring ConditionText;     // such as "Partly Cloudy"
+  std::wstring DescriptionBlock;  // the description element of the current item, as it came
+  double TemperatureF = 0;        // the last feed temperature above 0 degrees Fahrenheit
+};
+
+// The icon that stands for weather not known.
+inline constexpr int kIconNotAvailable = 25;
+
+struct ForecastSlot {
+  std::wstring lblFOREDATE;
+  std::wstring lblFORETEMP;
+  int lblFOREICON = kIconNotAvailable;  // an icon number
+};
+
+// The texts for the widget's labels and for the settings form's working boxes.
+struct WeatherLabels {
+  std::wstring txtCURRENT;
+  std::wstring lblWeatherCountry;
+  int lblWeathersymbol = kIconNotAvailable;  // an icon number
+  std::wstring lblTEMPERATURE;
+  std::wstring lblDESC;
+  std::wstring txtFINALNOW;
+  std::array<ForecastSlot, 3> pfrFORECAST;
+};
+
+// Whether the text holds current conditions or a forecast at all. Where it does not, the fetch
+// brought something else and the labels had better stay.
+bool HoldsWeather(std::wstring_view txtDATA);
+
+// Reads current conditions and forecast. `fahrenheit` is the scale of the temperature label; the
+// forecast is shown as the feed gives it. Nothing for an empty text: every label then stays.
+// A temperature that is no whole number above 0 is not taken over: `data.TemperatureF`, and the
+// label with it, keep the earlier one.
+std::optional<WeatherLabels> DataFileRead(std::wstring_view txtDATA, bool fahrenheit,
+                                          WeatherData& data);
+
+// Reads the forecast alone. A day that the text lacks leaves its slot blank.
+std::array<ForecastSlot, 3> DataFileRead10Days(std::wstring_view txtDATA);
+
+// The icon shown for an image number of the feed; numbers that are not merged stay as they are.
+int ReducedIcon(int feed_code);
+
+// 5/9 * (f - 32), cut to hundredths after adding 0.0005, then rounded to tenths, halves away from
+// zero: 33 gives 0.6.
+double FahrenheitToCelsius(double f);
+
+// The temperature label in whole degrees: "50F " or "10C".
+std::wstring TemperatureLabel(double f, bool fahrenheit);
+
+// Parts of one forecast entry, such as "Sat: Mostly Sunny / High 72&deg; F / Low 55&deg; F":
+// "Sat", "72/55" and 28.
+std::wstring ForecastDay(std::wstring_view entry);
+std::wstring ForecastTemps(std::wstring_view entry);
+int ForecastIcon(std::wstring_view entry);
+
+}  // namespace varnel
