@@ -49,6 +49,19 @@ Size PixelSize(Size size, int dpi) {
   return {PixelsFromTwips(size.width, dpi), PixelsFromTwips(size.height, dpi)};
 }
 
+// The monitor that shows most of `pixels`, or else the nearest one; null without any monitor.
+const Monitor* NearestMonitor(const Rect& pixels, const Screens& screens) {
+  const Monitor* nearest = nullptr;
+  for (const Monitor& monitor : screens.monitors) {
+    if (monitor.work_area.empty()) continue;
+    if (nearest == nullptr ||
+        Nearness(pixels, monitor.work_area) > Nearness(pixels, nearest->work_area)) {
+      nearest = &monitor;
+    }
+  }
+  return nearest;
+}
+
 const Monitor* MonitorAt(Point pixel, const Screens& screens) {
   return NearestMonitor(RectAt(pixel, {1, 1}), screens);
 }
@@ -116,18 +129,6 @@ constexpr std::wstring_view kWidthName = L"Width";
 constexpr std::wstring_view kHeightName = L"Height";
 
 }  // namespace
-
-const Monitor* NearestMonitor(const Rect& pixels, const Screens& screens) {
-  const Monitor* nearest = nullptr;
-  for (const Monitor& monitor : screens.monitors) {
-    if (monitor.work_area.empty()) continue;
-    if (nearest == nullptr ||
-        Nearness(pixels, monitor.work_area) > Nearness(pixels, nearest->work_area)) {
-      nearest = &monitor;
-    }
-  }
-  return nearest;
-}
 
 Rect PixelsFromPlace(const Place& place, const Screens& screens) {
   const Point corner = PixelCorner(place, screens);
@@ -213,13 +214,6 @@ StoredPlace ReadPosition(const Settings& settings, std::wstring_view form_name,
   if (section.Read(settings, kStateName, 0, 0, kMaximised) == kMaximised) {
     stored.state = WindowState::kMaximised;
   }
-  return stored;
-}
-
-StoredPlace RestorePosition(const Settings& settings, std::wstring_view form_name,
-                            const Place& fallback, bool include_size, const Screens& screens) {
-  StoredPlace stored = ReadPosition(settings, form_name, fallback, include_size);
-  stored.place = FitPlace(stored.place, screens);
   return stored;
 }
 

@@ -3,10 +3,9 @@
 // The model's lengths are twips. A position is the same distance from the desktop's origin for
 // every window, so it is converted by the system's resolution; a size is what the user sees, so it
 // is converted by the resolution of the monitor that the window's corner is nearest to. Rectangles
-// in pixels are those of the platform's virtual desktop.
+// in pixels are those of the platform's virtual desktop. Without any monitor nothing is moved.
 #pragma once
 
-#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -32,9 +31,6 @@ struct Place {
   bool operator==(const Place&) const = default;
 };
 
-// The monitor that shows most of `pixels`, or else the nearest one; null without any monitor.
-const Monitor* NearestMonitor(const Rect& pixels, const Screens& screens);
-
 Rect PixelsFromPlace(const Place& place, const Screens& screens);
 Place PlaceFromPixels(const Rect& pixels, const Screens& screens);
 
@@ -51,8 +47,8 @@ struct SnappedPosition {
 // another point than `old`, which is brought up to date.
 bool SnapToGrid(Point& corner, SnappedPosition& old);
 
-// `pixels` moved into the work area of its nearest monitor; one that is larger than the area keeps
-// its top left corner there.
+// `pixels` moved into the work area of the monitor that shows most of it, or else of the nearest
+// one; a window that is larger than the area keeps its top left corner there.
 Rect KeepOnScreen(const Rect& pixels, const Screens& screens);
 
 // The size that the size grip gives `place`: on the grid, but never beyond the work area, and never
@@ -63,9 +59,10 @@ Size SnapSize(const Place& place, const Screens& screens);
 // made smaller, though not below kSmallestSize.
 Place FitPlace(const Place& place, const Screens& screens);
 
+inline constexpr int kManagerIndex = -1;
+
 // The place of a form that has none stored, in a tiling of the primary monitor three wide and three
 // high: the manager (or any index that is no widget's) in the first cell, the widgets after it.
-inline constexpr int kManagerIndex = -1;
 Place DefaultPlace(int index, const Screens& screens);
 
 // The numbers are those of the stored value "Window State".
@@ -86,9 +83,5 @@ void SavePosition(Settings& settings, std::wstring_view form_name, WindowState s
 // A minimised window comes back normal, for nothing on the desktop would show where it is.
 StoredPlace ReadPosition(const Settings& settings, std::wstring_view form_name,
                          const Place& fallback, bool include_size);
-
-// ReadPosition brought into what the screens of the moment show.
-StoredPlace RestorePosition(const Settings& settings, std::wstring_view form_name,
-                            const Place& fallback, bool include_size, const Screens& screens);
 
 }  // namespace varnel

@@ -1,6 +1,7 @@
 // The settings store: every setting is a text in the registry, one key to a form or purpose.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
