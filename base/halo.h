@@ -21,7 +21,8 @@ int HaloMargin(const HaloShape& shape);
 
 // The coverage of the halo of `text`, of the same size. Distances are Euclidean, from pixel centre
 // to pixel centre; a partly covered pixel counts as lying farther off by its uncovered share, which
-// keeps the rim of smooth letters smooth, and one under a sixteenth covered casts no halo.
+// keeps the rim of smooth letters smooth (and may cost it up to a pixel beside their corners); one
+// less than a sixteenth covered casts no halo.
 Mask HaloMask(const Mask& text, const HaloShape& shape);
 
 // Lays the halo and then the text over `pixels`, each in its own colour (as pixels hold them), the

@@ -122,15 +122,14 @@ void IniText::SetValue(std::wstring_view section, std::wstring_view key, std::ws
   if (!place.insertion) added.append(L"[").append(section).append(L"]").append(kLineEnd);
   added.append(key).append(L"=").append(line).append(kLineEnd);
   const std::size_t at = place.insertion.value_or(text_.size());
-  const bool inside_line =
-      at > 0 && text_[at - 1] != L'\r' && text_[at - 1] != L'\n' && text_[at - 1] != kMark;
+  const bool inside_line = at > Start() && text_[at - 1] != L'\r' && text_[at - 1] != L'\n';
   if (inside_line) added.insert(0, kLineEnd);
   text_.insert(at, added);
 }
 
 IniText::Place IniText::Find(std::wstring_view section, std::wstring_view key) const {
   Place place;
-  for (std::size_t at = text_.starts_with(kMark) ? 1 : 0; at < text_.size();) {
+  for (std::size_t at = Start(); at < text_.size();) {
     const Span line = LineAt(at);
     at = AfterLineEnd(line.end);
     const auto content =
@@ -164,8 +163,12 @@ std::size_t IniText::AfterLineEnd(std::size_t at) const {
   return std::min(at + (both ? 2 : 1), text_.size());
 }
 
+std::size_t IniText::Start() const {
+  return text_.starts_with(kMark) ? 1 : 0;
+}
+
 void IniText::UseUtf16() {
-  if (!text_.starts_with(kMark)) text_.insert(text_.begin(), kMark);
+  if (Start() == 0) text_.insert(text_.begin(), kMark);
   encoding_ = Encoding::kUtf16;
 }
 

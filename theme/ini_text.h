@@ -48,6 +48,7 @@ class IniText {
   };
 
   Place Find(std::wstring_view section, std::wstring_view key) const;
+  std::size_t Start() const;  // after the byte-order mark
   // The line that starts at `at`, without its end, and the start of the next one.
   Span LineAt(std::size_t at) const;
   std::size_t AfterLineEnd(std::size_t at) const;

@@ -1,0 +1,156 @@
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <random>
+
+#include "tests/support/fixed_system_colours.h"
+#include "tests/support/memory_files.h"
+#include "theme/chrome_colours.h"
+#include "theme/contrast.h"
+#include "theme/gradient.h"
+#include "theme/preset.h"
+#include "theme/preset_generator.h"
+
+namespace varnel {
+namespace {
+
+const test::FixedSystemColours kSystem;
+
+TEST(Contrast, KnownFigures) {
+  EXPECT_DOUBLE_EQ(RelativeLuminance(kBlack), 0);
+  EXPECT_NEAR(RelativeLuminance(kWhite), 1, 1e-12);
+  EXPECT_NEAR(RelativeLuminance(0x0000FF), 0.2126, 1e-12);  // red
+  EXPECT_NEAR(ContrastRatio(kBlack, kWhite), 21, 1e-9);
+  EXPECT_NEAR(ContrastRatio(0x777777, kWhite), 4.48, 0.005);  // the classic near miss
+  EXPECT_NEAR(ContrastRatio(kWhite, 0x767676), 4.54, 0.005);
+  EXPECT_DOUBLE_EQ(ContrastRatio(0x123456, 0x123456), 1);
+}
+
+TEST(Contrast, LargeTextNeedsLess) {
+  const struct {
+    int height, dpi;
+    bool bold;
+    double needed;
+  } cases[] = {{24, 96, false, 3},  {23, 96, false, 4.5},  {19, 96, true, 3},
+               {18, 96, true, 4.5}, {47, 192, false, 4.5}, {48, 192, false, 3},
+               {36, 144, false, 3}, {28, 144, true, 3},    {24, 0, false, 3},
+               {-5, 96, false, 4.5}};
+  for (const auto& test : cases) {
+    EXPECT_EQ(NeededContrast(test.height, test.dpi, test.bold), test.needed)
+        << test.height << ' ' << test.dpi << ' ' << test.bold;
+  }
+}
+
+void ExpectReadable(Colour text, Colour ground, Colour theme) {
+  for (const double needed : {3.0, 4.5}) {
+    const auto halo = HaloColour(text, ground, theme, needed, kSystem);
+    const Colour behind = halo.value_or(Translate(ground, kSystem));
+    ASSERT_GE(ContrastRatio(Translate(text, kSystem), behind), needed)
+        << text << " on " << ground << " of theme " << theme;
+  }
+}
+
+TEST(Halo, NoneWhereTextIsReadable) {
+  EXPECT_FALSE(HaloColour(kWhite, kBlack, 0xEF5000, 4.5, kSystem));
+  EXPECT_FALSE(HaloColour(kWhite, test::SystemColour(8), 0xEF5000, 4.5, kSystem));
+  EXPECT_TRUE(HaloColour(kWhite, 0x777777, 0xEF5000, 4.5, kSystem));
+  EXPECT_FALSE(HaloColour(kWhite, 0x777777, 0xEF5000, 3, kSystem));
+}
+
+TEST(Halo, StartsFromTheThemeAndLeadsAwayFromTheText) {
+  // the default blue is dark enough as it is
+  EXPECT_EQ(HaloColour(kWhite, kWhite, 0xEF5000, 4.5, kSystem), 0xEF5000);
+  const auto luminance = [](Colour text, Colour theme) {
+    return RelativeLuminance(*HaloColour(text, text, theme, 4.5, kSystem));
+  };
+  EXPECT_LT(luminance(kWhite, 0x57B6F7), RelativeLuminance(0x57B6F7));
+  EXPECT_GT(luminance(kBlack, 0x202020), RelativeLuminance(0x202020));
+  // black cannot stand out from a dark text that is lighter still than the theme
+  EXPECT_GT(luminance(0x505050, 0x303030), RelativeLuminance(0x505050));
+  // no colour reaches 21 against grey: the better end
+  EXPECT_EQ(HaloColour(0x808080, 0x808080, 0x808080, 21, kSystem), kBlack);
+  EXPECT_EQ(HaloColour(0x606060, 0x606060, 0x606060, 21, kSystem), kWhite);
+}
+
+TEST(Halo, EveryColourCanBeMadeReadable) {
+  std::mt19937 random(11);
+  const auto any = [&random] { return static_cast<Colour>(random() & 0xFFFFFF); };
+  for (int round = 0; round < 4000; ++round) ExpectReadable(any(), any(), any());
+  for (int grey = 0; grey < 256; ++grey) {
+    const Colour text = grey * 0x010101;
+    ExpectReadable(text, text, text);
+    ExpectReadable(text, kNoColour, any());
+  }
+}
+
+TEST(Halo, EveryGeneratedPresetIsReadable) {
+  test::MemoryFiles files;
+  EnsureThemeFolders(files, L"C:", kSystem);
+  int presets = 0;
+  for (const std::wstring_view style : kStyleFolders) {
+    const std::wstring folder = StyleFolderPath(L"C:", style);
+    for (const std::wstring& file : files.FileNames(folder, kPresetEnding)) {
+      ThemeRecord theme;
+      LoadPreset(files, folder, file.substr(0, file.size() - kPresetEnding.size()), theme);
+      const ChromeColours chrome = ApplyChrome(theme, kSystem);
+      const Colour main = theme.lngTHEMECOLOR;
+      ExpectReadable(theme.lngTHEMEBARFONTCOLOR, chrome.bar.first, main);
+      ExpectReadable(theme.lngTHEMEPANELFONTCOLOR, chrome.ground, main);
+      for (const auto look : {ButtonLook::kNormal, ButtonLook::kHover, ButtonLook::kPressed}) {
+        const ColourPair button = ButtonColours(theme, look, kSystem);
+        ExpectReadable(theme.lngTHEMEPANELFONTCOLOR, button.first, main);
+      }
+      ++presets;
+    }
+  }
+  EXPECT_EQ(presets, 140);
+}
+
+TEST(Gradient, RunsFromTheFirstColourToTheSecond) {
+  const std::uint32_t black = OpaquePixel(kBlack);
+  const std::uint32_t white = OpaquePixel(kWhite);
+  const struct {
+    double degrees;
+    Point first, last;  // where the two colours are whole
+  } cases[] = {{0, {0, 3}, {19, 5}},   {180, {19, 0}, {0, 9}}, {90, {7, 9}, {2, 0}},
+               {270, {3, 0}, {4, 9}},  {-90, {3, 0}, {4, 9}},  {45, {0, 9}, {19, 0}},
+               {225, {19, 0}, {0, 9}}, {720, {0, 3}, {19, 5}}};
+  for (const auto& test : cases) {
+    Image image(20, 10);
+    FillGradient(image, kBlack, kWhite, test.degrees, kSystem);
+    EXPECT_EQ(image.At(test.first.x, test.first.y), black) << test.degrees;
+    EXPECT_EQ(image.At(test.last.x, test.last.y), white) << test.degrees;
+    for (const std::uint32_t pixel : image.All()) {
+      ASSERT_EQ(pixel >> 24, 0xFFu);
+      ASSERT_EQ(pixel & 0xFF, pixel >> 16 & 0xFF);  // grey all the way
+    }
+  }
+}
+
+TEST(Gradient, EachChannelGoesItsOwnWayInEvenSteps) {
+  Image image(101, 2);
+  FillGradient(image, ColourOf({0, 100, 200}), ColourOf({100, 50, 200}), 0, kSystem);
+  for (int x = 0; x <= 100; ++x) {
+    const std::uint32_t pixel = image.At(x, 1);
+    EXPECT_EQ(static_cast<int>(pixel >> 16 & 0xFF), x);
+    EXPECT_NEAR(pixel >> 8 & 0xFF, 100 - x / 2.0, 0.5);
+    EXPECT_EQ(pixel & 0xFF, 200u);
+  }
+}
+
+TEST(Gradient, EqualColoursAndSmallOrOddInputs) {
+  Image image(3, 3);
+  FillGradient(image, test::SystemColour(5), kWhite, 261, kSystem);
+  EXPECT_EQ(image, Image(3, 3, OpaquePixel(kWhite)));
+  Image dot(1, 1);
+  for (const double odd : {0.0, 1e300, std::numeric_limits<double>::quiet_NaN(),
+                           std::numeric_limits<double>::infinity()}) {
+    FillGradient(dot, kBlack, kWhite, odd, kSystem);
+    Image none;
+    FillGradient(none, kBlack, kWhite, odd, kSystem);
+    EXPECT_TRUE(none.empty());
+  }
+}
+
+}  // namespace
+}  // namespace varnel
