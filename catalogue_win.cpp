@@ -1,15 +1,20 @@
 #include "catalogue_win.h"
 
 #include "core/options_dialog.h"
+#include "widgets/time/alarm_dialog.h"
 #include "widgets/time/clock_dialog.h"
 #include "widgets/time/clock_form.h"
+#include "widgets/time/countdown_form.h"
+#include "widgets/time/stopwatch_form.h"
 
 namespace varnel {
 namespace {
 
-constexpr CatalogueWidget kWidgets[] = {{0, MakeWidget<ClockForm>}};
+constexpr CatalogueWidget kWidgets[] = {
+    {0, MakeWidget<ClockForm>}, {4, MakeWidget<StopwatchForm>}, {5, MakeWidget<CountdownForm>}};
 constexpr CatalogueDialog kDialogs[] = {{L"frmVRNpr", MakeDialog<OptionsDialog>},
-                                        {L"frmCLKpr", MakeDialog<ClockDialog>}};
+                                        {L"frmCLKpr", MakeDialog<ClockDialog>},
+                                        {L"frmCLKas", MakeDialog<AlarmDialog>, true}};
 constexpr Catalogue kCatalogue{kWidgets, kDialogs};
 
 }  // namespace

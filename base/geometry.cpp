@@ -30,6 +30,11 @@ Rect Inset(const Rect& rect, int amount) {
   return {rect.left + across, rect.top + down, rect.right - across, rect.bottom - down};
 }
 
+Rect Within(const Rect& frame, const Rect& rect) {
+  return {frame.left + rect.left, frame.top + rect.top, frame.left + rect.right,
+          frame.top + rect.bottom};
+}
+
 int PixelsFromTwips(int twips, int dpi) {
   return ScaledRatio(twips, SaneDpi(dpi), kTwipsPerInch);
 }

@@ -33,8 +33,12 @@ struct Rect {
 
 Rect RectAt(Point corner, Size size);
 
-// `rect` made smaller by `amount` on every side; never turned inside out.
+// `rect` made smaller by `amount` on every side, but never turned inside out; larger when it is
+// negative.
 Rect Inset(const Rect& rect, int amount);
+
+// `rect`, measured from the corner of `frame`, measured from where `frame` itself is.
+Rect Within(const Rect& frame, const Rect& rect);
 
 inline constexpr int kTwipsPerInch = 1440;
 inline constexpr int kDefaultDpi = 96;

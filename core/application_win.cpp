@@ -35,9 +35,9 @@ Application::Application(HINSTANCE instance, const CommandLine& command_line,
       catalogue_(catalogue),
       ui_{instance, {}, {}},
       settings_(registry_, RegistryRoot(command_line.settings_title)),
-      services_{ui_,    settings_,  files_,
-                clock_, formatter_, colours_,
-                forms_, *this,      ProgramFolder(command_line),
+      sound_(instance),
+      services_{ui_,      settings_, files_, clock_, formatter_,
+                colours_, forms_,    *this,  sound_, ProgramFolder(command_line),
                 {}},
       menus_(ui_, *this, [this] { SaveEverything(); }),
       tray_(ui_, *this) {}
@@ -84,13 +84,33 @@ void Application::Main() {
     // The manager opens the widgets that were open last time.
     if (manager_->WidgetForm::Load()) manager_->StartUp();
   });
-  Guarded(L"menus", [this] { menus_.Load(InstanceName(command_line_)); });
+  Guarded(L"menus", [this] {
+    LoadResidents();
+    menus_.Load(InstanceName(command_line_));
+  });
   Guarded(L"tray icon", [this] {
     tray_.Unload();
     tray_.Load();
   });
   Guarded(L"update check", [this] { CheckForUpdate(0); });
   Guarded(L"first window", [this] { ShowStartupWindow(); });
+}
+
+void Application::LoadResidents() {
+  for (const CatalogueDialog& entry : catalogue_.dialogs) {
+    if (!entry.resident) continue;
+    auto dialog = entry.create(services_);
+    if (auto* listener = dynamic_cast<AlarmTickListener*>(dialog.get())) {
+      tick_listeners_.push_back(listener);
+    }
+    dialogs_.emplace(std::wstring(entry.form_name), std::move(dialog));
+  }
+  menus_.OnAlarmTick([this] { OnAlarmTick(); });
+}
+
+void Application::OnAlarmTick() {
+  std::erase_if(retired_, [](const auto& form) { return !form->busy(); });
+  for (AlarmTickListener* listener : tick_listeners_) listener->OnAlarmTick();
 }
 
 void Application::ShowStartupWindow() {
@@ -189,7 +209,7 @@ void Application::UnloadWidget(int index) {
   if (!widgets_[index]) return;
   widgets_[index]->Unload();
   // The call may come from one of the form's own handlers, so the form itself goes a little later.
-  menus_.Post([form = std::shared_ptr<WidgetForm>(std::move(widgets_[index]))] {});
+  retired_.push_back(std::move(widgets_[index]));
 }
 
 void Application::ShowWidget(int index, bool shown) {

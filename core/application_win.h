@@ -16,6 +16,7 @@
 #include "theme/system_colours_win.h"
 #include "win/disk_files.h"
 #include "win/local_time.h"
+#include "win/sound.h"
 #include "win/system_registry.h"
 
 namespace varnel {
@@ -58,6 +59,8 @@ class Application : public Program, private WidgetHost {
   void OpenSupportPage() override;
 
   void Main();
+  void LoadResidents();
+  void OnAlarmTick();
   void ShowStartupWindow();
   void UpdateCheckDone(const HttpResult& page);
   void SaveEverything();
@@ -77,6 +80,7 @@ class Application : public Program, private WidgetHost {
   SystemTimeFormatter formatter_;
   UserSystemColours colours_;
   FormRegistry forms_;
+  Sound sound_;
   Services services_;
   std::wstring version_;
   WebAddresses pages_;
@@ -87,7 +91,9 @@ class Application : public Program, private WidgetHost {
   TrayForm tray_;
   std::unique_ptr<ManagerForm> manager_;
   std::array<std::unique_ptr<WidgetForm>, kWidgetCount> widgets_;
+  std::vector<std::unique_ptr<WidgetForm>> retired_;  // unloaded, but perhaps still at work
   std::map<std::wstring, std::unique_ptr<Dialog>, std::less<>> dialogs_;
+  std::vector<AlarmTickListener*> tick_listeners_;  // among the dialogs
 };
 
 }  // namespace varnel

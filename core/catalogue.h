@@ -19,6 +19,14 @@ struct CatalogueWidget {
 struct CatalogueDialog {
   std::wstring_view form_name;
   std::unique_ptr<Dialog> (*create)(Services& services);
+  bool resident = false;  // made at start-up, not when first opened
+};
+
+// A resident dialog that wants every tick of the alarm timer, 100 ms apart, open or not.
+class AlarmTickListener {
+ public:
+  virtual ~AlarmTickListener() = default;
+  virtual void OnAlarmTick() = 0;
 };
 
 struct Catalogue {

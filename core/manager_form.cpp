@@ -31,17 +31,13 @@ void ManagerForm::OnLoad() {
   for (int i = 0; i < kWidgetCount; ++i) {
     const WidgetEntry& widget = *WidgetAt(i);
     buttons().Add(lblNUMBER + i, std::wstring(widget.title), widget.glyph, false);
-    if (!host_.Available(i)) ::EnableWindow(buttons().Find(lblNUMBER + i)->handle, FALSE);
+    buttons().Enable(lblNUMBER + i, host_.Available(i));
   }
 }
 
 void ManagerForm::LayOutPanel(const Rect& panel) {
   const ManagerLayout tiles = LayOutManager(panel, dpi());
-  for (int i = 0; i < kWidgetCount; ++i) {
-    const Rect& tile = tiles.tiles[i];
-    ::MoveWindow(buttons().Find(lblNUMBER + i)->handle, tile.left, tile.top, tile.width(),
-                 tile.height(), TRUE);
-  }
+  for (int i = 0; i < kWidgetCount; ++i) buttons().Place(lblNUMBER + i, tiles.tiles[i]);
 }
 
 void ManagerForm::DrawPanelButton(const ButtonPainting& painting) {
@@ -73,10 +69,7 @@ void ManagerForm::OnControl(int id, int code) {
 void ManagerForm::Mark(int index, bool open) {
   // The star is drawn with the tile; its meaning is a word in the tile's name.
   const std::wstring name(WidgetAt(index)->title);
-  const TextButton* tile = buttons().Find(lblNUMBER + index);
-  if (!tile) return;
-  ::SetWindowTextW(tile->handle, (open ? name + L" (open)" : name).c_str());
-  buttons().Repaint(tile->id);
+  buttons().SetText(lblNUMBER + index, open ? name + L" (open)" : name);
   RepaintStatus();
 }
 

@@ -13,6 +13,7 @@
 
 namespace varnel {
 
+class Sound;
 struct Ui;
 
 struct Services {
@@ -24,6 +25,7 @@ struct Services {
   const SystemColours& colours;
   FormRegistry& forms;
   Program& program;
+  Sound& sound;
   std::wstring program_folder;  // ends in "\"
   DataFolders folders;
 };

@@ -4,17 +4,12 @@
 
 #include "base/image.h"
 #include "base/rounded_box.h"
+#include "win/window_text.h"
 
 namespace varnel {
 namespace {
 
 constexpr double kCornerRadius = 4;  // at 96 dpi
-
-std::wstring WindowText(HWND handle) {
-  wchar_t text[256] = {};
-  ::GetWindowTextW(handle, text, 256);
-  return text;
-}
 
 }  // namespace
 
@@ -30,6 +25,25 @@ bool TextButtons::Add(int id, const std::wstring& word, wchar_t glyph, bool on_b
 const TextButton* TextButtons::Find(int id) const {
   const auto found = std::ranges::find(buttons_, id, &TextButton::id);
   return found == buttons_.end() ? nullptr : &*found;
+}
+
+void TextButtons::SetText(int id, std::wstring_view text) {
+  const TextButton* button = Find(id);
+  if (!button || WindowText(button->handle) == text) return;
+  ::SetWindowTextW(button->handle, std::wstring(text).c_str());
+  Repaint(id);
+}
+
+void TextButtons::Place(int id, const Rect& box) {
+  const TextButton* button = Find(id);
+  if (!button) return;
+  ::SetWindowPos(button->handle, nullptr, box.left, box.top, box.width(), box.height(),
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+  Repaint(id);
+}
+
+void TextButtons::Enable(int id, bool on) {
+  if (const TextButton* button = Find(id)) ::EnableWindow(button->handle, on);
 }
 
 bool TextButtons::OnMouseOver(HWND control) {

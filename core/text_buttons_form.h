@@ -39,6 +39,10 @@ class TextButtons {
   // system refuses.
   bool Add(int id, const std::wstring& word, wchar_t glyph, bool on_bar);
   const TextButton* Find(int id) const;
+  // Without effect on an id that is no button's.
+  void SetText(int id, std::wstring_view text);
+  void Place(int id, const Rect& box);  // pixels of the form
+  void Enable(int id, bool on);
   const std::vector<TextButton>& all() const { return buttons_; }
 
   // The button under the mouse, or null.

@@ -14,6 +14,13 @@ constexpr wchar_t kBarGlyphs[] = {L'\xE204', L'\xE203', L'\xE202'};
 constexpr const wchar_t* kBarWords[] = {L"Menu", L"Hide", L"Close"};
 constexpr int kBarGlyphHeight = 14;
 
+// The user wants to see the focus even while the mouse is used.
+bool KeyboardCuesAlways() {
+  BOOL always = FALSE;
+  ::SystemParametersInfoW(SPI_GETKEYBOARDCUES, 0, &always, 0);
+  return always;
+}
+
 }  // namespace
 
 WidgetForm::WidgetForm(Services& services, const FormEntry& entry, int index)
@@ -49,6 +56,7 @@ bool WidgetForm::Load() {
   }
   CreateBarButtons();
   OnLoad();
+  ShowFocus(KeyboardCuesAlways());
   services_.forms.Add(entry_.form_name, *this);
   ApplyChrome();
   Form_Resize();
@@ -89,9 +97,7 @@ void WidgetForm::Form_Resize() {
   const Rect area = client();
   layout_ = LayOutFrame({area.width(), area.height()}, dpi());
   for (int i = 0; i < kBarButtonCount; ++i) {
-    const Rect& box = layout_.bar_buttons[i];
-    ::MoveWindow(::GetDlgItem(handle(), lablTBARTOP + i), box.left, box.top, box.width(),
-                 box.height(), FALSE);
+    buttons_.Place(lablTBARTOP + i, layout_.bar_buttons[i]);
   }
   ui().fonts.Trim(200);
   LayOutPanel(layout_.pfrPANEL);
@@ -132,6 +138,13 @@ TextStyle WidgetForm::PanelTextStyle(int font_height) const {
   return style;
 }
 
+void WidgetForm::ShowFocus(bool shown) {
+  if (std::exchange(focus_shown_, shown) == shown) return;
+  if (HWND focus = ::GetFocus(); ::IsChild(handle(), focus)) {
+    ::InvalidateRect(focus, nullptr, FALSE);
+  }
+}
+
 void WidgetForm::RepaintStatus() {
   const RECT strip = ToSystem(layout_.picBOTTOMSTRIP);
   ::InvalidateRect(handle(), &strip, FALSE);
@@ -159,14 +172,13 @@ void WidgetForm::DrawButton(const DRAWITEMSTRUCT& item) {
   Surface surface({bounds.width(), bounds.height()});
   FillRectangle(surface.dc(), bounds, button->on_bar ? chrome_.bar.first : chrome_.ground);
   const ButtonLook look = buttons_.LookOf(*button, item);
-  const ButtonPainting painting{
-      *button,
-      surface,
-      bounds,
-      look,
-      ButtonColours(theme_, look, services_.colours),
-      (item.itemState & ODS_FOCUS) != 0 && (item.itemState & ODS_NOFOCUSRECT) == 0,
-      (item.itemState & ODS_DISABLED) == 0};
+  const ButtonPainting painting{*button,
+                                surface,
+                                bounds,
+                                look,
+                                ButtonColours(theme_, look, services_.colours),
+                                (item.itemState & ODS_FOCUS) != 0 && focus_shown_,
+                                (item.itemState & ODS_DISABLED) == 0};
   if (button->on_bar) {
     ButtonPainting small = painting;
     small.bounds = Inset(bounds, Scaled(2, dpi()));
@@ -215,6 +227,9 @@ LRESULT WidgetForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
       return 0;
     case WM_CAPTURECHANGED:
       if (std::exchange(sizing_, false)) SaveState();
+      return 0;
+    case WM_PARENTNOTIFY:
+      if (LOWORD(wparam) == WM_LBUTTONDOWN) ShowFocus(KeyboardCuesAlways());
       return 0;
     case WM_ACTIVATE:
       if (LOWORD(wparam) == WA_INACTIVE) last_focus_ = ::GetFocus();

@@ -79,6 +79,8 @@ class WidgetForm : public Window, public LiveForm {
 
  private:
   void CreateBarButtons();
+  // The focus is shown once the keyboard is used, until the mouse is.
+  void ShowFocus(bool shown);
   void Paint();
   FramePainting Painting() const;
   void DrawButton(const DRAWITEMSTRUCT& item);
@@ -108,6 +110,7 @@ class WidgetForm : public Window, public LiveForm {
   bool on_top_ = false;
   bool own_on_top_ = false;  // on_top_ was chosen for this window alone
   bool sizing_ = false;
+  bool focus_shown_ = false;
   HWND last_focus_ = nullptr;
   TextButtons buttons_;
   Timer tmrBARBTNS_;

@@ -24,7 +24,7 @@ constexpr WidgetEntry kWidgets[] = {
     Entry(2, L"frmCALwg", L"Calendar", L"Calendar Theme Settings"),
     Entry(3, L"frmNOTwg", L"Notes", L"Notes Theme Settings"),
     Entry(4, L"frmSTWwg", L"Stopwatch", L"Stopwatch Theme Settings"),
-    Entry(5, L"frmCDNwg", L"Countdown Timer", L"Countdown Theme Settings"),
+    Entry(5, L"frmCDNwg", L"Countdown", L"Countdown Theme Settings"),
     Entry(6, L"frmWBDwg", L"Whiteboard", L"Whiteboard Theme Settings"),
     Entry(7, L"frmWTHwg", L"Weather", L"Weather Theme Settings"),
 };

@@ -139,6 +139,7 @@ void WidgetForm::SetSize(int width, int height) {
 }
 
 bool WidgetForm::OnKey(const MSG& message) {
+  if (message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN) ShowFocus(true);
   if (message.message != WM_KEYDOWN || !KeyDown(VK_CONTROL)) return false;
   return message.wParam >= VK_LEFT && message.wParam <= VK_DOWN &&
          OnArrow(message.wParam, KeyDown(VK_SHIFT));

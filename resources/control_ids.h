@@ -35,3 +35,35 @@
 #define cmdTest 1132
 #define cmdOKfrmCLKpr 1      // the system's number of a dialog's OK button
 #define cmdCancelfrmCLKpr 2  // and of its Cancel button
+
+// frmSTWwg, the stopwatch
+#define lblELAPSED 1200
+#define lblStartfrmSTWwg 1201
+#define lblStopfrmSTWwg 1202
+
+// frmCDNwg, the countdown
+#define txtHRS 1220  // the display: hours, minutes, seconds
+#define txtMIN 1221
+#define txtSECS 1222
+#define lblSEP1 1223
+#define lblSEP2 1224
+#define txtSUBHRS 1225  // the interval that is counted down from
+#define txtSUBMIN 1226
+#define txtSUBSECS 1227
+#define lblStart 1228
+#define lblStop 1229
+#define lblINTERVAL 1230  // "Set" before the interval's fields; then their three units
+
+// frmCLKas, the alarm settings
+#define chkSET 1300      // 0 to 5
+#define cboTIME 1310     // 0 to 5
+#define txtMESSAGE 1320  // 0 to 5
+#define cmdAlarmPreview 1330
+#define cmdOKfrmCLKas 1
+#define cmdCancelfrmCLKas 2
+
+// frmCLKam, the alarm popup
+#define lablMESSAGE 1340
+#define lablALARMC 1341
+#define lblTitle 1342
+#define imgBUTCLOSE 1343

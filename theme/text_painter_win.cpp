@@ -12,11 +12,12 @@ namespace {
 
 constexpr int kFaintWeight = 110;
 
-UINT DrawFlags(Align align) {
-  const UINT across = align == Align::kLeft    ? DT_LEFT
-                      : align == Align::kRight ? DT_RIGHT
-                                               : DT_CENTER;
-  return across | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS;
+UINT DrawFlags(const TextStyle& style) {
+  const UINT across = style.align == Align::kLeft    ? DT_LEFT
+                      : style.align == Align::kRight ? DT_RIGHT
+                                                     : DT_CENTER;
+  return across | DT_NOPREFIX | DT_END_ELLIPSIS |
+         (style.wrap ? DT_WORDBREAK | DT_EDITCONTROL : DT_VCENTER | DT_SINGLELINE);
 }
 
 void DrawPlain(HDC dc, HFONT font, const Rect& box, const std::wstring& text,
@@ -25,15 +26,20 @@ void DrawPlain(HDC dc, HFONT font, const Rect& box, const std::wstring& text,
   ::SetBkMode(dc, TRANSPARENT);
   ::SetTextColor(dc, colour);
   RECT area = ToSystem(box);
-  ::DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &area, DrawFlags(style.align));
+  const int length = static_cast<int>(text.size());
+  if (style.wrap) {
+    RECT needed = area;
+    ::DrawTextW(dc, text.c_str(), length, &needed, DrawFlags(style) | DT_CALCRECT);
+    area.top += std::max<LONG>(0, (area.bottom - needed.bottom) / 2);
+  }
+  ::DrawTextW(dc, text.c_str(), length, &area, DrawFlags(style));
 }
 
-// Letters of any size get a rim in proportion; small ones a relatively wide one, for it is their
-// only ground.
+// Small letters get a relatively wide rim, for it is their only ground; that of large ones stays slim.
 HaloShape ShapeFor(const TextStyle& style) {
   const double unit = style.dpi / static_cast<double>(kDefaultDpi);
-  const double height = style.font.height;
-  return {std::max(1.0 * unit, height / 26), std::max(1.6 * unit, height / 16)};
+  const double grown = std::min(style.font.height / 40.0, 3 * unit);
+  return {std::max(0.8 * unit, grown * 0.5), std::max(1.4 * unit, grown)};
 }
 
 // How much of each pixel of `box` the text covers.
@@ -44,7 +50,10 @@ Mask CoverageOf(HFONT font, Size size, const std::wstring& text, const TextStyle
   const auto pixels = surface.pixels();
   const auto values = mask.All();
   for (std::size_t i = 0; i < std::min(pixels.size(), values.size()); ++i) {
-    values[i] = static_cast<std::uint8_t>(pixels[i] >> 8);
+    // Smoothing by colour stripes: their mean is the coverage.
+    const std::uint32_t pixel = pixels[i];
+    values[i] =
+        static_cast<std::uint8_t>(((pixel & 0xFF) + (pixel >> 8 & 0xFF) + (pixel >> 16 & 0xFF)) / 3);
   }
   return mask;
 }
@@ -56,6 +65,8 @@ Rect Clipped(const Rect& box, Size size) {
 }
 
 }  // namespace
+
+int HaloRoom(int dpi) { return HaloMargin(ShapeFor({{{}, 1000, false}, 0, 0, 0, {}, dpi, false, false})); }
 
 void PaintText(Ui& ui, Surface& surface, const Rect& box, const std::wstring& text,
                const TextStyle& style) {

@@ -21,6 +21,7 @@ struct TextStyle {
   Colour halo_base = kBlack;  // the colour whose shades a halo is made of
   Align align = Align::kCentre;
   int dpi = kDefaultDpi;
+  bool wrap = false;   // several lines, broken at words
   bool faint = false;  // half lost in the ground and without a halo: what cannot be used now
   bool operator==(const TextStyle&) const = default;
 };
@@ -29,5 +30,8 @@ struct TextStyle {
 // too long for the box ends in an ellipsis. Only pixels inside the box change.
 void PaintText(Ui& ui, Surface& surface, const Rect& box, const std::wstring& text,
                const TextStyle& style);
+
+// The most room, in pixels, that a halo takes around text on a screen of `dpi`.
+int HaloRoom(int dpi);
 
 }  // namespace varnel

@@ -3,6 +3,7 @@
 #include <exception>
 
 #include "base/text.h"
+#include "win/window_text.h"
 
 namespace varnel {
 
@@ -31,9 +32,7 @@ void Dialog::Close() {
 }
 
 std::wstring Dialog::ControlText(int id) const {
-  std::wstring text(::GetWindowTextLengthW(Control(id)), L'\0');
-  text.resize(::GetWindowTextW(Control(id), text.data(), static_cast<int>(text.size()) + 1));
-  return text;
+  return WindowText(Control(id));
 }
 
 void Dialog::SetControlText(int id, const std::wstring& text) {

@@ -3,9 +3,9 @@
 namespace varnel {
 
 TextExtent FontMeasure::Measure(std::wstring_view text, int font_height) const {
-  FontCache fonts;  // a search tries many heights, none of which is worth keeping
+  const UniqueFont font = MakeFont({face_, font_height, bold_});
   const UniqueDc dc(::CreateCompatibleDC(nullptr));
-  const SelectedObject selected(dc.get(), fonts.Get({face_, font_height, bold_}));
+  const SelectedObject selected(dc.get(), font.get());
   SIZE extent = {};
   ::GetTextExtentPoint32W(dc.get(), text.data(), static_cast<int>(text.size()), &extent);
   TEXTMETRICW metrics = {};

@@ -4,18 +4,20 @@
 
 namespace varnel {
 
+UniqueFont MakeFont(const FontSpec& spec) {
+  LOGFONTW description = {};
+  description.lfHeight = -std::max(spec.height, 1);
+  description.lfWeight = spec.bold ? FW_BOLD : FW_NORMAL;
+  description.lfCharSet = DEFAULT_CHARSET;
+  // Plain smoothing leaves small sizes of many fonts jagged, by the fonts' own wish.
+  description.lfQuality = CLEARTYPE_QUALITY;
+  spec.face.copy(description.lfFaceName, LF_FACESIZE - 1);
+  return UniqueFont(::CreateFontIndirectW(&description));
+}
+
 HFONT FontCache::Get(const FontSpec& spec) {
   UniqueFont& font = fonts_[spec];
-  if (!font) {
-    LOGFONTW description = {};
-    description.lfHeight = -std::max(spec.height, 1);
-    description.lfWeight = spec.bold ? FW_BOLD : FW_NORMAL;
-    description.lfCharSet = DEFAULT_CHARSET;
-    // Greyscale smoothing: coloured fringes do not survive translucency and halos.
-    description.lfQuality = ANTIALIASED_QUALITY;
-    spec.face.copy(description.lfFaceName, LF_FACESIZE - 1);
-    font = UniqueFont(::CreateFontIndirectW(&description));
-  }
+  if (!font) font = MakeFont(spec);
   return font.get();
 }
 

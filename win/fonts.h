@@ -25,6 +25,9 @@ struct FontSpec {
 // The symbol font that the program carries.
 inline constexpr wchar_t kIconFontName[] = L"Icon-works";
 
+// A font of one's own, for controls that keep using it.
+UniqueFont MakeFont(const FontSpec& spec);
+
 class FontCache {
  public:
   // The font, made on first use; the platform's stand-in when the face is not installed. Borrowed:

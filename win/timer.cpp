@@ -16,6 +16,7 @@ Timer::~Timer() {
 }
 
 void Timer::Start() {
+  if (!owner_.handle()) return;
   enabled_ = ::SetTimer(owner_.handle(), id(), interval_, nullptr) != 0;
 }
 

@@ -19,6 +19,7 @@ class Timer {
   Timer& operator=(const Timer&) = delete;
   ~Timer();
 
+  // Without effect while the owner has no window.
   void Start();
   void Stop();
   bool enabled() const { return enabled_; }

@@ -30,12 +30,6 @@ Rect Window::screen_rect() const {
   return FromSystem(rect);
 }
 
-std::wstring Window::text() const {
-  std::wstring text(::GetWindowTextLengthW(handle_), L'\0');
-  text.resize(::GetWindowTextW(handle_, text.data(), static_cast<int>(text.size()) + 1));
-  return text;
-}
-
 Window* Window::FromHandle(HWND handle) {
   if (::GetClassLongPtrW(handle, GCLP_WNDPROC) != reinterpret_cast<ULONG_PTR>(&Procedure)) {
     return nullptr;
@@ -82,6 +76,11 @@ LRESULT CALLBACK Window::Procedure(HWND handle, UINT message, WPARAM wparam, LPA
 }
 
 LRESULT Window::Guarded(UINT message, WPARAM wparam, LPARAM lparam) noexcept {
+  ++depth_;
+  struct Leave {
+    int& depth;
+    ~Leave() { --depth; }
+  } leave{depth_};
   try {
     if (message == WM_TIMER) {
       OnTimer(wparam);

@@ -26,10 +26,13 @@ class Window {
   Rect client() const;       // in pixels, corner 0, 0
   Rect screen_rect() const;  // in pixels of the screen
   bool visible() const { return ::IsWindowVisible(handle_) != FALSE; }
-  std::wstring text() const;
 
   // The window object behind a handle made by this class, or null for any other window.
   static Window* FromHandle(HWND handle);
+
+  // A message is being handled, perhaps further down the call stack: not the time to destroy the
+  // object, though its window may go.
+  bool busy() const { return depth_ > 0; }
 
   // Sees a key message for this window or a control in it before anything else does; true when it
   // has been dealt with.
@@ -65,6 +68,7 @@ class Window {
 
   Ui& ui_;
   HWND handle_ = nullptr;
+  int depth_ = 0;  // of messages within messages
   std::vector<Timer*> timers_;
 };
 

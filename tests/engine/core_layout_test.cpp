@@ -9,7 +9,7 @@
 namespace varnel {
 namespace {
 
-bool Within(const Rect& inner, const Rect& outer) {
+bool IsInside(const Rect& inner, const Rect& outer) {
   return inner.empty() || (inner.left >= outer.left && inner.top >= outer.top &&
                            inner.right <= outer.right && inner.bottom <= outer.bottom);
 }
@@ -28,13 +28,13 @@ TEST(FrameLayout, PartsStayInsideAndApartAtEverySize) {
       const FrameLayout frame = LayOutFrame(size, dpi);
       const Rect window{0, 0, size.width, size.height};
       const std::vector<Rect> parts = {frame.pfrBAR, frame.pfrPANEL, frame.picBOTTOMSTRIP};
-      for (const Rect& part : parts) EXPECT_TRUE(Within(part, window));
+      for (const Rect& part : parts) EXPECT_TRUE(IsInside(part, window));
       EXPECT_FALSE(Overlap(frame.pfrBAR, frame.pfrPANEL));
       EXPECT_FALSE(Overlap(frame.pfrPANEL, frame.picBOTTOMSTRIP));
       EXPECT_FALSE(Overlap(frame.status_text, frame.size_grip));
       EXPECT_FALSE(Overlap(frame.title_text, frame.bar_buttons[0]));
       for (const Rect& button : frame.bar_buttons) {
-        EXPECT_TRUE(Within(button, frame.pfrBAR));
+        EXPECT_TRUE(IsInside(button, frame.pfrBAR));
         EXPECT_GE(button.width(), 24);
         EXPECT_GE(button.height(), 24);
       }
@@ -60,15 +60,15 @@ TEST(ManagerLayout, TilesFillThePanelWithoutTouching) {
       long long area = 0;
       for (int i = 0; i < kTileCount; ++i) {
         const Rect& tile = layout.tiles[i];
-        EXPECT_TRUE(Within(tile, panel));
+        EXPECT_TRUE(IsInside(tile, panel));
         EXPECT_FALSE(tile.empty());
         area += static_cast<long long>(tile.width()) * tile.height();
         for (int j = 0; j < i; ++j) EXPECT_FALSE(Overlap(tile, layout.tiles[j]));
         const Size tile_size{tile.width(), tile.height()};
         const TileLayout inside = LayOutTile(tile_size, dpi);
         const Rect bounds{0, 0, tile_size.width, tile_size.height};
-        EXPECT_TRUE(Within(inside.caption, bounds));
-        EXPECT_TRUE(Within(inside.glyph, bounds));
+        EXPECT_TRUE(IsInside(inside.caption, bounds));
+        EXPECT_TRUE(IsInside(inside.glyph, bounds));
         EXPECT_FALSE(Overlap(inside.caption, inside.glyph));
         if (inside.glyph.height() >= 24) EXPECT_LE(inside.glyph_height, inside.glyph.height());
       }

@@ -1,7 +1,7 @@
 #include "widgets/time/clock_dialog.h"
 
 #include "resources/control_ids.h"
-#include "widgets/time/alarms.h"
+#include "widgets/time/alarm_dialog.h"
 #include "widgets/time/clock_engine.h"
 #include "win/shell.h"
 #include "win/ui.h"
@@ -38,7 +38,6 @@ void ClockDialog::EnableDependents() {
   Enable(txtCUSTOM, Checked(optDATECUST));
   Enable(txtAUDIO, Checked(optAUDIOFILE));
   Enable(cmdBrowsefrmCLKpr, Checked(optAUDIOFILE));
-  Enable(cmdTest, false);
 }
 
 void ClockDialog::OnCommand(int id, int code) {
@@ -54,6 +53,9 @@ void ClockDialog::OnCommand(int id, int code) {
     case cmdBrowsefrmCLKpr:
       Browse();
       break;
+    case cmdTest:
+      PlayAlarmSound(services_, ChosenSound());
+      break;
     default:
       EnableDependents();
   }
@@ -62,6 +64,10 @@ void ClockDialog::OnCommand(int id, int code) {
 void ClockDialog::Browse() {
   const std::wstring path = BrowseForFile(handle(), L"Select a file", kSoundFilter);
   if (!path.empty()) SetControlText(txtAUDIO, path);
+}
+
+AlarmSound ClockDialog::ChosenSound() const {
+  return {Checked(optAUDIO), ControlText(txtAUDIO)};
 }
 
 void ClockDialog::Store() {
@@ -73,7 +79,7 @@ void ClockDialog::Store() {
   values.marker = Checked(chkAMPM);
   values.hours_24 = Checked(chk24HR);
   SaveClockSettings(services_.settings, values);
-  SaveAlarmSound(services_.settings, {Checked(optAUDIO), ControlText(txtAUDIO)});
+  SaveAlarmSound(services_.settings, ChosenSound());
   if (LiveForm* clock = services_.forms.Find(L"frmCLKwg")) {
     clock->Form_Resize();
     clock->WidgetRefresh();

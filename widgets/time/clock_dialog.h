@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/services.h"
+#include "widgets/time/alarms.h"
 #include "win/dialog.h"
 
 namespace varnel {
@@ -13,6 +14,7 @@ class ClockDialog : public Dialog {  // frmCLKpr
  private:
   void OnOpen() override;
   void OnCommand(int id, int code) override;
+  AlarmSound ChosenSound() const;
   void Store();
   void Browse();
   void EnableDependents();

@@ -57,10 +57,9 @@ void ClockForm::LayOutPanel(const Rect& panel) {
 
 void ClockForm::PlaceLabels() {
   const Rect& panel = layout().pfrPANEL;
+  const int room = HaloRoom(dpi());
   const auto place = [&](ThemedLabel& label, const LabelPlace& place) {
-    const Rect box{panel.left + place.box.left, panel.top + place.box.top,
-                   panel.left + place.box.right, panel.top + place.box.bottom};
-    label.Place(box, PanelTextStyle(place.font_height));
+    label.Place(Inset(Within(panel, place.box), -room), PanelTextStyle(place.font_height));
     label.Show(place.shown());
   };
   place(lblPANECLOCK_, labels_.time);

@@ -1,17 +1,11 @@
 // How a sound file is played through the platform's media control strings.
 #pragma once
 
-#include <string>
 #include <string_view>
 
-namespace varnel {
+#include "base/media_player.h"
 
-class MediaPlayer {
- public:
-  virtual ~MediaPlayer() = default;
-  // Carries out one command and gives its answer; empty when it has none or fails.
-  virtual std::wstring Send(std::wstring_view command) = 0;
-};
+namespace varnel {
 
 // Closes the file played before and plays `path` in its place, from the start. Failures are silent:
 // a file that is missing, unreadable or of a kind unknown to the player is not heard, nor is a path

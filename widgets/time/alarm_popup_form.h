@@ -1,0 +1,36 @@
+// The alarm popup: one window that comes up beside the system's clock without taking the focus.
+#pragma once
+
+#include "core/services.h"
+#include "core/text_buttons_form.h"
+#include "theme/themed_label_win.h"
+#include "widgets/time/alarms.h"
+#include "win/window.h"
+
+namespace varnel {
+
+class AlarmPopup : public Window {  // frmCLKam
+ public:
+  explicit AlarmPopup(Services& services);
+
+  // Shows the message in the clock's theme; the window is made on first use and then reused.
+  void Ring(const AlarmRing& ring);
+
+ private:
+  bool Load();
+  void LayOut();
+  void Paint();
+  void DrawCloseButton(const DRAWITEMSTRUCT& item);
+  LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
+  TextStyle StyleOf(int height_at_96, Align align) const;
+
+  Services& services_;
+  ThemeRecord theme_;
+  ChromeColours chrome_;
+  ThemedLabel lblTitle_;
+  ThemedLabel lablMESSAGE_;
+  ThemedLabel lablALARMC_;
+  TextButtons buttons_;
+};
+
+}  // namespace varnel

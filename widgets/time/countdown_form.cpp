@@ -1,0 +1,183 @@
+#include "widgets/time/countdown_form.h"
+
+#include "resources/control_ids.h"
+#include "theme/contrast.h"
+#include "win/edit_box.h"
+#include "win/font_measure.h"
+#include "win/sound.h"
+#include "win/window_text.h"
+
+namespace varnel {
+namespace {
+
+constexpr int kTickMs = 1000;
+constexpr int kMostDigits = 3;
+constexpr CountdownField kFields[] = {CountdownField::kHours, CountdownField::kMinutes,
+                                      CountdownField::kSeconds};
+constexpr const wchar_t* kIntervalWords[] = {L"Set", L"h", L"m", L"s"};
+
+}  // namespace
+
+CountdownForm::CountdownForm(Services& services, const FormEntry& entry, int index)
+    : WidgetForm(services, entry, index),
+      engine_(services.settings),
+      tmrTIMER_(*this, kTickMs, [this] { OnTick(); }) {
+  for (auto& label : separators_) label = std::make_unique<ThemedLabel>(services.ui);
+  for (auto& label : interval_labels_) label = std::make_unique<ThemedLabel>(services.ui);
+}
+
+void CountdownForm::OnLoad() {
+  filling_ = true;
+  for (int i = 0; i < 3; ++i) CreateEditBox(handle(), txtHRS + i, ES_CENTER, kMostDigits);
+  for (int i = 0; i < 3; ++i) CreateEditBox(handle(), txtSUBHRS + i, ES_CENTER, kMostDigits);
+  for (int i = 0; i < 2; ++i) {
+    separators_[i]->Load(handle(), lblSEP1 + i);
+    separators_[i]->SetText(L":");
+  }
+  for (int i = 0; i < 4; ++i) {
+    interval_labels_[i]->Load(handle(), lblINTERVAL + i);
+    interval_labels_[i]->SetText(kIntervalWords[i]);
+  }
+  buttons().Add(lblStart, std::wstring(engine_.start_caption()), 0, false);
+  buttons().Add(lblStop, std::wstring(engine_.stop_caption()), 0, false);
+  filling_ = false;
+  ShowFields(0);
+}
+
+void CountdownForm::LayOutPanel(const Rect& panel) {
+  std::wstring longest;
+  for (const CountdownField field : kFields) {
+    longest = std::max(longest, engine_.DisplayText(field),
+                       [](const auto& a, const auto& b) { return a.size() < b.size(); });
+  }
+  const CountdownLayout place = LayOutCountdown({panel.width(), panel.height()}, dpi(), longest,
+                                                FontMeasure(theme().strTHEMEPANELFONTNAME, false));
+  const TextStyle style = PanelTextStyle(place.font_height);
+  UniqueFont font = MakeFont(style.font);
+  for (int i = 0; i < 3; ++i) {
+    PlaceEditBox(::GetDlgItem(handle(), txtHRS + i), Within(panel, place.fields[i]), font.get());
+  }
+  display_font_ = std::move(font);
+  for (int i = 0; i < 2; ++i) {
+    separators_[i]->Place(Within(panel, place.separators[i]), style);
+    separators_[i]->Show(true);
+  }
+  PlaceInterval(place, panel);
+  buttons().Place(lblStart, Within(panel, place.buttons.start));
+  buttons().Place(lblStop, Within(panel, place.buttons.stop));
+}
+
+void CountdownForm::PlaceInterval(const CountdownLayout& place, const Rect& panel) {
+  const bool shown = !place.interval_label.empty();
+  const TextStyle style = PanelTextStyle(place.interval_font_height);
+  for (int i = 0; i < 4; ++i) {
+    const Rect& box = i == 0 ? place.interval_label : place.interval_units[i - 1];
+    interval_labels_[i]->Place(Within(panel, box), style);
+    interval_labels_[i]->Show(shown);
+  }
+  UniqueFont font = MakeFont(style.font);
+  for (int i = 0; i < 3; ++i) {
+    HWND field = ::GetDlgItem(handle(), txtSUBHRS + i);
+    PlaceEditBox(field, Within(panel, place.interval_fields[i]), font.get());
+    ::ShowWindow(field, shown ? SW_SHOWNA : SW_HIDE);
+  }
+  interval_font_ = std::move(font);
+}
+
+void CountdownForm::RefreshContent() {
+  ShowFields(0);
+}
+
+void CountdownForm::ShowFields(int edited_id) {
+  filling_ = true;
+  for (int i = 0; i < 3; ++i) {
+    SetEditText(::GetDlgItem(handle(), txtHRS + i), engine_.DisplayText(kFields[i]));
+    // The field that is being typed in is left to the user.
+    if (txtSUBHRS + i == edited_id) continue;
+    SetEditText(::GetDlgItem(handle(), txtSUBHRS + i), engine_.IntervalText(kFields[i]));
+  }
+  filling_ = false;
+}
+
+void CountdownForm::ShowState() {
+  buttons().SetText(lblStart, engine_.start_caption());
+  buttons().SetText(lblStop, engine_.stop_caption());
+  if (engine_.counting() != tmrTIMER_.enabled()) {
+    if (engine_.counting()) {
+      tmrTIMER_.Start();
+    } else {
+      tmrTIMER_.Stop();
+    }
+  }
+  ShowFields(0);
+  RepaintStatus();
+}
+
+void CountdownForm::OnTick() {
+  switch (engine_.Tick()) {
+    case CountdownTick::kNothing:
+      break;
+    case CountdownTick::kChanged:
+      ShowFields(0);
+      break;
+    case CountdownTick::kEnded:
+      AnnounceEnd();
+      break;
+  }
+}
+
+void CountdownForm::AnnounceEnd() {
+  services().sound.PlayResource(kBellName);
+  ::MessageBoxW(handle(), std::wstring(kCountdownEndText).c_str(),
+                std::wstring(kCountdownEndTitle).c_str(),
+                MB_OK | MB_ICONINFORMATION | (on_top() ? MB_TOPMOST : 0));
+  engine_.AcknowledgeEnd();
+  if (handle()) ShowState();
+}
+
+void CountdownForm::OnControl(int id, int code) {
+  const bool display = id >= txtHRS && id <= txtSECS;
+  const bool interval = id >= txtSUBHRS && id <= txtSUBSECS;
+  if (code == BN_CLICKED && (id == lblStart || id == lblStop)) {
+    if (id == lblStart) {
+      engine_.PressStart();
+    } else {
+      engine_.PressStop();
+    }
+    ShowState();
+  } else if (code == EN_CHANGE && (display || interval) && !filling_) {
+    OnFieldChanged(id);
+  } else if (code == EN_SETFOCUS && (display || interval)) {
+    ::PostMessageW(::GetDlgItem(handle(), id), EM_SETSEL, 0, -1);
+  }
+}
+
+void CountdownForm::OnFieldChanged(int id) {
+  const int index = id >= txtSUBHRS ? id - txtSUBHRS : id - txtHRS;
+  engine_.Edit(kFields[index], WindowText(::GetDlgItem(handle(), id)));
+  ShowFields(id);
+}
+
+LRESULT CountdownForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+  if (message == WM_CTLCOLOREDIT) return ColourField(reinterpret_cast<HDC>(wparam));
+  return WidgetForm::OnMessage(message, wparam, lparam);
+}
+
+LRESULT CountdownForm::ColourField(HDC dc) const {
+  // A field has no halo: where the text needs one, its whole ground takes the halo's colour.
+  const TextStyle style = PanelTextStyle(1);
+  const Colour ground = HaloColour(style.colour, style.ground, style.halo_base,
+                                   NeededContrast(1, dpi(), false), services().colours)
+                            .value_or(style.ground);
+  ::SetTextColor(dc, style.colour);
+  ::SetBkColor(dc, ground);
+  ::SetDCBrushColor(dc, ground);
+  return reinterpret_cast<LRESULT>(::GetStockObject(DC_BRUSH));
+}
+
+std::wstring CountdownForm::StatusText() const {
+  return L"Set to " + engine_.IntervalText(kFields[0]) + L":" + engine_.IntervalText(kFields[1]) +
+         L":" + engine_.IntervalText(kFields[2]);
+}
+
+}  // namespace varnel

@@ -1,0 +1,44 @@
+// The countdown widget.
+#pragma once
+
+#include <array>
+#include <memory>
+
+#include "core/widget_form.h"
+#include "theme/themed_label_win.h"
+#include "widgets/time/countdown_engine.h"
+#include "widgets/time/timer_layout.h"
+
+namespace varnel {
+
+class CountdownForm : public WidgetForm {  // frmCDNwg
+ public:
+  CountdownForm(Services& services, const FormEntry& entry, int index);
+
+ private:
+  void OnLoad() override;
+  void OnUnload() override { tmrTIMER_.Stop(); }
+  void LayOutPanel(const Rect& panel) override;
+  void RefreshContent() override;
+  void OnControl(int id, int code) override;
+  LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
+  std::wstring StatusText() const override;
+
+  void OnTick();
+  void AnnounceEnd();
+  void OnFieldChanged(int id);
+  void ShowFields(int edited_id);
+  void ShowState();
+  void PlaceInterval(const CountdownLayout& place, const Rect& panel);
+  LRESULT ColourField(HDC dc) const;
+
+  CountdownEngine engine_;
+  bool filling_ = false;  // the fields are being written by the program
+  std::array<std::unique_ptr<ThemedLabel>, 2> separators_;
+  std::array<std::unique_ptr<ThemedLabel>, 4> interval_labels_;  // a word, then three units
+  UniqueFont display_font_;                                      // in use by the edit boxes
+  UniqueFont interval_font_;
+  Timer tmrTIMER_;
+};
+
+}  // namespace varnel

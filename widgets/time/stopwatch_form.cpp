@@ -1,0 +1,83 @@
+#include "widgets/time/stopwatch_form.h"
+
+#include "resources/control_ids.h"
+#include "widgets/time/timer_layout.h"
+#include "win/clipboard.h"
+#include "win/font_measure.h"
+
+namespace varnel {
+namespace {
+
+constexpr int kTickMs = 100;
+
+}  // namespace
+
+StopwatchForm::StopwatchForm(Services& services, const FormEntry& entry, int index)
+    : WidgetForm(services, entry, index),
+      display_(services.ui),
+      tmrSTOPWATCH_(*this, kTickMs, [this] { OnTick(); }) {}
+
+void StopwatchForm::OnLoad() {
+  display_.Load(handle(), lblELAPSED);
+  buttons().Add(lblStartfrmSTWwg, std::wstring(engine_.left_caption()), 0, false);
+  buttons().Add(lblStopfrmSTWwg, std::wstring(engine_.right_caption()), 0, false);
+}
+
+void StopwatchForm::OnTick() {
+  engine_.Tick();
+  RefreshContent();
+}
+
+void StopwatchForm::RefreshContent() {
+  // The font follows the number of digits, which grows after 99 minutes.
+  if (engine_.shown().size() != laid_out_length_) LayOutPanel(layout().pfrPANEL);
+  display_.SetText(engine_.shown());
+}
+
+void StopwatchForm::LayOutPanel(const Rect& panel) {
+  laid_out_length_ = engine_.shown().size();
+  const StopwatchLayout place =
+      LayOutStopwatch({panel.width(), panel.height()}, dpi(), engine_.shown(),
+                      FontMeasure(theme().strTHEMEPANELFONTNAME, false));
+  display_.Place(Within(panel, place.display), PanelTextStyle(place.font_height));
+  display_.Show(place.font_height > 0);
+  buttons().Place(lblStartfrmSTWwg, Within(panel, place.buttons.start));
+  buttons().Place(lblStopfrmSTWwg, Within(panel, place.buttons.stop));
+}
+
+void StopwatchForm::ShowState() {
+  buttons().SetText(lblStartfrmSTWwg, engine_.left_caption());
+  buttons().SetText(lblStopfrmSTWwg, engine_.right_caption());
+  RepaintStatus();
+}
+
+void StopwatchForm::OnControl(int id, int code) {
+  if (code != BN_CLICKED) return;
+  if (id == lblStartfrmSTWwg) {
+    engine_.PressLeft();
+    if (engine_.running()) {
+      tmrSTOPWATCH_.Start();
+    } else {
+      tmrSTOPWATCH_.Stop();
+    }
+    ShowState();
+  } else if (id == lblStopfrmSTWwg) {
+    engine_.PressRight();
+    ShowState();
+    WidgetRefresh();
+  }
+}
+
+bool StopwatchForm::OnKey(const MSG& message) {
+  if (message.message == WM_KEYDOWN && message.wParam == 'C' && ::GetKeyState(VK_CONTROL) < 0) {
+    CopyText(handle(), engine_.shown());
+    return true;
+  }
+  return WidgetForm::OnKey(message);
+}
+
+std::wstring StopwatchForm::StatusText() const {
+  return engine_.running() ? L"Running \x2013 Ctrl+C copies the time" : L"Ctrl+C copies the time";
+}
+
+}  // namespace varnel

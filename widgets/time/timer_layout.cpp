@@ -1,0 +1,116 @@
+#include "widgets/time/timer_layout.h"
+
+#include <algorithm>
+#include <string>
+
+namespace varnel {
+namespace {
+
+constexpr int kMostFontHeight = 960;
+constexpr int kLeastButton = 24;  // at 96 dpi, like the other lengths
+constexpr int kMostButton = 64;
+constexpr int kMostButtonWidth = 190;
+constexpr int kLowPanel = 90;
+constexpr int kIntervalRow = 24;
+constexpr int kLeastDisplay = 36;
+
+int MarginFor(Size panel, int dpi) {
+  return Scaled(panel.height < Scaled(kLowPanel, dpi) ? 4 : 8, dpi);
+}
+
+TimerButtons ButtonRow(Size panel, int dpi, int margin) {
+  TimerButtons row;
+  const int height =
+      std::clamp(panel.height / 5, Scaled(kLeastButton, dpi), Scaled(kMostButton, dpi));
+  const int width =
+      std::min({(panel.width - 3 * margin) / 2, 4 * height, Scaled(kMostButtonWidth, dpi)});
+  const int top = std::max(0, panel.height - margin - height);
+  const int left = (panel.width - 2 * width - margin) / 2;
+  row.start = RectAt({left, top}, {width, height});
+  row.stop = RectAt({left + width + margin, top}, {width, height});
+  row.font_height = height * 9 / 20;
+  return row;
+}
+
+// The room above a row of controls.
+Rect RoomAbove(Size panel, int row_top, int margin) {
+  return {margin, margin / 2, panel.width - margin, std::max(margin / 2 + 1, row_top - margin / 2)};
+}
+
+Rect CentredIn(const Rect& room, int left, Size size) {
+  return RectAt({left, room.top + (room.height() - size.height) / 2}, size);
+}
+
+// The interval's row: a word, then a field and its unit three times.
+void LayOutInterval(CountdownLayout& layout, Size panel, int dpi, int bottom) {
+  const int height = Scaled(kIntervalRow, dpi);
+  const int font = Scaled(12, dpi);
+  const int label = font * 3;
+  const int field = font * 5 / 2;
+  const int unit = font * 3 / 2;
+  const int width = label + 3 * (field + unit);
+  int left = (panel.width - width) / 2;
+  const Rect row{0, bottom - height, panel.width, bottom};
+  layout.interval_font_height = font;
+  layout.interval_label = CentredIn(row, left, {label, height});
+  left += label;
+  for (int i = 0; i < 3; ++i) {
+    layout.interval_fields[i] = CentredIn(row, left, {field, font * 13 / 10});
+    left += field;
+    layout.interval_units[i] = CentredIn(row, left, {unit, height});
+    left += unit;
+  }
+}
+
+}  // namespace
+
+StopwatchLayout LayOutStopwatch(Size panel, int dpi, std::wstring_view text,
+                                const TextMeasure& measure) {
+  StopwatchLayout layout;
+  const int margin = MarginFor(panel, dpi);
+  layout.buttons = ButtonRow(panel, dpi, margin);
+  layout.display = RoomAbove(panel, layout.buttons.start.top, margin);
+  layout.font_height =
+      FittingHeight(WithWidestDigits(text, measure),
+                    {layout.display.width(), layout.display.height()}, kMostFontHeight, measure);
+  return layout;
+}
+
+CountdownLayout LayOutCountdown(Size panel, int dpi, std::wstring_view digits,
+                                const TextMeasure& measure) {
+  CountdownLayout layout;
+  const int margin = MarginFor(panel, dpi);
+  layout.buttons = ButtonRow(panel, dpi, margin);
+  int bottom = layout.buttons.start.top;
+  const int row_height = Scaled(kIntervalRow, dpi) + margin;
+  if (bottom >= Scaled(kLeastDisplay, dpi) + row_height + margin &&
+      panel.width >= Scaled(210, dpi)) {
+    LayOutInterval(layout, panel, dpi, bottom - margin);
+    bottom -= row_height;
+  }
+  const Rect room = RoomAbove(panel, bottom, margin);
+  const std::wstring field = WithWidestDigits(digits, measure);
+  const auto extent = [&](int height) {
+    const TextExtent one = measure.Measure(field, height);
+    const int padded = one.width + height / 3;  // the field's own inner margins
+    const int separator = measure.Measure(L":", height).width + height / 8;
+    return std::array<int, 3>{padded, separator, one.height};
+  };
+  layout.font_height = LargestHeight(kMostFontHeight, [&](int height) {
+    const auto [padded, separator, high] = extent(height);
+    return 3 * padded + 2 * separator <= room.width() && high <= room.height();
+  });
+  if (layout.font_height == 0) return layout;
+  const auto [padded, separator, high] = extent(layout.font_height);
+  int left = (panel.width - 3 * padded - 2 * separator) / 2;
+  for (int i = 0; i < 3; ++i) {
+    layout.fields[i] = CentredIn(room, left, {padded, high});
+    left += padded;
+    if (i == 2) break;
+    layout.separators[i] = CentredIn(room, left, {separator, high});
+    left += separator;
+  }
+  return layout;
+}
+
+}  // namespace varnel
