@@ -1,0 +1,41 @@
+# The front door. Each target installs what is missing first, so it works on a fresh machine.
+
+.PHONY: run test bench fuzz shots package tidy format clean prepare
+
+# Starts the program; without a display, on a virtual one, leaving a picture in build/desktop.png.
+run: prepare
+	@tools/run.sh
+
+# Builds everything and runs every test. TESTS=pattern chooses by name.
+test: prepare
+	@tools/test.sh $(if $(TESTS),--tests-regex '$(TESTS)')
+
+# Measures speed and memory against other programs.
+bench: prepare
+	@/usr/bin/python3 bench/run.py
+
+# Fuzzes every reader of outside input for FUZZ_SECONDS (30) each.
+fuzz: prepare
+	@tools/fuzz.sh
+
+# Writes one picture of each window, on sample data, into build/shots.
+shots: prepare
+	@tools/shots.sh
+
+# Makes the archive to hand out, in build/package.
+package: prepare
+	@tools/package.sh
+
+# Reviews the engines with clang-tidy.
+tidy: prepare
+	@tools/tidy.sh
+
+# Brings every source into the common layout.
+format: prepare
+	@tools/check_format.sh --fix
+
+clean:
+	rm -rf build
+
+prepare:
+	@tools/install_packages.sh

@@ -1,0 +1,154 @@
+#!/usr/bin/python3
+"""Checks the limits that keep sources readable, and prints how much of the code is tests.
+
+usage: check_sizes.py
+
+A file has at most 400 lines, a function at most 60, from the line where its declaration begins to
+its closing brace. The product has no function-like macros and leaves out the stream library, whose
+locale code would be most of the program file.
+"""
+
+import re
+import sys
+from typing import NamedTuple
+
+from sources import (
+    ROOT,
+    TEST_ROOMS,
+    find_sources,
+    product_sources,
+    read_source,
+    report,
+    without_comments_and_literals,
+)
+
+MAX_FILE_LINES = 400
+MAX_FUNCTION_LINES = 60
+
+FUNCTION_LIKE_MACRO = re.compile(r"^[ \t]*#[ \t]*define[ \t]+(\w+)\(", re.MULTILINE)
+STREAM_INCLUDE = re.compile(r"^[ \t]*#[ \t]*include[ \t]*<(\w*stream|iomanip|locale)>", re.MULTILINE)
+PREPROCESSOR_LINE = re.compile(r"^[ \t]*#(?:[^\n]*\\\n)*[^\n]*", re.MULTILINE)
+
+SCOPE = re.compile(r"\b(namespace|class|struct|union|enum|extern)\b[^()]*$")
+INITIALISERS = re.compile(r"\)\s*(?:noexcept\s*)?:(?!:)")
+AFTER_PARAMETERS = re.compile(
+    r"\)(?:\s*(?:const|noexcept|override|final|mutable|&&?))*\s*(?:->[^;{}]*)?$"
+)
+NAME = re.compile(r"([\w~:]+|operator\s*\S+)\s*\(")
+
+
+class Function(NamedTuple):
+    """A function with a body: its name, its first line and how many lines it has."""
+
+    name: str
+    line: int
+    length: int
+
+
+def is_function(header):
+    """Tells whether a block after `header`, the text since the last statement, is a body."""
+    if AFTER_PARAMETERS.search(header):
+        return True
+    # After member initialisers with braces of their own: A() : b_{1}, c_{2} {
+    return bool(INITIALISERS.search(header)) and header.rstrip().endswith("}")
+
+
+def is_within_header(header):
+    """Tells whether a brace after `header` is part of it: a default argument, a lambda that is an
+    argument, or a value among a constructor's initialisers."""
+    if header.count("(") > header.count(")"):
+        return True
+    return bool(INITIALISERS.search(header)) and bool(re.search(r"[\w>]\s*$", header))
+
+
+def closing_brace(text, start):
+    """Returns where the block that opens at `start` closes; the end of a text that is cut off."""
+    depth = 0
+    for brace in re.compile(r"[{}]").finditer(text, start):
+        depth += 1 if brace.group() == "{" else -1
+        if depth == 0:
+            return brace.start()
+    return len(text) - 1
+
+
+def functions_of(source):
+    """Returns the functions that a source defines in namespaces and classes, in order."""
+    text = PREPROCESSOR_LINE.sub(
+        lambda match: re.sub(r"[^\n]", " ", match.group()), without_comments_and_literals(source)
+    )
+    functions = []
+    statement = 0  # where the text since the last statement, label or block begins
+    position = 0
+    while match := re.compile(r"[{};]|\b(?:public|protected|private):").search(text, position):
+        position = match.end()
+        header = text[statement : match.start()]
+        if match.group() == "{":
+            if SCOPE.search(header):
+                statement = position
+                continue
+            end = closing_brace(text, match.start())
+            position = end + 1
+            if is_within_header(header):
+                continue
+            if is_function(header):
+                functions.append(described(text, statement, header, end))
+        statement = position
+    return functions
+
+
+def described(text, statement, header, end):
+    """Names and measures the function whose header begins at `statement`."""
+    begin = statement + len(header) - len(header.lstrip())
+    first = text.count("\n", 0, begin) + 1
+    last = text.count("\n", 0, end) + 1
+    name = NAME.search(header)
+    return Function(name[1] if name else "lambda", first, last - first + 1)
+
+
+def size_breaches(path, source):
+    """Returns one line for each limit that a source exceeds."""
+    lines = source.count("\n")
+    breaches = []
+    if lines > MAX_FILE_LINES:
+        breaches.append(f"{path}: {lines} lines, more than {MAX_FILE_LINES}")
+    breaches += [
+        f"{path}:{function.line}: {function.name} has {function.length} lines, "
+        f"more than {MAX_FUNCTION_LINES}"
+        for function in functions_of(source)
+        if function.length > MAX_FUNCTION_LINES
+    ]
+    return breaches
+
+
+def product_breaches(path, source):
+    """Returns one line for each thing that only tests may use."""
+    text = without_comments_and_literals(source)
+    macros = (f"function-like macro {found[1]}" for found in FUNCTION_LIKE_MACRO.finditer(text))
+    streams = (f"includes <{found[1]}>" for found in STREAM_INCLUDE.finditer(text))
+    return [f"{path}: {breach}" for breach in (*macros, *streams)]
+
+
+def check(root):
+    """Returns every breach in the tree below `root`, and the share of test lines in per cent."""
+    breaches = []
+    lines = {"product": 0, "test": 0}
+    groups = {"product": product_sources(root), "test": find_sources(root, TEST_ROOMS)}
+    for kind, paths in groups.items():
+        for path in paths:
+            source = read_source(root / path)
+            lines[kind] += source.count("\n")
+            breaches += size_breaches(path, source)
+            if kind == "product":
+                breaches += product_breaches(path, source)
+    return breaches, 100 * lines["test"] / max(1, sum(lines.values()))
+
+
+def main():
+    """Checks the project."""
+    breaches, share = check(ROOT)
+    print(f"{share:.0f} % of all lines are tests")
+    return report(breaches, "Every file and function keeps its limit")
+
+
+if __name__ == "__main__":
+    sys.exit(main())

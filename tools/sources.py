@@ -1,0 +1,56 @@
+"""What the checks of the sources share: finding the sources, and reading past comments and texts."""
+
+import re
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parent.parent
+PRODUCT_ROOMS = ("base", "win", "core", "theme", "widgets", "resources")
+TEST_ROOMS = ("tests", "fuzz", "bench")
+SUFFIXES = (".cpp", ".h")
+
+# Comments, raw strings, strings and characters, whichever begins first. A quote after a digit is a
+# separator of digits, not the start of a character.
+COMMENT_OR_LITERAL = re.compile(
+    r"""
+    //[^\n]*
+    | /\*.*?\*/
+    | R"(?P<tag>[^()\s\\]*)\(.*?\)(?P=tag)"
+    | "(?:\\.|[^"\\\n])*"
+    | (?<![0-9a-fA-F])'(?:\\.|[^'\\\n])+'
+    """,
+    re.DOTALL | re.VERBOSE,
+)
+
+
+def find_sources(root, rooms):
+    """Returns the C++ sources of `rooms`, as sorted paths relative to `root`."""
+    return sorted(
+        path.relative_to(root)
+        for room in rooms
+        for path in (root / room).rglob("*")
+        if path.suffix in SUFFIXES
+    )
+
+
+def product_sources(root):
+    """Returns the sources of the program, with those that stand outside every room."""
+    top = (path.relative_to(root) for path in root.glob("*") if path.suffix in SUFFIXES)
+    return sorted(top) + find_sources(root, PRODUCT_ROOMS)
+
+
+def read_source(path):
+    """Returns the text of a source."""
+    return path.read_text(encoding="utf-8")
+
+
+def without_comments_and_literals(text):
+    """Blanks comments and literals out; every character that stays keeps its place."""
+    return COMMENT_OR_LITERAL.sub(lambda match: re.sub(r"[^\n]", " ", match.group()), text)
+
+
+def report(breaches, praise):
+    """Prints the breaches found, or that there are none, and returns the exit code."""
+    for breach in breaches:
+        print(breach)
+    print(f"{len(breaches)} breaches" if breaches else praise)
+    return 1 if breaches else 0
