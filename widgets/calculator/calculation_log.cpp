@@ -1,0 +1,76 @@
+#include "widgets/calculator/calculation_log.h"
+
+#include <algorithm>
+#include <numeric>
+
+#include "base/number_format.h"
+#include "base/number_text.h"
+
+namespace varnel {
+namespace {
+
+constexpr std::wstring_view kBeforeResult = L" = ";
+constexpr int kMostOldFiles = 99;
+
+}  // namespace
+
+std::wstring CalculationLine(double first, wchar_t sign, double second, std::wstring_view result) {
+  std::wstring line = GeneralNumber(first) + L' ' + sign + L' ' + GeneralNumber(second);
+  line += kBeforeResult;
+  line += result;
+  return line;
+}
+
+std::optional<std::wstring> RecalledText(std::wstring_view line) {
+  const std::size_t found = line.find(kBeforeResult);
+  if (found == std::wstring_view::npos) return std::nullopt;
+  return std::wstring(line.substr(found + kBeforeResult.size()));
+}
+
+void CalculationLog::Load() {
+  whole_ = ListLoadFromFile(lines_, files_, path_);
+  saved_ = true;
+  keys_.resize(lines_.count());
+  std::iota(keys_.begin(), keys_.end(), std::size_t{0});
+}
+
+bool CalculationLog::Append(std::wstring_view line) {
+  const std::size_t key = lines_.count();
+  const bool added = std::ranges::find(keys_, key) == keys_.end();
+  if (added) {
+    lines_.Add(line);
+    keys_.push_back(key);
+  }
+  Save();
+  return added;
+}
+
+void CalculationLog::DeleteSelected(std::size_t index) {
+  if (index < lines_.count()) {
+    lines_.Remove(index);
+    keys_.erase(keys_.begin() + static_cast<std::ptrdiff_t>(index));
+  }
+  Save();
+}
+
+void CalculationLog::Clear() {
+  lines_.Clear();
+  keys_.clear();
+  Save();
+}
+
+void CalculationLog::Save() {
+  whole_ = whole_ || MoveFileAside();
+  saved_ = whole_ && ListSaveToFile(lines_, files_, path_);
+}
+
+bool CalculationLog::MoveFileAside() {
+  if (!files_.FileExists(path_)) return true;
+  for (int i = 1; i <= kMostOldFiles; ++i) {
+    const std::wstring old_path = path_ + L".old" + (i == 1 ? L"" : NumberText(i));
+    if (!files_.FileExists(old_path)) return files_.Rename(path_, old_path);
+  }
+  return false;
+}
+
+}  // namespace varnel
