@@ -72,7 +72,7 @@ std::vector<double> SeededValues(std::mt19937_64& random) {
       sign * (ten(pick(0, 12)) - static_cast<double>(pick(0, 99)) / 1e5),   // carries
       sign * static_cast<double>(pick(0, 1LL << 62)) / ten(pick(0, 25)),    // ordinary magnitudes
       sign * (static_cast<double>(pick(1, 1LL << 50)) + 0.5) / 8,           // halves of 15 digits
-      sign * static_cast<double>(pick(1, 9)) * ten(pick(-199, 199)),         // exponents
+      sign * static_cast<double>(pick(1, 9)) * ten(pick(-199, 199)),        // exponents
       sign * static_cast<double>(pick(1, 99999)) / 1e8,                     // tiny
       whole / static_cast<double>(pick(1, 999)),                            // quotients
       sign * static_cast<double>(pick(100000000000000, 9999999999999999)),  // 15 and 16 digits
