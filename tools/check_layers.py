@@ -33,6 +33,9 @@ ENGINES_STAY_OUT_OF = ("win", "resources")
 # Headers of the standard library through which an engine would reach what it is to be given.
 NOT_FOR_ENGINES = ("ctime", "filesystem", "fstream", "future", "mutex", "thread")
 
+# What engines may use beside the standard library: headers alone, the same on every platform.
+PORTABLE_LIBRARIES = ("nlohmann/json.hpp",)
+
 # Tests that run natively too; the others may include anything.
 PURE_TESTS = ("tests/engine", "tests/support", "fuzz")
 
@@ -57,7 +60,7 @@ def is_standard(header):
 
 def system_breach(path, header):
     """Says what is wrong with including the system's `header` from `path`; None when nothing is."""
-    if not is_engine(path):
+    if not is_engine(path) or header in PORTABLE_LIBRARIES:
         return None
     if not is_standard(header):
         return f"an engine knows no platform, but includes <{header}>"

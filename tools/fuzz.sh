@@ -5,7 +5,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-mapfile -t names < <(cd fuzz && ls -- *_fuzz.cpp | sed 's/_fuzz\.cpp$//')
+mapfile -t names < <(basename --multiple --suffix=_fuzz.cpp fuzz/*_fuzz.cpp)
 cmake --preset native-asan -B build/fuzz -DCMAKE_CXX_FLAGS=-fsanitize=fuzzer-no-link
 cmake --build build/fuzz --parallel "$(nproc)" --target "${names[@]/%/_fuzz}"
 

@@ -40,6 +40,7 @@ class LayersTest(TreeTest):
         ("widgets/time/clock_form.cpp", '#include "core/frame_form.h"'),
         ("widgets/time/clock.cpp", '#include "widgets/time/alarms.h"'),
         ("widgets/time/clock.cpp", '#include "core/menu.h"'),
+        ("widgets/weather/source.cpp", "#include <nlohmann/json.hpp>"),
         ("catalogue_win.cpp", '#include "widgets/notes/notes_form.h"'),
         ("main.cpp", '#include "catalogue_win.h"'),
         ("main.cpp", "#include <windows.h>"),
