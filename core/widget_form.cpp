@@ -5,6 +5,7 @@
 #include "core/sizes.h"
 #include "resources/control_ids.h"
 #include "theme/theme_store.h"
+#include "win/user_look.h"
 
 namespace varnel {
 namespace {
@@ -84,7 +85,10 @@ void WidgetForm::SaveState() {
 void WidgetForm::Show(bool shown) {
   const bool manager = index_ == kManagerIndex;
   ::ShowWindow(handle(), !shown ? SW_HIDE : manager ? SW_SHOWNORMAL : SW_SHOWNOACTIVATE);
-  if (shown && manager) ::SetForegroundWindow(handle());
+  if (!shown) return;
+  if (manager) ::SetForegroundWindow(handle());
+  // Painted at once, so that nobody sees an empty window first.
+  ::RedrawWindow(handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
 void WidgetForm::CreateBarButtons() {
@@ -113,8 +117,14 @@ void WidgetForm::ApplyChrome() {
   if (!own_on_top_) on_top_ = ReadFlag(services_.settings, kOnTop);
   ::SetWindowPos(handle(), on_top_ ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-  chrome_ = varnel::ApplyChrome(theme_, services_.colours);
-  ::SetLayeredWindowAttributes(handle(), 0, WindowAlpha(theme_.bytTHEMEOPACITY), LWA_ALPHA);
+  paint_ = WidgetPaintOf(theme_, HighContrastWanted(), services_.colours);
+  ::SetLayeredWindowAttributes(handle(), 0, WindowAlpha(paint_.theme.bytTHEMEOPACITY), LWA_ALPHA);
+}
+
+void WidgetForm::OnLookChanged() {
+  ApplyChrome();
+  Form_Resize();
+  WidgetRefresh();
 }
 
 void WidgetForm::SetOnTop(bool on) {
@@ -131,9 +141,9 @@ void WidgetForm::FollowOnTopSetting() {
 TextStyle WidgetForm::PanelTextStyle(int font_height) const {
   TextStyle style;
   style.font = {theme_.strTHEMEPANELFONTNAME, font_height, false};
-  style.colour = Translate(theme_.lngTHEMEPANELFONTCOLOR, services_.colours);
-  style.ground = chrome_.ground;
-  style.halo_base = Translate(theme_.lngTHEMECOLOR, services_.colours);
+  style.colour = paint_.theme.lngTHEMEPANELFONTCOLOR;
+  style.ground = paint_.chrome.ground;
+  style.halo_base = paint_.theme.lngTHEMECOLOR;
   style.dpi = dpi();
   return style;
 }
@@ -151,7 +161,8 @@ void WidgetForm::RepaintStatus() {
 }
 
 FramePainting WidgetForm::Painting() const {
-  return {layout_, chrome_, theme_, std::wstring(entry_.title), entry_.glyph, StatusText(), dpi()};
+  return {layout_,      paint_.chrome, paint_.theme, std::wstring(entry_.title),
+          entry_.glyph, StatusText(),  dpi()};
 }
 
 void WidgetForm::Paint() {
@@ -170,19 +181,19 @@ void WidgetForm::DrawButton(const DRAWITEMSTRUCT& item) {
   if (!button) return;
   const Rect bounds = FromSystem(item.rcItem);
   Surface surface({bounds.width(), bounds.height()});
-  FillRectangle(surface.dc(), bounds, button->on_bar ? chrome_.bar.first : chrome_.ground);
+  FillRectangle(surface.dc(), bounds, button->on_bar ? chrome().bar.first : chrome().ground);
   const ButtonLook look = buttons_.LookOf(*button, item);
   const ButtonPainting painting{*button,
                                 surface,
                                 bounds,
                                 look,
-                                ButtonColours(theme_, look, services_.colours),
+                                ButtonColours(paint_, look, services_.colours),
                                 (item.itemState & ODS_FOCUS) != 0 && focus_shown_,
                                 (item.itemState & ODS_DISABLED) == 0};
   if (button->on_bar) {
     ButtonPainting small = painting;
     small.bounds = Inset(bounds, Scaled(2, dpi()));
-    PaintTextButton(ui(), small, theme_, {}, Scaled(kBarGlyphHeight, dpi()), dpi());
+    PaintTextButton(ui(), small, paint_.theme, {}, Scaled(kBarGlyphHeight, dpi()), dpi());
   } else {
     DrawPanelButton(painting);
   }
@@ -190,7 +201,7 @@ void WidgetForm::DrawButton(const DRAWITEMSTRUCT& item) {
 }
 
 void WidgetForm::DrawPanelButton(const ButtonPainting& painting) {
-  PaintTextButton(ui(), painting, theme_, theme_.strTHEMEPANELFONTNAME,
+  PaintTextButton(ui(), painting, paint_.theme, theme_.strTHEMEPANELFONTNAME,
                   painting.bounds.height() * 2 / 5, dpi());
 }
 
@@ -241,15 +252,17 @@ LRESULT WidgetForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
       OnCloseButton();
       return 0;
     case WM_DISPLAYCHANGE:
+      ReturnToScreen();
+      return 0;
     case WM_SETTINGCHANGE:
       ReturnToScreen();
+      if (HighContrastWanted() != paint_.high_contrast) OnLookChanged();
       return 0;
     case WM_DPICHANGED:
       OnDpiChanged(*reinterpret_cast<const RECT*>(lparam));
       return 0;
     case WM_SYSCOLORCHANGE:
-      ApplyChrome();
-      WidgetRefresh();
+      OnLookChanged();
       return 0;
     default:
       break;

@@ -1,0 +1,187 @@
+// The time widgets, worked by mouse and keys.
+#include <gtest/gtest.h>
+
+#include "base/number_text.h"
+#include "resources/control_ids.h"
+#include "tests/rig/controls.h"
+#include "tests/rig/dialogs.h"
+#include "tests/rig/input.h"
+#include "tests/rig/menus.h"
+#include "tests/rig/scene.h"
+
+namespace varnel {
+namespace {
+
+using namespace rig;
+
+class Time : public Scene {
+ protected:
+  void Open(const wchar_t* flag) { root().settings().SetText(L"frmVRNpr\\Details", flag, L"True"); }
+  HWND StartWith(const wchar_t* flag, const wchar_t* form) {
+    Open(flag);
+    EXPECT_TRUE(program().Start());
+    WaitForForm(program(), L"frmVRNwg");
+    return WaitForForm(program(), form);
+  }
+};
+
+// The local time `seconds` from now, as hh:nn:ss.
+std::wstring TimeIn(int seconds) {
+  SYSTEMTIME now;
+  ::GetLocalTime(&now);
+  const int later = (now.wHour * 3600 + now.wMinute * 60 + now.wSecond + seconds) % 86400;
+  return PaddedNumber(later / 3600, 2) + L":" + PaddedNumber(later / 60 % 60, 2) + L":" +
+         PaddedNumber(later % 60, 2);
+}
+
+TEST_F(Time, ClockShowsTheTimeInBothStyles) {
+  HWND clock = StartWith(L"Start-Load-Clock", L"frmCLKwg");
+  const auto seconds = [&] { return Text(Control(clock, lblSECS)); };
+  const std::wstring first = seconds();
+  EXPECT_EQ(first.size(), 2u);
+  EXPECT_TRUE(WaitUntil([&] { return seconds() != first; }, 3000)) << "the seconds stand still";
+  EXPECT_EQ(Text(Control(clock, lblPANECLOCK)).size(), 5u);
+
+  Choose(clock, L"mnuCLOCKPROPS");
+  HWND dialog = WaitForForm(program(), L"frmCLKpr");
+  ASSERT_TRUE(dialog);
+  EXPECT_TRUE(IsChecked(Control(dialog, optSTYLEMOD)));
+  EXPECT_FALSE(IsEnabled(Control(dialog, txtCUSTOM)));
+  ASSERT_TRUE(ClickOn(Control(dialog, optSTYLECLASS)));
+  ASSERT_TRUE(ClickOn(Control(dialog, chkAMPM)));
+  ASSERT_TRUE(ClickOn(Control(dialog, optDATECUST)));
+  ASSERT_TRUE(WaitUntil([&] { return IsEnabled(Control(dialog, txtCUSTOM)); }));
+  SetText(Control(dialog, txtCUSTOM), L"\"Day\" d");
+  ASSERT_TRUE(ClickOn(Control(dialog, IDOK)));
+  EXPECT_TRUE(WaitForNoForm(program(), L"frmCLKpr"));
+  EXPECT_TRUE(WaitUntil([&] { return Text(Control(clock, lblPANECLOCK)).size() == 8; }));
+  EXPECT_FALSE(IsShown(Control(clock, lblSECS)));
+  EXPECT_TRUE(Text(Control(clock, lbl7Sept2010)).starts_with(L"Day "));
+  const Registry& settings = root().settings();
+  EXPECT_EQ(settings.Text(L"frmCLKpr\\Details", L"Style-ampm-show"), L"0");
+  EXPECT_EQ(settings.Text(L"frmCLKas\\Details", L"Alarm Other Sound"), L"");
+}
+
+TEST_F(Time, AlarmRingsWithItsMessageWhileTheClockIsClosed) {
+  ASSERT_TRUE(program().Start());
+  HWND manager = WaitForForm(program(), L"frmVRNwg");
+  ASSERT_TRUE(manager);
+  // The dialog is reached through the clock, which is closed again before the alarm rings.
+  ASSERT_TRUE(ClickOn(Control(manager, lblNUMBER)));
+  HWND clock = WaitForForm(program(), L"frmCLKwg");
+  Choose(clock, L"mnuCLOCKALARMSET");
+  HWND dialog = WaitForForm(program(), L"frmCLKas");
+  ASSERT_TRUE(dialog);
+  EXPECT_EQ(Items(Control(dialog, cboTIME)).size(), 96u);
+  EXPECT_EQ(Text(Control(dialog, cboTIME)), L"00:00:00");
+  // Two alarms in one second: the popup shows the second one's message.
+  const std::wstring time = TimeIn(4);
+  for (const int preset : {1, 4}) {
+    ASSERT_TRUE(ClickOn(Control(dialog, chkSET + preset)));
+    SetText(Control(dialog, cboTIME + preset), time);
+    SetText(Control(dialog, txtMESSAGE + preset),
+            preset == 1 ? L"tea" : L"Call home, & bring milk");
+  }
+  ASSERT_TRUE(ClickOn(Control(dialog, IDOK)));
+  ASSERT_TRUE(WaitForNoForm(program(), L"frmCLKas"));
+  ASSERT_TRUE(ClickOn(Control(clock, lablTBARTOP + 2)));
+  ASSERT_TRUE(WaitForNoForm(program(), L"frmCLKwg"));
+  ASSERT_TRUE(Activate(manager));
+
+  HWND popup = WaitForForm(program(), L"frmCLKam");
+  ASSERT_TRUE(popup);
+  EXPECT_EQ(WaitFor([&] { return Text(Control(popup, lablMESSAGE)); },
+                    std::wstring(L"Call home, & bring milk")),
+            L"Call home, & bring milk");
+  EXPECT_EQ(Text(Control(popup, lablALARMC)), time);
+  EXPECT_EQ(::GetForegroundWindow(), manager) << "the popup takes no focus";
+  EXPECT_TRUE(IsTopmost(popup));
+  EXPECT_EQ(FindForms(program(), L"frmCLKam").size(), 1u);
+  // Within its second it would come again, so it is closed once that is over.
+  ASSERT_TRUE(WaitUntil([&] { return TimeIn(0) > time; }));
+  ASSERT_TRUE(ClickOn(Control(popup, imgBUTCLOSE)));
+  EXPECT_TRUE(WaitForNoForm(program(), L"frmCLKam"));
+  EXPECT_EQ(root().settings().Text(L"frmCLKas\\Details", L"Alarm Preset Use_4"), L"1");
+}
+
+TEST_F(Time, StopwatchStartLapsePauseResumeReset) {
+  HWND form = StartWith(L"Start-Load-Stopwatch", L"frmSTWwg");
+  ASSERT_TRUE(form);
+  const auto shown = [&] { return Text(Control(form, lblELAPSED)); };
+  HWND left = Control(form, lblStartfrmSTWwg);
+  HWND right = Control(form, lblStopfrmSTWwg);
+  EXPECT_EQ(shown(), L"00:00.00");
+  EXPECT_EQ(Text(left), L" Start ");
+  EXPECT_EQ(Text(right), L" Stop ");
+  ASSERT_TRUE(ClickOn(left));
+  EXPECT_TRUE(WaitUntil([&] { return shown() > L"00:00.30"; }));
+  EXPECT_EQ(Text(left), L" Pause ");
+  EXPECT_EQ(Text(right), L" Lapse ");
+
+  ASSERT_TRUE(ClickOn(right));
+  const std::wstring frozen = WaitUntilStill(shown, 400);
+  ASSERT_TRUE(ClickOn(left));
+  EXPECT_TRUE(WaitUntil([&] { return Text(left) == L" Resume "; }));
+  EXPECT_EQ(shown(), frozen);
+  EXPECT_EQ(Text(right), L" Reset ");
+  // By keyboard: Space on the focused button resumes.
+  ASSERT_TRUE(Activate(form));
+  PressKey(VK_SPACE);
+  EXPECT_TRUE(WaitUntil([&] { return Text(left) == L" Pause "; }));
+  EXPECT_TRUE(WaitUntil([&] { return shown() > frozen; }));
+
+  ASSERT_TRUE(ClickOn(left));
+  ASSERT_TRUE(WaitUntil([&] { return Text(right) == L" Reset "; }));
+  Chord({VK_CONTROL, 'C'});
+  ASSERT_TRUE(ClickOn(right));
+  EXPECT_EQ(WaitFor(shown, std::wstring(L"00:00.00")), L"00:00.00");
+  EXPECT_EQ(Text(right), L" Stop ");
+  // Closed while running, it is gone for good.
+  ASSERT_TRUE(ClickOn(left));
+  ASSERT_TRUE(ClickOn(Control(form, lablTBARTOP + 2)));
+  EXPECT_TRUE(WaitForNoForm(program(), L"frmSTWwg"));
+  EXPECT_TRUE(program().running());
+}
+
+TEST_F(Time, CountdownFromThreeSecondsToTheMessageAndBack) {
+  HWND form = StartWith(L"Start-Load-Timer", L"frmCDNwg");
+  ASSERT_TRUE(form);
+  EXPECT_EQ(Text(Control(form, txtMIN)), L"02");
+  for (const int field : {txtSUBMIN, txtSUBSECS}) {
+    ASSERT_TRUE(ClickOn(Control(form, field)));
+    ASSERT_TRUE(WaitUntil([&] { return SelectedUnits(Control(form, field)).second == 2; }));
+    Type(field == txtSUBMIN ? L"0" : L"3");
+  }
+  EXPECT_EQ(WaitFor([&] { return Text(Control(form, txtSECS)); }, std::wstring(L"03")), L"03");
+  EXPECT_EQ(Text(Control(form, txtMIN)), L"00");
+  EXPECT_EQ(root().settings().Text(L"frmCDNwg\\Details", L"Timer-Interval-secs"), L"03");
+  ASSERT_TRUE(ClickOn(Control(form, lblStart)));
+  EXPECT_TRUE(WaitUntil([&] { return Text(Control(form, lblStart)) == L" Pause "; }));
+  EXPECT_TRUE(WaitUntil([&] { return Text(Control(form, txtSECS)) == L"00"; }));
+  HWND box = WaitForDialog(program());
+  ASSERT_TRUE(box);
+  EXPECT_EQ(Text(box), L"Stopwatch Timer");
+  EXPECT_NE(DialogText(box).find(L"Time Has Now Ended"), std::wstring::npos);
+  EXPECT_TRUE(CloseDialog(box, IDOK));
+  EXPECT_TRUE(WaitUntil([&] { return Text(Control(form, lblStart)) == L" Start "; }));
+  EXPECT_EQ(Text(Control(form, lblStop)), L" Stop ");
+  EXPECT_EQ(Text(Control(form, txtSECS)), L"03");
+  EXPECT_FALSE(FindDialog(program())) << "the end is announced once";
+}
+
+TEST_F(Time, CountdownClosedWhileItsEndIsAnnounced) {
+  root().settings().SetText(L"frmCDNwg\\Details", L"Timer-Interval-mins", L"00");
+  root().settings().SetText(L"frmCDNwg\\Details", L"Timer-Interval-secs", L"01");
+  HWND form = StartWith(L"Start-Load-Timer", L"frmCDNwg");
+  ASSERT_TRUE(form);
+  ASSERT_TRUE(ClickOn(Control(form, lblStart)));
+  ASSERT_TRUE(WaitForDialog(program()));
+  Choose(FindForm(program(), L"frmVRNwg"), L"mnuDCWIDGETS", 5);
+  EXPECT_TRUE(WaitForNoForm(program(), L"frmCDNwg"));
+  EXPECT_TRUE(WaitUntil([&] { return !FindDialog(program()); }));
+  Choose(FindForm(program(), L"frmVRNwg"), L"mnuDCWIDGETS", 5);
+  EXPECT_TRUE(WaitForForm(program(), L"frmCDNwg"));
+}
+
+}  // namespace
+}  // namespace varnel
