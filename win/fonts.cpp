@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "win/resource_data.h"
+
 namespace varnel {
 
 UniqueFont MakeFont(const FontSpec& spec) {
@@ -26,13 +28,11 @@ void FontCache::Trim(std::size_t most) {
 }
 
 bool LoadFontResource(HINSTANCE instance, const wchar_t* name) {
-  HRSRC found = ::FindResourceW(instance, name, MAKEINTRESOURCEW(10));  // RT_RCDATA
-  HGLOBAL loaded = found ? ::LoadResource(instance, found) : nullptr;
-  void* bytes = loaded ? ::LockResource(loaded) : nullptr;
-  if (!bytes) return false;
+  const std::string_view font = ResourceData(instance, name, MAKEINTRESOURCEW(10));  // RT_RCDATA
+  if (font.empty()) return false;
   DWORD count = 0;
-  return ::AddFontMemResourceEx(bytes, ::SizeofResource(instance, found), nullptr, &count) !=
-             nullptr &&
+  return ::AddFontMemResourceEx(const_cast<char*>(font.data()), static_cast<DWORD>(font.size()),
+                                nullptr, &count) != nullptr &&
          count > 0;
 }
 

@@ -3,6 +3,7 @@
 #include <mmsystem.h>
 
 #include "win/late_function.h"
+#include "win/resource_data.h"
 
 namespace varnel {
 namespace {
@@ -16,12 +17,11 @@ Sound::~Sound() {
 }
 
 void Sound::PlayResource(const wchar_t* name) {
-  HRSRC found = ::FindResourceW(instance_, name, L"AUDIO");
-  HGLOBAL loaded = found ? ::LoadResource(instance_, found) : nullptr;
-  const void* wave = loaded ? ::LockResource(loaded) : nullptr;
+  const std::string_view wave = ResourceData(instance_, name, L"AUDIO");
   auto* play = LateFunction<decltype(::PlaySoundW)>(kLibrary, "PlaySoundW");
-  if (!wave || !play) return;
-  play(static_cast<const wchar_t*>(wave), nullptr, SND_NODEFAULT | SND_MEMORY | SND_NOWAIT);
+  if (wave.empty() || !play) return;
+  play(reinterpret_cast<const wchar_t*>(wave.data()), nullptr,
+       SND_NODEFAULT | SND_MEMORY | SND_NOWAIT);
 }
 
 std::wstring Sound::Send(std::wstring_view command) {
