@@ -22,26 +22,32 @@ constexpr wchar_t kHelpText[] =
 
 }  // namespace
 
-void Application::OpenDialog(std::wstring_view form) {
-  auto found = dialogs_.find(form);
-  if (found == dialogs_.end()) {
-    for (const CatalogueDialog& entry : catalogue_.dialogs) {
-      if (entry.form_name != form) continue;
-      found = dialogs_.emplace(std::wstring(form), entry.create(services_)).first;
-      break;
+Dialog* Application::FindDialog(std::wstring_view form) {
+  if (const auto found = dialogs_.find(form); found != dialogs_.end()) return found->second.get();
+  for (const CatalogueDialog& entry : catalogue_.dialogs) {
+    if (entry.form_name != form) continue;
+    Dialog* dialog =
+        dialogs_.emplace(std::wstring(form), entry.create(services_)).first->second.get();
+    if (auto* listener = dynamic_cast<AlarmTickListener*>(dialog)) {
+      tick_listeners_.push_back(listener);
     }
+    return dialog;
   }
-  if (found == dialogs_.end()) return;
+  return nullptr;
+}
+
+void Application::OpenDialog(std::wstring_view form) {
+  Dialog* dialog = FindDialog(form);
+  if (!dialog) return;
   const HourglassPointer pointer;
-  if (!found->second->Open(menus_.handle())) {
+  if (!dialog->Open(menus_.handle())) {
     ui_.log.Write(L"no window for " + std::wstring(form));
     return;
   }
   // Among windows that are kept on top a dialog would otherwise lie beneath the one it belongs to.
   const LiveForm* current = CurrentForm();
-  ::SetWindowPos(found->second->handle(),
-                 current && current->on_top() ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
-                 SWP_NOMOVE | SWP_NOSIZE);
+  ::SetWindowPos(dialog->handle(), current && current->on_top() ? HWND_TOPMOST : HWND_NOTOPMOST, 0,
+                 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
 }
 
 bool Application::HasDialog(std::wstring_view form) const {

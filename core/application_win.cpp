@@ -98,12 +98,7 @@ void Application::Main() {
 
 void Application::LoadResidents() {
   for (const CatalogueDialog& entry : catalogue_.dialogs) {
-    if (!entry.resident) continue;
-    auto dialog = entry.create(services_);
-    if (auto* listener = dynamic_cast<AlarmTickListener*>(dialog.get())) {
-      tick_listeners_.push_back(listener);
-    }
-    dialogs_.emplace(std::wstring(entry.form_name), std::move(dialog));
+    if (entry.resident) FindDialog(entry.form_name);
   }
   menus_.OnAlarmTick([this] { OnAlarmTick(); });
 }

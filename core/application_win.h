@@ -39,9 +39,11 @@ class Application : public Program, private WidgetHost {
   void RegisterRunAtLogon() override;
   void CheckForUpdate(int mode) override;
   void WidgetCheck(int index) override { manager_->WidgetCheck(index); }
+  Dialog* FindDialog(std::wstring_view form) override;
   void OpenDialog(std::wstring_view form) override;
   bool HasDialog(std::wstring_view form) const override;
   void SetCurrentWidget(std::wstring_view form) override { current_widget_ = form; }
+  std::wstring_view CurrentWidget() const override { return current_widget_; }
   std::vector<MenuItem> SharedMenu() const override;
   void RunCommand(int id) override;
 

@@ -9,6 +9,8 @@
 
 namespace varnel {
 
+class Dialog;
+
 class Program {
  public:
   virtual ~Program() = default;
@@ -24,6 +26,9 @@ class Program {
 
   // Opens a closed widget and closes an open one; an unknown index does nothing.
   virtual void WidgetCheck(int index) = 0;
+  // The dialog of that form name, loaded when it is not yet, open or not; it stays until the
+  // program ends. Null for an unknown name.
+  virtual Dialog* FindDialog(std::wstring_view form) = 0;
   // Opens the dialog of that form name, or brings it to the front. Unknown names do nothing.
   virtual void OpenDialog(std::wstring_view form) = 0;
   // Whether this build has the dialog.
@@ -31,6 +36,8 @@ class Program {
 
   // The widget whose menu was opened last; size, theme and on-top commands act on it.
   virtual void SetCurrentWidget(std::wstring_view form) = 0;
+  // Its form name; empty before any menu was opened.
+  virtual std::wstring_view CurrentWidget() const = 0;
   // The commands common to every menu, as they stand now.
   virtual std::vector<MenuItem> SharedMenu() const = 0;
   // Runs a shared command; an id that is none does nothing.
