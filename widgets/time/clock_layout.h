@@ -2,19 +2,11 @@
 // its right, the date centred below, the whole group in the middle.
 #pragma once
 
-#include "base/geometry.h"
+#include "base/label_place.h"
 #include "base/text_measure.h"
 #include "widgets/time/clock_engine.h"
 
 namespace varnel {
-
-// A label's box in pixels of the panel and the em of its font; not shown when the height is 0.
-struct LabelPlace {
-  Rect box;
-  int font_height = 0;
-  bool shown() const { return font_height > 0; }
-  bool operator==(const LabelPlace&) const = default;
-};
 
 struct ClockLayout {
   LabelPlace time;     // lblPANECLOCK
