@@ -30,12 +30,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Require(varnel::HoldsWeather(text));
   varnel::WeatherData weather;
   const auto labels = varnel::DataFileRead(text, fahrenheit, weather);
-  Require(labels && labels->lblWeatherCountry == L"London, Ontario");
+  Require(labels && labels->location == L"London, Ontario");
   // The temperature is either taken over or said in words, never lost or left to an older one.
-  Require(weather.TemperatureF > 0 || labels->lblTEMPERATURE == L"-");
-  for (const varnel::ForecastSlot& slot : labels->pfrFORECAST) {
-    Require(slot.lblFOREDATE.size() == 3 && slot.lblFORETEMP.find(L'/') != std::wstring::npos);
-    Require(slot.lblFORETEMP.size() <= 9);
+  Require(weather.TemperatureF > 0 || labels->temperature == L"-");
+  for (const varnel::ForecastSlot& slot : labels->forecast) {
+    Require(slot.date.size() == 3 && slot.temps.find(L'/') != std::wstring::npos);
+    Require(slot.temps.size() <= 9);
   }
   return 0;
 }

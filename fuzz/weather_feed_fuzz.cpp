@@ -36,13 +36,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Require(labels.has_value() != text.empty());
   if (!labels) return 0;
   Require(weather.TemperatureF > 0 && !weather.ConditionText.empty());
-  Require(labels->txtCURRENT.size() <= 1000 && labels->lblDESC == weather.ConditionText);
-  Require(labels->lblWeathersymbol >= 0 && labels->lblWeathersymbol <= 99);
-  for (const varnel::ForecastSlot& slot : labels->pfrFORECAST) {
-    Require(slot.lblFOREDATE.size() + slot.lblFORETEMP.size() <= 1001);
+  Require(labels->txtCURRENT.size() <= 1000 && labels->condition == weather.ConditionText);
+  Require(labels->symbol >= 0 && labels->symbol <= 99);
+  for (const varnel::ForecastSlot& slot : labels->forecast) {
+    Require(slot.date.size() + slot.temps.size() <= 1001);
   }
   const auto again = varnel::DataFileRead(text, fahrenheit, weather);
   Require(again && again->txtFINALNOW == labels->txtFINALNOW &&
-          again->lblTEMPERATURE == labels->lblTEMPERATURE);
+          again->temperature == labels->temperature);
   return 0;
 }

@@ -63,20 +63,20 @@ TEST(WeatherFeed, AWholeReading) {
   EXPECT_EQ(reading.data.TemperatureF, 50);
   EXPECT_EQ(reading.labels.txtCURRENT.rfind(L"Current Weather Conditions In London", 0), 0u);
   EXPECT_LE(reading.labels.txtCURRENT.size(), 1000u);
-  EXPECT_EQ(reading.labels.lblWeatherCountry, L"London, United Kingdom");
-  EXPECT_EQ(reading.labels.lblWeathersymbol, 28);
-  EXPECT_EQ(reading.labels.lblTEMPERATURE, L"10C");
-  EXPECT_EQ(reading.labels.lblDESC, L"Mostly Cloudy");
+  EXPECT_EQ(reading.labels.location, L"London, United Kingdom");
+  EXPECT_EQ(reading.labels.symbol, 28);
+  EXPECT_EQ(reading.labels.temperature, L"10C");
+  EXPECT_EQ(reading.labels.condition, L"Mostly Cloudy");
   EXPECT_EQ(reading.labels.txtFINALNOW, L"London, United Kingdom\r\n\r\nMostly Cloudy\r\n\r\n50");
-  const auto& days = reading.labels.pfrFORECAST;
-  EXPECT_EQ(days[0].lblFOREDATE, L"Sat");
-  EXPECT_EQ(days[0].lblFORETEMP, L"72/55");
-  EXPECT_EQ(days[0].lblFOREICON, 28);
-  EXPECT_EQ(days[1].lblFOREDATE, L"Sun");
-  EXPECT_EQ(days[1].lblFOREICON, 3);
-  EXPECT_EQ(days[2].lblFORETEMP, L"64/49");
-  EXPECT_EQ(days[2].lblFOREICON, 19);
-  EXPECT_EQ(ReadSample({}, true).labels.lblTEMPERATURE, L"50F ");
+  const auto& days = reading.labels.forecast;
+  EXPECT_EQ(days[0].date, L"Sat");
+  EXPECT_EQ(days[0].temps, L"72/55");
+  EXPECT_EQ(days[0].icon, 28);
+  EXPECT_EQ(days[1].date, L"Sun");
+  EXPECT_EQ(days[1].icon, 3);
+  EXPECT_EQ(days[2].temps, L"64/49");
+  EXPECT_EQ(days[2].icon, 19);
+  EXPECT_EQ(ReadSample({}, true).labels.temperature, L"50F ");
 }
 
 TEST(WeatherFeed, AnEmptyTextChangesNothing) {
@@ -99,18 +99,18 @@ TEST(WeatherFeed, OnlyAWholeTemperatureAboveZeroIsTakenOver) {
     sample.temperature = test.temperature;
     const Reading reading = ReadSample(sample, true, 59);
     EXPECT_EQ(reading.data.TemperatureF, test.kept) << test.temperature;
-    EXPECT_EQ(reading.labels.lblTEMPERATURE, test.label) << test.temperature;
+    EXPECT_EQ(reading.labels.temperature, test.label) << test.temperature;
   }
   FeedSample cold;
   cold.temperature = L"-4";
-  EXPECT_EQ(ReadSample(cold, false, 50).labels.lblTEMPERATURE, L"10C");
+  EXPECT_EQ(ReadSample(cold, false, 50).labels.temperature, L"10C");
   EXPECT_TRUE(ReadSample(cold, false, 50).labels.txtFINALNOW.ends_with(L"\r\n\r\n-4"));
 }
 
 TEST(WeatherFeed, AMissingTemperatureIsTold) {
   const std::wstring raw = test::With<std::wstring>(FeedText(), L", and 50 &deg; F.", L".");
   const Reading reading = Read(raw, false, 50);
-  EXPECT_EQ(reading.labels.lblTEMPERATURE, L"-");
+  EXPECT_EQ(reading.labels.temperature, L"-");
   EXPECT_EQ(reading.labels.txtFINALNOW,
             L"London, United Kingdom\r\n\r\nMostly Cloudy.\r\n\r\nNo Temp");
 }
@@ -134,9 +134,9 @@ TEST(WeatherFeed, ConditionFixUpsInTheirOrder) {
     sample.condition = test.condition;
     sample.image = std::wstring(L"http://feed.example/icons/") + test.image;
     const Reading reading = ReadSample(sample);
-    EXPECT_EQ(reading.labels.lblDESC, test.shown) << test.condition << test.image;
+    EXPECT_EQ(reading.labels.condition, test.shown) << test.condition << test.image;
     EXPECT_EQ(reading.data.ConditionText, test.shown);
-    EXPECT_EQ(reading.labels.lblWeathersymbol, test.icon) << test.image;
+    EXPECT_EQ(reading.labels.symbol, test.icon) << test.image;
   }
 }
 
@@ -151,7 +151,7 @@ TEST(WeatherFeed, TheIconIsTheNumberOfTheImagesFile) {
   for (const auto& test : cases) {
     FeedSample sample;
     sample.image = test.image;
-    EXPECT_EQ(ReadSample(sample).labels.lblWeathersymbol, test.icon) << test.image;
+    EXPECT_EQ(ReadSample(sample).labels.symbol, test.icon) << test.image;
   }
 }
 
@@ -174,16 +174,16 @@ TEST(WeatherFeed, TheLocationLabelHasTwoFields) {
   for (const auto& test : cases) {
     FeedSample sample;
     sample.title = test.title;
-    EXPECT_EQ(ReadSample(sample).labels.lblWeatherCountry, test.label);
+    EXPECT_EQ(ReadSample(sample).labels.location, test.label);
   }
 }
 
 TEST(WeatherFeed, MissingMarkersLeaveTheirSlicesEmpty) {
   const Reading junk = Read(L"<html><body>Not found, sorry</body></html>", false, 50);
-  EXPECT_EQ(junk.labels.lblDESC, L"None");
-  EXPECT_EQ(junk.labels.lblTEMPERATURE, L"-");
-  EXPECT_EQ(junk.labels.lblWeathersymbol, kIconNotAvailable);
-  EXPECT_EQ(junk.labels.pfrFORECAST[0].lblFORETEMP, L"");
+  EXPECT_EQ(junk.labels.condition, L"None");
+  EXPECT_EQ(junk.labels.temperature, L"-");
+  EXPECT_EQ(junk.labels.symbol, kIconNotAvailable);
+  EXPECT_EQ(junk.labels.forecast[0].temps, L"");
   EXPECT_EQ(junk.data.TemperatureF, 50);
   EXPECT_FALSE(HoldsWeather(L"<html>"));
   EXPECT_TRUE(HoldsWeather(FeedText()));
@@ -192,7 +192,7 @@ TEST(WeatherFeed, MissingMarkersLeaveTheirSlicesEmpty) {
   for (const wchar_t* marker : {L"]]></title>\n    <link>http://feed.example/now", L"<description>",
                                 L"</description>", L"/>", L"For more details", L"---"}) {
     const Reading reading = Read(With<std::wstring>(FeedText(), marker, L""), true, 50);
-    EXPECT_FALSE(reading.labels.lblDESC.empty()) << marker;
+    EXPECT_FALSE(reading.labels.condition.empty()) << marker;
   }
 }
 
@@ -202,7 +202,7 @@ TEST(WeatherFeed, AnItemEndsAfterAThousandCharacters) {
   const Reading reading = ReadSample(sample);
   EXPECT_EQ(reading.labels.txtCURRENT.size(), 1000u);
   EXPECT_EQ(reading.data.DescriptionBlock, L"");
-  EXPECT_EQ(reading.labels.lblDESC, L"None");
+  EXPECT_EQ(reading.labels.condition, L"None");
 }
 
 TEST(WeatherFeed, CelsiusIsCutToHundredthsAndRoundedToTenths) {
@@ -266,13 +266,13 @@ TEST(Forecast, TemperaturesOfAnEntry) {
 TEST(Forecast, SlotsAreFilledInTurn) {
   FeedSample sample;
   sample.days = {{L"Tonight", L"Clear", L"null", L"40"}, {L" Sun ", L"Rain", L"null", L"null"}};
-  const auto slots = ReadSample(sample).labels.pfrFORECAST;
-  EXPECT_EQ(slots[0].lblFORETEMP, L"/40");
-  EXPECT_EQ(slots[1].lblFOREDATE, L"Sun");
-  EXPECT_EQ(slots[1].lblFORETEMP, L"/");
-  EXPECT_EQ(slots[2].lblFOREDATE, L"");
-  EXPECT_EQ(slots[2].lblFORETEMP, L"");
-  EXPECT_EQ(slots[2].lblFOREICON, kIconNotAvailable);
+  const auto slots = ReadSample(sample).labels.forecast;
+  EXPECT_EQ(slots[0].temps, L"/40");
+  EXPECT_EQ(slots[1].date, L"Sun");
+  EXPECT_EQ(slots[1].temps, L"/");
+  EXPECT_EQ(slots[2].date, L"");
+  EXPECT_EQ(slots[2].temps, L"");
+  EXPECT_EQ(slots[2].icon, kIconNotAvailable);
   EXPECT_EQ(ForecastDay(L"\r\nMon: Rain"), L"Mon");
   EXPECT_EQ(ForecastDay(L"no colon"), L"");
 }
@@ -299,9 +299,9 @@ TEST(WeatherFeed, DamagedFeedsAreReadToo) {
     }
     const Reading reading = Read(raw, any(2) == 0, 50);
     EXPECT_GT(reading.data.TemperatureF, 0);
-    EXPECT_FALSE(reading.labels.lblTEMPERATURE.empty());
-    for (const ForecastSlot& slot : reading.labels.pfrFORECAST) {
-      EXPECT_LE(slot.lblFOREDATE.size() + slot.lblFORETEMP.size(), 1000u);
+    EXPECT_FALSE(reading.labels.temperature.empty());
+    for (const ForecastSlot& slot : reading.labels.forecast) {
+      EXPECT_LE(slot.date.size() + slot.temps.size(), 1000u);
     }
   }
 }

@@ -29,22 +29,22 @@ WeatherLabels Shown(const std::string& answer, bool fahrenheit = false,
 
 TEST(LiveSource, AnAnswerReadsAsAFeed) {
   const WeatherLabels labels = Shown(LiveAnswer());
-  EXPECT_EQ(labels.lblWeatherCountry, L"London, United Kingdom");
-  EXPECT_EQ(labels.lblDESC, L"Partly Cloudy");
-  EXPECT_EQ(labels.lblTEMPERATURE, L"14C");
-  EXPECT_EQ(labels.lblWeathersymbol, 28);
-  const auto& days = labels.pfrFORECAST;
-  EXPECT_EQ(days[0].lblFOREDATE + days[1].lblFOREDATE + days[2].lblFOREDATE, L"SatSunMon");
-  EXPECT_EQ(days[0].lblFORETEMP, L"15/7");
-  EXPECT_EQ(days[1].lblFORETEMP, L"10/0");
-  EXPECT_EQ(days[2].lblFORETEMP, L"5/-20");
-  EXPECT_EQ(days[0].lblFOREICON, 28);
-  EXPECT_EQ(days[1].lblFOREICON, 9);
-  EXPECT_EQ(days[2].lblFOREICON, 19);
+  EXPECT_EQ(labels.location, L"London, United Kingdom");
+  EXPECT_EQ(labels.condition, L"Partly Cloudy");
+  EXPECT_EQ(labels.temperature, L"14C");
+  EXPECT_EQ(labels.symbol, 28);
+  const auto& days = labels.forecast;
+  EXPECT_EQ(days[0].date + days[1].date + days[2].date, L"SatSunMon");
+  EXPECT_EQ(days[0].temps, L"15/7");
+  EXPECT_EQ(days[1].temps, L"10/0");
+  EXPECT_EQ(days[2].temps, L"5/-20");
+  EXPECT_EQ(days[0].icon, 28);
+  EXPECT_EQ(days[1].icon, 9);
+  EXPECT_EQ(days[2].icon, 19);
 
   const WeatherLabels american = Shown(LiveAnswer(), true);
-  EXPECT_EQ(american.lblTEMPERATURE, L"57F ");
-  EXPECT_EQ(american.pfrFORECAST[2].lblFORETEMP, L"41/-4");
+  EXPECT_EQ(american.temperature, L"57F ");
+  EXPECT_EQ(american.forecast[2].temps, L"41/-4");
 }
 
 TEST(LiveSource, ColdThatTheFeedCannotCarryIsSaid) {
@@ -58,16 +58,16 @@ TEST(LiveSource, ColdThatTheFeedCannotCarryIsSaid) {
                {"-13", L"-", L"Partly Cloudy at -13F (-25C)"}};
   for (const auto& test : cases) {
     const WeatherLabels labels = Shown(Changed("57.3", test.degrees), true);
-    EXPECT_EQ(labels.lblTEMPERATURE, test.label) << test.degrees;
-    EXPECT_EQ(labels.lblDESC, test.words) << test.degrees;
+    EXPECT_EQ(labels.temperature, test.label) << test.degrees;
+    EXPECT_EQ(labels.condition, test.words) << test.degrees;
   }
 }
 
 TEST(LiveSource, NightHasItsOwnWordsAndPicture) {
   const std::string clear = test::With<std::string>(Changed("\"is_day\":1", "\"is_day\":0"),
                                                     "\"weather_code\":2", "\"weather_code\":0");
-  EXPECT_EQ(Shown(clear).lblDESC, L"Clear");
-  EXPECT_EQ(Shown(clear).lblWeathersymbol, 31);
+  EXPECT_EQ(Shown(clear).condition, L"Clear");
+  EXPECT_EQ(Shown(clear).symbol, 31);
 }
 
 TEST(LiveSource, EveryCodeShowsWordsAndTheRightPictures) {
@@ -83,29 +83,29 @@ TEST(LiveSource, EveryCodeShowsWordsAndTheRightPictures) {
       const std::string answer = test::With<std::string>(
           Changed("\"weather_code\":2", text), "[1,61,3]", "[" + std::to_string(code) + ",0,0]");
       const WeatherLabels labels = Shown(answer);
-      EXPECT_EQ(labels.lblDESC, WeatherKindOf(code).words);
-      EXPECT_EQ(labels.lblWeathersymbol, group.icon) << code;
-      EXPECT_EQ(labels.pfrFORECAST[0].lblFOREICON, group.forecast_icon) << code;
+      EXPECT_EQ(labels.condition, WeatherKindOf(code).words);
+      EXPECT_EQ(labels.symbol, group.icon) << code;
+      EXPECT_EQ(labels.forecast[0].icon, group.forecast_icon) << code;
     }
   }
   const WeatherLabels unknown = Shown(Changed("\"weather_code\":2", "\"weather_code\":42"));
-  EXPECT_EQ(unknown.lblDESC, L"No Description");
-  EXPECT_EQ(unknown.lblWeathersymbol, kIconNotAvailable);
+  EXPECT_EQ(unknown.condition, L"No Description");
+  EXPECT_EQ(unknown.symbol, kIconNotAvailable);
 }
 
 TEST(LiveSource, NullsOfADayAreLeftOut) {
   const std::string answer =
       test::With<std::string>(Changed("[59.2,", "[null,"), "[1,61,3]", "[null,61,3]");
-  EXPECT_EQ(Shown(answer).pfrFORECAST[0].lblFORETEMP, L"/7");
-  EXPECT_EQ(Shown(answer).pfrFORECAST[0].lblFOREICON, kIconNotAvailable);
+  EXPECT_EQ(Shown(answer).forecast[0].temps, L"/7");
+  EXPECT_EQ(Shown(answer).forecast[0].icon, kIconNotAvailable);
 }
 
 TEST(LiveSource, PlaceNamesCannotBreakTheFeed) {
   const WeatherLabels labels =
       Shown(LiveAnswer(), false, {L"1", L"A]]></title><b>&\r\n\"B\"", std::wstring(5000, L'c')});
-  EXPECT_EQ(labels.lblWeatherCountry.rfind(L"A    /title  b", 0), 0u);
-  EXPECT_EQ(labels.lblDESC, L"Partly Cloudy");
-  EXPECT_EQ(labels.pfrFORECAST[2].lblFOREDATE, L"Mon");
+  EXPECT_EQ(labels.location.rfind(L"A    /title  b", 0), 0u);
+  EXPECT_EQ(labels.condition, L"Partly Cloudy");
+  EXPECT_EQ(labels.forecast[2].date, L"Mon");
 }
 
 TEST(LiveSource, WhatIsWrongIsSaidInPlainWords) {

@@ -136,7 +136,7 @@ std::optional<WeatherLabels> DataFileRead(std::wstring_view txtDATA, bool fahren
   data.LocationTitle = TitleOf(item);
   data.DescriptionBlock = Before(After(item, L"<description>"), L"</description>");
   const int feed_code = ImageCode(data.DescriptionBlock);
-  labels.lblWeathersymbol = ReducedIcon(feed_code);
+  labels.symbol = ReducedIcon(feed_code);
 
   Report report = ReportOf(data.DescriptionBlock);
   const auto degrees = WholeNumber(report.temperature);
@@ -145,16 +145,16 @@ std::optional<WeatherLabels> DataFileRead(std::wstring_view txtDATA, bool fahren
       FixedCondition(std::move(report.condition), data.DescriptionBlock, feed_code);
 
   if (report.temperature.empty()) {
-    labels.lblTEMPERATURE = L"-";
+    labels.temperature = L"-";
     report.temperature = L"No Temp";
   } else {
-    labels.lblTEMPERATURE = TemperatureLabel(data.TemperatureF, fahrenheit);
+    labels.temperature = TemperatureLabel(data.TemperatureF, fahrenheit);
   }
   labels.txtFINALNOW =
       data.LocationTitle + L"\r\n\r\n" + data.ConditionText + L"\r\n\r\n" + report.temperature;
-  labels.lblWeatherCountry = CountryLabel(data.LocationTitle);
-  labels.lblDESC = data.ConditionText;
-  labels.pfrFORECAST = DataFileRead10Days(txtDATA);
+  labels.location = CountryLabel(data.LocationTitle);
+  labels.condition = data.ConditionText;
+  labels.forecast = DataFileRead10Days(txtDATA);
   return labels;
 }
 
@@ -165,9 +165,9 @@ std::array<ForecastSlot, 3> DataFileRead10Days(std::wstring_view txtDATA) {
     const std::size_t end = text.find(kEntryEnd);
     if (end == std::wstring_view::npos) break;
     const std::wstring_view entry = text.substr(0, std::min(end, kMostItem));
-    slot.lblFOREDATE = ForecastDay(entry);
-    slot.lblFORETEMP = Replaced(ForecastTemps(entry), L"null", L"");
-    slot.lblFOREICON = ForecastIcon(entry);
+    slot.date = ForecastDay(entry);
+    slot.temps = Replaced(ForecastTemps(entry), L"null", L"");
+    slot.icon = ForecastIcon(entry);
     text.remove_prefix(end + kEntryEnd.size());
   }
   return slots;

@@ -21,20 +21,20 @@ struct WeatherData {
 inline constexpr int kIconNotAvailable = 25;
 
 struct ForecastSlot {
-  std::wstring lblFOREDATE;
-  std::wstring lblFORETEMP;
-  int lblFOREICON = kIconNotAvailable;  // an icon number
+  std::wstring date;             // lblFOREDATE
+  int icon = kIconNotAvailable;  // lblFOREICON, an icon number
+  std::wstring temps;            // lblFORETEMP
 };
 
-// The texts for the widget's labels and for the settings form's working boxes.
+// The texts for the widget's labels, and the settings form's working texts.
 struct WeatherLabels {
-  std::wstring txtCURRENT;
-  std::wstring lblWeatherCountry;
-  int lblWeathersymbol = kIconNotAvailable;  // an icon number
-  std::wstring lblTEMPERATURE;
-  std::wstring lblDESC;
-  std::wstring txtFINALNOW;
-  std::array<ForecastSlot, 3> pfrFORECAST;
+  std::wstring txtCURRENT;         // the slice of the current conditions
+  std::wstring txtFINALNOW;        // their summary
+  std::wstring location;           // lblWeatherCountry
+  int symbol = kIconNotAvailable;  // lblWeathersymbol, an icon number
+  std::wstring temperature;        // with its scale
+  std::wstring condition;          // lblDESC
+  std::array<ForecastSlot, 3> forecast;
 };
 
 // Whether the text holds current conditions or a forecast at all. Where it does not, the fetch
