@@ -32,6 +32,8 @@ void WidgetForm::OnCommand(int id, int code, HWND control) {
     if (id != IDOK && id != IDCANCEL) RunCommand(id);
     return;
   }
+  // The second of two quick clicks counts like any other.
+  if (code == BN_DBLCLK && buttons_.Find(id)) code = BN_CLICKED;
   if (code == BN_CLICKED && id == lablTBARTOP) {
     const Rect window = screen_rect();
     ShowMenu({window.left + layout_.bar_buttons[0].left, window.top + layout_.pfrBAR.bottom});

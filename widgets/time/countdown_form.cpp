@@ -10,6 +10,7 @@
 namespace varnel {
 namespace {
 
+constexpr UINT kSelectField = WM_APP;  // wparam: the field's number
 constexpr int kTickMs = 1000;
 constexpr int kMostDigits = 3;
 constexpr CountdownField kFields[] = {CountdownField::kHours, CountdownField::kMinutes,
@@ -148,7 +149,8 @@ void CountdownForm::OnControl(int id, int code) {
   } else if (code == EN_CHANGE && (display || interval) && !filling_) {
     OnFieldChanged(id);
   } else if (code == EN_SETFOCUS && (display || interval)) {
-    ::PostMessageW(::GetDlgItem(handle(), id), EM_SETSEL, 0, -1);
+    // Later, for the click that brings the focus sets the caret after this.
+    ::PostMessageW(handle(), kSelectField, id, 0);
   }
 }
 
@@ -159,6 +161,11 @@ void CountdownForm::OnFieldChanged(int id) {
 }
 
 LRESULT CountdownForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+  if (message == kSelectField) {
+    ::ReleaseCapture();  // or the mouse, still down, would go on selecting by itself
+    ::SendMessageW(::GetDlgItem(handle(), static_cast<int>(wparam)), EM_SETSEL, 0, -1);
+    return 0;
+  }
   if (message == WM_CTLCOLOREDIT) return ColourField(reinterpret_cast<HDC>(wparam));
   return WidgetForm::OnMessage(message, wparam, lparam);
 }
