@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/geometry.h"
 #include "theme/theme_record.h"
 
 namespace varnel {
@@ -24,6 +25,8 @@ class LiveForm {
   virtual void ApplyChrome() = 0;
   // Gives the form a new size, in twips; it is brought on screen but not snapped to the grid.
   virtual void SetSize(int width, int height) = 0;
+  // Its window's place, in pixels of the screen.
+  virtual Rect Bounds() const = 0;
   virtual bool on_top() const = 0;
   // Keeps this window above others or not, whatever the setting for all widgets says.
   virtual void SetOnTop(bool on) = 0;

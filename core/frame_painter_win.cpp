@@ -18,12 +18,7 @@ void PaintBar(Surface& surface, const FramePainting& frame) {
   Image image(bar.width(), bar.height());
   FillGradient(image, frame.chrome.bar.first, frame.chrome.bar.second, frame.chrome.bar_angle,
                UserSystemColours());
-  const auto pixels = surface.pixels();
-  if (pixels.empty()) return;
-  for (int y = 0; y < image.height(); ++y) {
-    std::ranges::copy(image.Row(y),
-                      pixels.begin() + (bar.top + y) * surface.size().width + bar.left);
-  }
+  PutImage(surface, {bar.left, bar.top}, image);
 }
 
 // Three short diagonal lines in the corner that sizes the window.

@@ -53,6 +53,7 @@ bool TextButtons::OnMouseOver(HWND control) {
   Repaint(hovered_);
   hovered_ = id;
   Repaint(hovered_);
+  if (found->glyph) tooltip_.Attach(owner_.handle(), control, WindowText(control));
   return true;
 }
 

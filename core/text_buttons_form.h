@@ -9,6 +9,7 @@
 #include "base/geometry.h"
 #include "theme/chrome_colours.h"
 #include "theme/text_painter_win.h"
+#include "win/tooltip.h"
 #include "win/window.h"
 
 namespace varnel {
@@ -47,7 +48,8 @@ class TextButtons {
 
   // The button under the mouse, or null.
   const TextButton* hovered() const { return hovered_ ? Find(hovered_) : nullptr; }
-  // Notes that the mouse is over `control` (any window). True when it has just come to a button.
+  // Notes that the mouse is over `control` (any window). True when it has just come to a button;
+  // one that shows a glyph then tells its word.
   bool OnMouseOver(HWND control);
   // Looks where the mouse is now. True when it has left the button that it was over.
   bool MouseHasLeft();
@@ -59,6 +61,7 @@ class TextButtons {
   Window& owner_;
   std::vector<TextButton> buttons_;
   int hovered_ = 0;
+  Tooltip tooltip_;
 };
 
 // A button's face with rounded corners, its outline, and the focus when it is to be seen.

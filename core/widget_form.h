@@ -12,6 +12,7 @@
 #include "core/services.h"
 #include "core/text_buttons_form.h"
 #include "core/widget_index.h"
+#include "theme/widget_paint.h"
 #include "win/timer.h"
 #include "win/window.h"
 
@@ -38,6 +39,7 @@ class WidgetForm : public Window, public LiveForm {
   void SetSize(int width, int height) override;
   // Goes back to the place that the form had when it was first opened.
   void MoveToDefaultPlace();
+  Rect Bounds() const override { return screen_rect(); }
   bool on_top() const override { return on_top_; }
   void SetOnTop(bool on) override;
   void FollowOnTopSetting() override;
@@ -71,7 +73,9 @@ class WidgetForm : public Window, public LiveForm {
   Services& services() const { return services_; }
   const FormEntry& entry() const { return entry_; }
   const FrameLayout& layout() const { return layout_; }
-  const ChromeColours& chrome() const { return chrome_; }
+  // What the widget is painted with: colours are to be taken from here, not from theme().
+  const WidgetPaint& paint() const { return paint_; }
+  const ChromeColours& chrome() const { return paint_.chrome; }
   TextButtons& buttons() { return buttons_; }
   // A style for texts on the panel: the theme's panel font and colour.
   TextStyle PanelTextStyle(int font_height) const;
@@ -79,6 +83,8 @@ class WidgetForm : public Window, public LiveForm {
 
  private:
   void CreateBarButtons();
+  // The system's colours or the user's wishes have changed.
+  void OnLookChanged();
   // The focus is shown once the keyboard is used, until the mouse is.
   void ShowFocus(bool shown);
   void Paint();
@@ -103,7 +109,7 @@ class WidgetForm : public Window, public LiveForm {
   const FormEntry& entry_;
   const int index_;
   ThemeRecord theme_;
-  ChromeColours chrome_;
+  WidgetPaint paint_;
   FrameLayout layout_;
   Place place_;  // as the user wished it; the window may have had to go elsewhere
   SnappedPosition snapped_;

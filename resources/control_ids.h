@@ -67,3 +67,58 @@
 #define lablALARMC 1341
 #define lblTitle 1342
 #define imgBUTCLOSE 1343
+
+// frmTHEME, the theme dialog
+#define tabMAIN 1400
+#define picPREVIEW 1401
+#define lblREADBAR 1402  // the contrast of the bar's text, and the mark that it is too low
+#define icoREADBAR 1403
+#define lblREADPANEL 1404  // the same for the panel's
+#define icoREADPANEL 1405
+#define lblREADHINT 1406
+#define flbLIST 1407  // hidden: the files of the presets that lvwTHEMES shows
+#define btnAPPLY 1408
+#define cmdOKfrmTHEME 1  // closes when nothing is left to apply
+#define btnCLOSEDLG 2    // closes and drops what was not applied
+// its page "Main Theme", 1410 to 1439
+#define lstFOLDERS 1410
+#define lvwTHEMES 1411
+#define txtPRESETNEW 1412
+#define btnNEW 1413
+#define btnDELETE 1414
+#define btnDELETEALL 1415
+#define lblCOLORMAIN 1416
+#define btnCOLORMAIN 1417
+#define hsbOPACITY 1418
+#define lblVALUE 1419  // the opacity's
+#define hsbCONTRAST 1420
+#define lblCONTRAST 1421
+#define labMAIN 1430  // 0 to 5, captions
+// its page "Top Bar / Bottom Bar", 1440 to 1459
+#define cboBAR 1440
+#define lblCOLORBAR 1441
+#define btnCOLORBAR 1442
+#define hsbBARANGLE 1443
+#define lblANGLE 1444
+#define labBAR 1450  // 0 to 2
+// its page "Large Panel", 1460 to 1479
+#define cboPANEL 1460
+#define lblCOLORPANEL 1461
+#define btnCOLORPANEL 1462
+#define labPANEL 1470  // 0 and 1
+
+// frmCLCwg, the calculator; its digit keys are lblNUMBER
+#define lbl01234567890 1600
+#define lblDISPLAYFUNC 1601
+#define lblSUB 1602
+#define lvwFILES 1603
+#define lblPOINT 1610  // this and the next in the order of the keys
+#define lblPLUSMINUS 1611
+#define lblADD 1612
+#define lblSUBTRACT 1613
+#define lblMULTIPLY 1614
+#define lblDIVIDE 1615
+#define lblEQUALS 1616
+#define lblCLEAR 1617
+#define lblCLEARENTRY 1618
+#define lblDELETE 1619

@@ -21,6 +21,8 @@ bool Dialog::Open(HWND owner) {
     ::CreateDialogParamW(ui_.instance, form_name_, owner, &Procedure,
                          reinterpret_cast<LPARAM>(this));
     if (!handle_) return false;
+  } else {
+    OnReopen();
   }
   ::ShowWindow(handle_, SW_SHOW);
   ::SetForegroundWindow(handle_);

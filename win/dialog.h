@@ -26,6 +26,8 @@ class Dialog {
  protected:
   // Called once the controls exist, before they are seen.
   virtual void OnOpen() {}
+  // Called when the dialog is asked for while it is open.
+  virtual void OnReopen() {}
   // A command of control `id` with the control's notification code. IDOK and IDCANCEL come here
   // too.
   virtual void OnCommand(int id, int code) = 0;

@@ -31,6 +31,9 @@ std::wstring BrowseForFile(HWND owner, const wchar_t* title, const wchar_t* filt
 // A message box with an OK button and the information sign.
 void ShowInformation(HWND owner, const std::wstring& text, const std::wstring& title);
 
+// A question with Yes and No, the latter chosen at first. True for Yes.
+bool AskYesNo(HWND owner, const std::wstring& text, const std::wstring& title);
+
 // Shows the hourglass pointer for the length of a scope.
 class HourglassPointer {
  public:

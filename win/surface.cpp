@@ -28,6 +28,18 @@ void Surface::CopyTo(HDC target, Point corner) const {
   ::BitBlt(target, corner.x, corner.y, size_.width, size_.height, dc(), 0, 0, SRCCOPY);
 }
 
+void PutImage(Surface& surface, Point corner, const Image& image) {
+  const auto pixels = surface.pixels();
+  const Size size = surface.size();
+  const int left = std::max(0, -corner.x);
+  const int right = std::min(image.width(), size.width - corner.x);
+  if (pixels.empty() || left >= right) return;
+  for (int y = std::max(0, -corner.y); y < std::min(image.height(), size.height - corner.y); ++y) {
+    std::ranges::copy(image.Row(y).subspan(left, right - left),
+                      pixels.begin() + (corner.y + y) * size.width + corner.x + left);
+  }
+}
+
 void FillRectangle(HDC dc, const Rect& rect, COLORREF colour) {
   const RECT system = ToSystem(rect);
   ::SetDCBrushColor(dc, colour);

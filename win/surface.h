@@ -7,6 +7,7 @@
 #include <span>
 
 #include "base/geometry.h"
+#include "base/image.h"
 #include "win/handles.h"
 
 namespace varnel {
@@ -30,6 +31,10 @@ class Surface {
   UniqueDc dc_;  // destroyed before the bitmap it holds
   std::uint32_t* bits_ = nullptr;
 };
+
+// Copies the image's pixels, as they are, to where its corner is on the surface; what lies outside
+// is left out.
+void PutImage(Surface& surface, Point corner, const Image& image);
 
 void FillRectangle(HDC dc, const Rect& rect, COLORREF colour);
 // A one-pixel line inside the edges of `rect`.

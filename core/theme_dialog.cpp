@@ -1,0 +1,451 @@
+#include "core/theme_dialog.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "base/number_text.h"
+#include "base/text.h"
+#include "core/core_settings.h"
+#include "core/place_beside.h"
+#include "core/theme_preview_win.h"
+#include "resources/control_ids.h"
+#include "theme/font_list.h"
+#include "theme/preset_generator.h"
+#include "win/common_controls.h"
+#include "win/installed_fonts.h"
+#include "win/monitors.h"
+#include "win/shell.h"
+
+namespace varnel {
+namespace {
+
+constexpr int kGap = 10;  // between the dialog and its target, at 96 dpi
+constexpr int kLongestName = 100;
+constexpr int kTabLine = 2;
+
+constexpr const wchar_t* kPages[] = {L"Main Theme", L"Top Bar / Bottom Bar", L"Large Panel"};
+constexpr int kFirstOfPage[] = {1410, 1440, 1460, 1480};  // control numbers; the last ends the last
+
+struct Slider {
+  int control;
+  int label;
+  int number;
+};
+constexpr Slider kSliders[] = {{hsbOPACITY, lblVALUE, kOpacityNumber},
+                               {hsbCONTRAST, lblCONTRAST, kContrastNumber},
+                               {hsbBARANGLE, lblANGLE, kAngleNumber}};
+
+struct ColourField {
+  int swatch;
+  int button;
+  Colour ThemeRecord::*member;
+};
+constexpr ColourField kColours[] = {
+    {lblCOLORMAIN, btnCOLORMAIN, &ThemeRecord::lngTHEMECOLOR},
+    {lblCOLORBAR, btnCOLORBAR, &ThemeRecord::lngTHEMEBARFONTCOLOR},
+    {lblCOLORPANEL, btnCOLORPANEL, &ThemeRecord::lngTHEMEPANELFONTCOLOR}};
+
+struct FontField {
+  int combo;
+  std::wstring ThemeRecord::*member;
+};
+constexpr FontField kFonts[] = {{cboBAR, &ThemeRecord::strTHEMEBARFONTNAME},
+                                {cboPANEL, &ThemeRecord::strTHEMEPANELFONTNAME}};
+
+LPARAM TextParameter(const std::wstring& text) {
+  return reinterpret_cast<LPARAM>(text.c_str());
+}
+
+}  // namespace
+
+ThemeDialog::ThemeDialog(Services& services)
+    : Dialog(services.ui, L"frmTHEME"),
+      services_(services),
+      editor_(services.settings, services.files, services.colours, services.program_folder),
+      presets_(services.colours) {
+  LoadCommonControls(ICC_TAB_CLASSES | ICC_LISTVIEW_CLASSES | ICC_BAR_CLASSES);
+}
+
+void ThemeDialog::OnOpen() {
+  FillTabs();
+  FillFonts();
+  presets_.Attach(Control(lvwTHEMES), static_cast<int>(::GetDpiForWindow(handle())));
+  for (const std::wstring_view style : kStyleFolders) {
+    ::SendMessageW(Control(lstFOLDERS), LB_ADDSTRING, 0, TextParameter(std::wstring(style)));
+  }
+  ::SendMessageW(Control(txtPRESETNEW), EM_LIMITTEXT, kLongestName, 0);
+  for (const Slider& slider : kSliders) {
+    const ThemeNumber& number = ThemeNumberAt(slider.number);
+    ::SendMessageW(Control(slider.control), TBM_SETRANGE, FALSE,
+                   MAKELPARAM(number.low, number.high));
+    ::SendMessageW(Control(slider.control), TBM_SETPAGESIZE, 0, 15);
+  }
+  for (const int mark : {icoREADBAR, icoREADPANEL}) {
+    const int side = ::GetSystemMetrics(SM_CXSMICON);
+    ::SendMessageW(Control(mark), STM_SETICON,
+                   reinterpret_cast<WPARAM>(::LoadImageW(nullptr, MAKEINTRESOURCEW(32515),
+                                                         IMAGE_ICON, side, side, LR_SHARED)),
+                   0);
+  }
+  TakeTarget();
+}
+
+void ThemeDialog::OnReopen() {
+  if (editor_.target() == services_.program.CurrentWidget()) return;
+  ReturnTarget();
+  TakeTarget();
+}
+
+void ThemeDialog::TakeTarget() {
+  const std::wstring form(services_.program.CurrentWidget());
+  LiveForm* live = services_.forms.Find(form);
+  editor_.Open(form, live ? live->theme() : ThemeRecord());
+  ::SetWindowTextW(handle(), std::wstring(editor_.caption()).c_str());
+  SetControlText(txtPRESETNEW, L"");
+  ::SendMessageW(Control(lstFOLDERS), LB_SELECTSTRING, static_cast<WPARAM>(-1),
+                 TextParameter(editor_.folder()));
+  FillPresets();
+  ShowPage(0);
+  ShowValues();
+  if (live) MoveBeside(*live);
+}
+
+void ThemeDialog::MoveBeside(const LiveForm& form) {
+  RECT own = {};
+  ::GetWindowRect(handle(), &own);
+  const Rect target = form.Bounds();
+  const Rect place = FromSystem(own);
+  const Rect beside =
+      PlaceBeside({place.width(), place.height()}, target, MonitorAt(target).work_area,
+                  Scaled(kGap, static_cast<int>(::GetDpiForWindow(handle()))));
+  ::SetWindowPos(handle(), nullptr, beside.left, beside.top, 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void ThemeDialog::ShowOnTarget(const ThemeRecord& theme) {
+  LiveForm* live = services_.forms.Find(editor_.target());
+  if (!live) return;
+  live->theme() = theme;
+  live->ApplyChrome();
+  live->Form_Resize();
+  live->WidgetRefresh();
+}
+
+void ThemeDialog::ReturnTarget() {
+  if (editor_.changed()) ShowOnTarget(editor_.kept());
+}
+
+void ThemeDialog::FillTabs() {
+  for (int i = 0; i < static_cast<int>(std::size(kPages)); ++i) {
+    std::wstring title = kPages[i];
+    TCITEMW item = {};
+    item.mask = TCIF_TEXT;
+    item.pszText = title.data();
+    ::SendMessageW(Control(tabMAIN), TCM_INSERTITEMW, i, reinterpret_cast<LPARAM>(&item));
+  }
+  // No more than the tabs and a line below them: the pages stand on the dialog itself.
+  RECT strip = {};
+  ::GetClientRect(Control(tabMAIN), &strip);
+  RECT tab = {};
+  TabCtrl_GetItemRect(Control(tabMAIN), 0, &tab);
+  ::SetWindowPos(Control(tabMAIN), nullptr, 0, 0, strip.right, tab.bottom + kTabLine,
+                 SWP_NOMOVE | SWP_NOZORDER);
+}
+
+void ThemeDialog::FillFonts() {
+  const std::vector<std::wstring> faces = InstalledFontFaces();
+  for (const FontField& font : kFonts) {
+    HWND combo = Control(font.combo);
+    ::SendMessageW(combo, WM_SETREDRAW, FALSE, 0);
+    ::SendMessageW(combo, CB_LIMITTEXT, kLongestFontName, 0);
+    for (const std::wstring& face : faces) {
+      if (IsFontOffered(face)) ::SendMessageW(combo, CB_ADDSTRING, 0, TextParameter(face));
+    }
+    ::SendMessageW(combo, WM_SETREDRAW, TRUE, 0);
+  }
+}
+
+void ThemeDialog::ShowPage(int page) {
+  TabCtrl_SetCurSel(Control(tabMAIN), page);
+  for (HWND child = ::GetWindow(handle(), GW_CHILD); child;
+       child = ::GetWindow(child, GW_HWNDNEXT)) {
+    const int id = ::GetDlgCtrlID(child);
+    if (id < kFirstOfPage[0] || id >= kFirstOfPage[std::size(kPages)]) continue;
+    const bool on_page = id >= kFirstOfPage[page] && id < kFirstOfPage[page + 1];
+    ::ShowWindow(child, on_page ? SW_SHOWNA : SW_HIDE);
+  }
+}
+
+void ThemeDialog::Changed() {
+  ShowOnTarget(editor_.theme());
+  ShowValues();
+}
+
+void ThemeDialog::ShowValues() {
+  const ThemeRecord& theme = editor_.theme();
+  filling_ = true;
+  for (const Slider& slider : kSliders) {
+    ::SendMessageW(Control(slider.control), TBM_SETPOS, TRUE, SliderPlace(theme, slider.number));
+    SetControlText(slider.label, NumberLabel(theme, slider.number));
+  }
+  for (const FontField& font : kFonts) {
+    const std::wstring& face = theme.*font.member;
+    HWND combo = Control(font.combo);
+    if (ControlText(font.combo) == face) continue;
+    const LRESULT place =
+        ::SendMessageW(combo, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), TextParameter(face));
+    ::SendMessageW(combo, CB_SETCURSEL, place, 0);
+    // A face that is not installed is shown all the same.
+    if (place == CB_ERR) SetControlText(font.combo, face);
+  }
+  filling_ = false;
+  for (const ColourField& colour : kColours) {
+    ::InvalidateRect(Control(colour.swatch), nullptr, FALSE);
+  }
+  ::InvalidateRect(Control(picPREVIEW), nullptr, FALSE);
+  ShowReadability();
+  EnableButtons();
+}
+
+void ThemeDialog::ShowReadability() {
+  const Readability readability = ReadabilityOf(editor_.theme(), services_.colours);
+  const auto show = [this](int label, int mark, double ratio) {
+    SetControlText(label, RatioText(ratio));
+    ::ShowWindow(Control(mark), HardToRead(ratio) ? SW_SHOWNA : SW_HIDE);
+  };
+  show(lblREADBAR, icoREADBAR, readability.bar);
+  show(lblREADPANEL, icoREADPANEL, readability.panel);
+  const bool hard = HardToRead(readability.bar) || HardToRead(readability.panel);
+  SetControlText(lblREADHINT, hard ? L"Under 4.5 : 1 small text is hard to read. It is drawn with "
+                                     L"a rim to help."
+                                   : L"Both are easy to read.");
+}
+
+void ThemeDialog::EnableButtons() {
+  Enable(btnDELETE, editor_.HasPreset(ControlText(txtPRESETNEW)));
+  Enable(btnDELETEALL, !presets_.presets().empty());
+  // One place, two buttons: the caption tells whether closing drops anything.
+  const bool changed = editor_.changed();
+  ::ShowWindow(Control(cmdOKfrmTHEME), changed ? SW_HIDE : SW_SHOWNA);
+  ::ShowWindow(Control(btnCLOSEDLG), changed ? SW_SHOWNA : SW_HIDE);
+}
+
+void ThemeDialog::OnCommand(int id, int code) {
+  switch (id) {
+    case tabMAIN:
+      return;
+    case lstFOLDERS:
+      if (code == LBN_SELCHANGE) SelectFolder();
+      return;
+    case flbLIST:
+      if (code == LBN_SELCHANGE) {
+        presets_.Choose(static_cast<int>(::SendMessageW(Control(flbLIST), LB_GETCURSEL, 0, 0)));
+      }
+      return;
+    case txtPRESETNEW:
+      OnNameBox(code);
+      return;
+    case cboBAR:
+    case cboPANEL:
+      OnFont(id, code);
+      return;
+    default:
+      break;
+  }
+  if (code != BN_CLICKED) return;
+  switch (id) {
+    case btnNEW:
+      NewPreset();
+      break;
+    case btnDELETE:
+      DeletePreset();
+      break;
+    case btnDELETEALL:
+      DeleteAllPresets();
+      break;
+    case btnAPPLY:
+      Apply();
+      break;
+    case cmdOKfrmTHEME:
+    case btnCLOSEDLG:
+      Close();
+      break;
+    default:
+      PickColour(id);
+  }
+}
+
+bool ThemeDialog::OnMessage(UINT message, WPARAM, LPARAM lparam) {
+  switch (message) {
+    case WM_NOTIFY:
+      ::SetWindowLongPtrW(handle(), DWLP_MSGRESULT,
+                          OnNotify(*reinterpret_cast<const NMHDR*>(lparam)));
+      return true;
+    case WM_HSCROLL:
+      OnSlider(reinterpret_cast<HWND>(lparam));
+      return true;
+    case WM_DRAWITEM:
+      Draw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lparam));
+      return true;
+    case WM_DESTROY:
+      editor_.StoreFolder();
+      ReturnTarget();
+      return true;
+    default:
+      return false;
+  }
+}
+
+LRESULT ThemeDialog::OnNotify(const NMHDR& notice) {
+  if (notice.code == TCN_SELCHANGE) ShowPage(TabCtrl_GetCurSel(notice.hwndFrom));
+  if (notice.idFrom != lvwTHEMES) return 0;
+  if (notice.code == NM_CUSTOMDRAW) {
+    return presets_.OnCustomDraw(reinterpret_cast<const NMLVCUSTOMDRAW&>(notice));
+  }
+  if (notice.code == LVN_ITEMCHANGED && !filling_) {
+    const auto& change = reinterpret_cast<const NMLISTVIEW&>(notice);
+    const bool chosen = change.uNewState & ~change.uOldState & LVIS_SELECTED;
+    if (chosen) SelectPreset(change.iItem);
+  }
+  return 0;
+}
+
+void ThemeDialog::Draw(const DRAWITEMSTRUCT& item) {
+  const int dpi = static_cast<int>(::GetDpiForWindow(handle()));
+  const Rect box = FromSystem(item.rcItem);
+  const ThemeRecord& theme = editor_.theme();
+  if (item.CtlID == picPREVIEW) {
+    Surface surface({box.width(), box.height()});
+    PaintThemePreview(ui(), surface, theme, editor_.target_entry(), dpi, services_.colours);
+    surface.CopyTo(item.hDC, {0, 0});
+  }
+  for (const ColourField& colour : kColours) {
+    if (static_cast<int>(item.CtlID) != colour.swatch) continue;
+    PaintSwatch(item.hDC, box, theme.*colour.member, dpi, services_.colours);
+  }
+}
+
+void ThemeDialog::SelectFolder() {
+  const LRESULT place = ::SendMessageW(Control(lstFOLDERS), LB_GETCURSEL, 0, 0);
+  if (place < 0 || place >= static_cast<LRESULT>(kStyleFolders.size())) return;
+  editor_.SelectFolder(kStyleFolders[place]);
+  FillPresets();
+  EnableButtons();
+}
+
+void ThemeDialog::FillPresets() {
+  filling_ = true;
+  presets_.Fill(editor_.Presets());
+  filling_ = false;
+  ::SendMessageW(Control(flbLIST), LB_RESETCONTENT, 0, 0);
+  for (const PresetSwatch& preset : presets_.presets()) {
+    const std::wstring file = preset.name + std::wstring(kPresetEnding);
+    ::SendMessageW(Control(flbLIST), LB_ADDSTRING, 0, TextParameter(file));
+  }
+}
+
+void ThemeDialog::SelectPreset(int place) {
+  const std::wstring name = presets_.presets()[place].name;
+  ::SendMessageW(Control(flbLIST), LB_SETCURSEL, place, 0);
+  SetControlText(txtPRESETNEW, name);
+  editor_.SelectPreset(name);
+  Changed();
+}
+
+void ThemeDialog::OnNameBox(int code) {
+  if (code == EN_CHANGE) EnableButtons();
+  // Enter in the box makes the preset that is named in it.
+  if (code == EN_SETFOCUS) ::SendMessageW(handle(), DM_SETDEFID, btnNEW, 0);
+  if (code == EN_KILLFOCUS) ::SendMessageW(handle(), DM_SETDEFID, btnAPPLY, 0);
+}
+
+void ThemeDialog::NewPreset() {
+  const std::wstring name = ControlText(txtPRESETNEW);
+  const std::wstring title(kApplicationTitle);
+  switch (editor_.NewPreset(name)) {
+    case PresetSaved::kNoName:
+      ShowInformation(handle(), L"Please make sure you type it in correctly.",
+                      L"You Have not Entered a File Name");
+      break;
+    case PresetSaved::kBadName:
+      ShowInformation(handle(), L"A preset cannot have that name.", title);
+      break;
+    case PresetSaved::kFailed:
+      ShowInformation(handle(), L"The preset could not be saved.", title);
+      break;
+    case PresetSaved::kSaved:
+      FillPresets();
+      filling_ = true;
+      presets_.Choose(presets_.Find(Trim(name)));
+      filling_ = false;
+      EnableButtons();
+      break;
+  }
+}
+
+void ThemeDialog::DeletePreset() {
+  editor_.RemovePreset(ControlText(txtPRESETNEW));
+  FillPresets();
+  EnableButtons();
+}
+
+void ThemeDialog::DeleteAllPresets() {
+  const std::wstring question = L"Delete all " + NumberText(std::ssize(presets_.presets())) +
+                                L" presets of the style \"" + editor_.folder() + L"\"?";
+  if (!AskYesNo(handle(), question, L"Delete all presets") || !handle()) return;
+  editor_.RemoveAllPresets();
+  FillPresets();
+  EnableButtons();
+}
+
+void ThemeDialog::OnSlider(HWND slider) {
+  const int id = ::GetDlgCtrlID(slider);
+  for (const Slider& each : kSliders) {
+    if (each.control != id) continue;
+    const auto place = static_cast<int>(::SendMessageW(slider, TBM_GETPOS, 0, 0));
+    if (place == SliderPlace(editor_.theme(), each.number)) return;
+    ThemeNumberAt(each.number).write(editor_.theme(), place);
+    Changed();
+  }
+}
+
+void ThemeDialog::OnFont(int combo, int code) {
+  if (filling_) return;
+  const auto* font = std::ranges::find(kFonts, combo, &FontField::combo);
+  std::wstring& face = editor_.theme().*font->member;
+  HWND list = Control(combo);
+  // What is typed counts once it is the whole name of a font.
+  const bool typed = code == CBN_EDITCHANGE;
+  if (typed || code == CBN_SELCHANGE) {
+    const LRESULT place = typed ? ::SendMessageW(list, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                                                 TextParameter(ControlText(combo)))
+                                : ::SendMessageW(list, CB_GETCURSEL, 0, 0);
+    if (place == CB_ERR) return;
+    std::wstring name(::SendMessageW(list, CB_GETLBTEXTLEN, place, 0), L'\0');
+    ::SendMessageW(list, CB_GETLBTEXT, place, reinterpret_cast<LPARAM>(name.data()));
+    face = name;
+    Changed();
+  } else if (code == CBN_KILLFOCUS) {
+    ShowValues();
+  }
+}
+
+void ThemeDialog::PickColour(int button) {
+  const auto* field = std::ranges::find(kColours, button, &ColourField::button);
+  if (field == std::end(kColours)) return;
+  const Colour start = Translate(editor_.theme().*field->member, services_.colours);
+  const auto picked = colours_.Pick(handle(), static_cast<COLORREF>(start));
+  if (!picked || !handle()) return;
+  editor_.theme().*field->member = static_cast<Colour>(*picked);
+  Changed();
+}
+
+void ThemeDialog::Apply() {
+  editor_.Apply();
+  Changed();
+}
+
+}  // namespace varnel

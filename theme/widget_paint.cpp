@@ -1,0 +1,40 @@
+#include "theme/widget_paint.h"
+
+namespace varnel {
+namespace {
+
+// Indexes of system colours, as the platform numbers them.
+constexpr int kWindow = 5;
+constexpr int kWindowText = 8;
+constexpr int kHighlight = 13;
+constexpr int kButtonFace = 15;
+constexpr int kButtonText = 18;
+
+}  // namespace
+
+WidgetPaint WidgetPaintOf(ThemeRecord& theme, bool high_contrast, const SystemColours& system) {
+  const ChromeColours chrome = ApplyChrome(theme, system);
+  WidgetPaint paint{theme, chrome, high_contrast};
+  ThemeRecord& painted = paint.theme;
+  painted.lngTHEMECOLOR = Translate(theme.lngTHEMECOLOR, system);
+  painted.lngTHEMEPANELFONTCOLOR = Translate(theme.lngTHEMEPANELFONTCOLOR, system);
+  painted.lngTHEMEBARFONTCOLOR = Translate(theme.lngTHEMEBARFONTCOLOR, system);
+  if (!high_contrast) return paint;
+
+  const Colour ground = system.Resolve(kWindow);
+  const Colour text = system.Resolve(kWindowText);
+  painted.bytTHEMEOPACITY = 255;
+  painted.lngTHEMECOLOR = painted.lngTHEMECOLORSUBTLE = painted.lngTHEMECOLORPANEL = ground;
+  painted.lngTHEMEPANELFONTCOLOR = painted.lngTHEMEBARFONTCOLOR = text;
+  paint.chrome = {ground, text, {ground, ground}, 0};
+  return paint;
+}
+
+ColourPair ButtonColours(const WidgetPaint& paint, ButtonLook look, const SystemColours& system) {
+  if (!paint.high_contrast) return ButtonColours(paint.theme, look, system);
+  const int face = look == ButtonLook::kPressed ? kHighlight : kButtonFace;
+  const int outline = look == ButtonLook::kNormal ? kButtonText : kHighlight;
+  return {system.Resolve(face), system.Resolve(outline)};
+}
+
+}  // namespace varnel

@@ -1,0 +1,21 @@
+// What a widget is painted with: its theme, or the system's colours for users who need high
+// contrast.
+#pragma once
+
+#include "theme/chrome_colours.h"
+
+namespace varnel {
+
+struct WidgetPaint {
+  ThemeRecord theme;  // holds plain colours, no names of system colours
+  ChromeColours chrome;
+  bool high_contrast = false;
+};
+
+// Derives the colours of `theme` anew (ApplyChrome). With `high_contrast` everything has the
+// system's window colours instead of the theme's and is opaque; the fonts stay.
+WidgetPaint WidgetPaintOf(ThemeRecord& theme, bool high_contrast, const SystemColours& system);
+
+ColourPair ButtonColours(const WidgetPaint& paint, ButtonLook look, const SystemColours& system);
+
+}  // namespace varnel

@@ -1,0 +1,22 @@
+// The short texts that appear when the mouse rests on a button without words.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace varnel {
+
+// One for all buttons of a form. Its window is made when the first text is wanted and goes with the
+// form's.
+class Tooltip {
+ public:
+  // `text` appears when the mouse rests on `control`, which it has just come to.
+  void Attach(HWND form, HWND control, const std::wstring& text);
+
+ private:
+  HWND window_ = nullptr;
+  HWND control_ = nullptr;  // the last one; each is attached anew, for its text may have changed
+};
+
+}  // namespace varnel
