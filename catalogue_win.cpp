@@ -1,6 +1,7 @@
 #include "catalogue_win.h"
 
 #include "core/options_dialog.h"
+#include "core/theme_dialog.h"
 #include "widgets/time/alarm_dialog.h"
 #include "widgets/time/clock_dialog.h"
 #include "widgets/time/clock_form.h"
@@ -13,6 +14,7 @@ namespace {
 constexpr CatalogueWidget kWidgets[] = {
     {0, MakeWidget<ClockForm>}, {4, MakeWidget<StopwatchForm>}, {5, MakeWidget<CountdownForm>}};
 constexpr CatalogueDialog kDialogs[] = {{L"frmVRNpr", MakeDialog<OptionsDialog>},
+                                        {L"frmTHEME", MakeDialog<ThemeDialog>},
                                         {L"frmCLKpr", MakeDialog<ClockDialog>},
                                         {L"frmCLKas", MakeDialog<AlarmDialog>, true}};
 constexpr Catalogue kCatalogue{kWidgets, kDialogs};
