@@ -4,6 +4,9 @@ include(cmake/assets.cmake)
 # Only libraries that every Windows has loaded already or maps from its own list of known ones; the
 # rest is loaded when it is first used, so that no file beside the program can stand in for it.
 add_library(varnel_platform STATIC ${VARNEL_PLATFORM})
+target_compile_definitions(varnel_platform PRIVATE
+                           VARNEL_VERSION_MAJOR=${PROJECT_VERSION_MAJOR}
+                           VARNEL_VERSION_MINOR=${PROJECT_VERSION_MINOR})
 target_link_libraries(varnel_platform PUBLIC varnel_engines gdi32 advapi32 shell32 ole32 oleaut32
                       comdlg32 comctl32 uuid)
 
@@ -23,3 +26,7 @@ set_source_files_properties(
 add_executable(WidgetVarnel WIN32 main.cpp catalogue_win.cpp)
 target_link_libraries(WidgetVarnel PRIVATE varnel_platform varnel_resources)
 target_link_options(WidgetVarnel PRIVATE -municode $<$<NOT:$<CONFIG:Debug>>:-s>)
+
+add_test(NAME check.program
+         COMMAND /usr/bin/python3 ${PROJECT_SOURCE_DIR}/tools/check_exe.py ${CMAKE_OBJDUMP}
+                 $<TARGET_FILE:WidgetVarnel> ${PROJECT_VERSION})

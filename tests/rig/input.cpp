@@ -1,0 +1,187 @@
+#include "tests/rig/input.h"
+
+#include <iterator>
+#include <utility>
+
+#include "tests/rig/forms.h"
+
+namespace varnel::rig {
+namespace {
+
+// Between two events, as a quick hand needs.
+constexpr DWORD kPace = 10;            // milliseconds
+constexpr UINT kAnswerDeadline = 500;  // milliseconds
+
+// Waits until the window's thread is back at its messages. It answers before it takes an event from
+// its queue, so it takes two answers to know that it went on from the first; a thread that is in
+// the middle of something, or gets no time on a busy machine, holds the hand back.
+void LetAnswer(HWND window) {
+  for (int i = 0; i < 2 && window; ++i) {
+    DWORD_PTR result = 0;
+    ::SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, kAnswerDeadline, &result);
+  }
+}
+
+// The next event must not come before this one is worked off: a key is pressed while a modifier is
+// still down, a drag has begun before the mouse moves on.
+void SendEvent(INPUT& event, HWND under_pointer = nullptr) {
+  ::SendInput(1, &event, sizeof event);
+  ::Sleep(kPace);
+  LetAnswer(under_pointer);
+  LetAnswer(::GetForegroundWindow());
+}
+
+// Every event says where the pointer is: what moved it in the meantime (a window that came up under
+// it, say) must not lead a click astray.
+void SendMouse(Point at, DWORD flags, DWORD data = 0) {
+  // The screen is 65536 units wide and high; rounded up, as the system rounds down.
+  const int width = ::GetSystemMetrics(SM_CXSCREEN);
+  const int height = ::GetSystemMetrics(SM_CYSCREEN);
+  INPUT event = {};
+  event.type = INPUT_MOUSE;
+  event.mi.dx = (at.x * 65536 + width - 1) / width;
+  event.mi.dy = (at.y * 65536 + height - 1) / height;
+  event.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | flags;
+  event.mi.mouseData = data;
+  SendEvent(event, WindowAt(at));
+}
+
+struct ButtonFlags {
+  DWORD down, up;
+};
+
+constexpr ButtonFlags FlagsOf(MouseButton button) {
+  switch (button) {
+    case MouseButton::kRight:
+      return {MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP};
+    case MouseButton::kMiddle:
+      return {MOUSEEVENTF_MIDDLEDOWN, MOUSEEVENTF_MIDDLEUP};
+    case MouseButton::kLeft:
+      break;
+  }
+  return {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP};
+}
+
+// Keys that a number pad has too; the flag says that these are not those.
+bool IsExtended(WORD key) {
+  switch (key) {
+    case VK_LEFT:
+    case VK_RIGHT:
+    case VK_UP:
+    case VK_DOWN:
+    case VK_HOME:
+    case VK_END:
+    case VK_PRIOR:
+    case VK_NEXT:
+    case VK_INSERT:
+    case VK_DELETE:
+    case VK_DIVIDE:
+    case VK_APPS:
+    case VK_RCONTROL:
+    case VK_RMENU:
+      return true;
+    default:
+      return false;
+  }
+}
+
+void SendKey(WORD key, DWORD flags) {
+  INPUT event = {};
+  event.type = INPUT_KEYBOARD;
+  event.ki.wVk = key;
+  event.ki.wScan = static_cast<WORD>(::MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
+  event.ki.dwFlags = flags | (IsExtended(key) ? KEYEVENTF_EXTENDEDKEY : 0);
+  SendEvent(event);
+}
+
+void SendUnit(wchar_t unit, DWORD flags) {
+  INPUT event = {};
+  event.type = INPUT_KEYBOARD;
+  event.ki.wScan = unit;
+  event.ki.dwFlags = flags | KEYEVENTF_UNICODE;
+  SendEvent(event);
+}
+
+}  // namespace
+
+void MoveMouse(Point to) {
+  SendMouse(to, 0);
+}
+
+void PressMouse(Point at, MouseButton button) {
+  SendMouse(at, FlagsOf(button).down);
+}
+
+void ReleaseMouse(Point at, MouseButton button) {
+  SendMouse(at, FlagsOf(button).up);
+}
+
+void TurnWheel(Point at, int notches) {
+  SendMouse(at, MOUSEEVENTF_WHEEL, static_cast<DWORD>(notches * WHEEL_DELTA));
+}
+
+void Click(Point at, MouseButton button) {
+  MoveMouse(at);
+  PressMouse(at, button);
+  ReleaseMouse(at, button);
+}
+
+void DoubleClick(Point at, MouseButton button) {
+  Click(at, button);
+  Click(at, button);
+}
+
+void Drag(Point from, Point to, int steps) {
+  MoveMouse(from);
+  PressMouse(from);
+  for (int i = 1; i <= steps; ++i) {
+    MoveMouse({from.x + (to.x - from.x) * i / steps, from.y + (to.y - from.y) * i / steps});
+  }
+  ReleaseMouse(to);
+}
+
+bool ClickOn(HWND window, MouseButton button) {
+  // A window that has only just come up may still be on its way to its place.
+  const bool free = WaitUntil([window] {
+    const HWND there = WindowAt(CentreOf(window));
+    return there == window || ::IsChild(window, there);
+  });
+  if (free) Click(CentreOf(window), button);
+  return free;
+}
+
+void PressKey(WORD key) {
+  Chord({key});
+}
+
+void Chord(std::initializer_list<WORD> keys) {
+  for (WORD key : keys) SendKey(key, 0);
+  for (auto key = std::rbegin(keys); key != std::rend(keys); ++key) SendKey(*key, KEYEVENTF_KEYUP);
+}
+
+void Type(std::wstring_view text) {
+  for (const wchar_t unit : text) {
+    if (unit == L'\n') {
+      PressKey(VK_RETURN);
+      continue;
+    }
+    SendUnit(unit, 0);
+    SendUnit(unit, KEYEVENTF_KEYUP);
+  }
+}
+
+void ResetInput() {
+  for (const WORD key : {VK_SHIFT, VK_CONTROL, VK_MENU, VK_LWIN}) {
+    if (::GetAsyncKeyState(key) < 0) SendKey(key, KEYEVENTF_KEYUP);
+  }
+  const Point rest = {::GetSystemMetrics(SM_CXSCREEN) / 2, ::GetSystemMetrics(SM_CYSCREEN) - 1};
+  const std::pair<int, MouseButton> buttons[] = {{VK_LBUTTON, MouseButton::kLeft},
+                                                 {VK_RBUTTON, MouseButton::kRight},
+                                                 {VK_MBUTTON, MouseButton::kMiddle}};
+  for (const auto& [key, button] : buttons) {
+    if (::GetAsyncKeyState(key) < 0) ReleaseMouse(rest, button);
+  }
+  MoveMouse(rest);
+}
+
+}  // namespace varnel::rig

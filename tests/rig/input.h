@@ -1,0 +1,42 @@
+// Mouse and keys as the user works them: true input events, which go to whatever window is under
+// the pointer or in the foreground. Points are in pixels of the screen. Each call comes back once
+// the events are on their way; what they do is to be waited for.
+#pragma once
+
+#include <windows.h>
+
+#include <initializer_list>
+#include <string_view>
+
+#include "base/geometry.h"
+
+namespace varnel::rig {
+
+enum class MouseButton { kLeft, kRight, kMiddle };
+
+void MoveMouse(Point to);
+void PressMouse(Point at, MouseButton button = MouseButton::kLeft);
+void ReleaseMouse(Point at, MouseButton button = MouseButton::kLeft);
+void TurnWheel(Point at, int notches);  // away from the user when positive
+
+void Click(Point at, MouseButton button = MouseButton::kLeft);
+void DoubleClick(Point at, MouseButton button = MouseButton::kLeft);
+// Presses the left button, moves in `steps` equal steps, releases it.
+void Drag(Point from, Point to, int steps = 8);
+
+// Clicks the middle of a window or control. False, without a click, when something else lies there
+// and stays.
+bool ClickOn(HWND window, MouseButton button = MouseButton::kLeft);
+
+// Presses and releases a key by its virtual-key number.
+void PressKey(WORD key);
+// Holds all but the last key while it presses that: {VK_CONTROL, 'C'}.
+void Chord(std::initializer_list<WORD> keys);
+// Types text of any script; a line end is the Enter key.
+void Type(std::wstring_view text);
+
+// Brings mouse and keyboard to a known state: no button or modifier held, the pointer in the middle
+// of the screen's lowest row.
+void ResetInput();
+
+}  // namespace varnel::rig

@@ -1,0 +1,81 @@
+#include "tests/rig/program.h"
+
+#include "tests/rig/files.h"
+
+namespace varnel::rig {
+namespace {
+
+// Whatever is put into it ends when this process does, however it ends.
+UniqueKernelHandle EndingJob() {
+  UniqueKernelHandle job(::CreateJobObjectW(nullptr, nullptr));
+  JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits = {};
+  limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
+  ::SetInformationJobObject(job.get(), JobObjectExtendedLimitInformation, &limits, sizeof limits);
+  return job;
+}
+
+}  // namespace
+
+void Program::SetVariable(const std::wstring& name, const std::wstring& value) {
+  variables_[name] = value;
+}
+
+bool Program::Start(const std::wstring& more) {
+  if (running()) return false;
+  const std::wstring exe = PathFromEnvironment(L"VARNEL_EXE");
+  std::wstring command = L"\"" + exe + L"\" " + root_.Arguments() + L" " + more;
+  std::wstring environment = Environment();
+  STARTUPINFOW startup = {};
+  startup.cb = sizeof startup;
+  PROCESS_INFORMATION process = {};
+  if (!::CreateProcessW(exe.c_str(), command.data(), nullptr, nullptr, FALSE,
+                        CREATE_SUSPENDED | CREATE_UNICODE_ENVIRONMENT, environment.data(), nullptr,
+                        &startup, &process)) {
+    return false;
+  }
+  const UniqueKernelHandle thread(process.hThread);
+  process_ = UniqueKernelHandle(process.hProcess);
+  id_ = process.dwProcessId;
+  killed_ = false;
+  job_ = EndingJob();
+  ::AssignProcessToJobObject(job_.get(), process_.get());
+  return ::ResumeThread(thread.get()) != static_cast<DWORD>(-1);
+}
+
+bool Program::running() const {
+  return process_ && !exit_code();
+}
+
+std::optional<DWORD> Program::WaitForExit(int deadline) const {
+  DWORD code = 0;
+  if (!process_ ||
+      ::WaitForSingleObject(process_.get(), static_cast<DWORD>(deadline)) != WAIT_OBJECT_0 ||
+      !::GetExitCodeProcess(process_.get(), &code)) {
+    return std::nullopt;
+  }
+  return code;
+}
+
+void Program::Kill() {
+  if (!running()) return;
+  killed_ = true;
+  ::TerminateProcess(process_.get(), 1);
+  ::WaitForSingleObject(process_.get(), kPatience);
+}
+
+std::wstring Program::Environment() const {
+  std::map<std::wstring, std::wstring> all = variables_;
+  wchar_t* block = ::GetEnvironmentStringsW();
+  for (std::wstring_view line(block); !line.empty();
+       line = std::wstring_view(line.data() + line.size() + 1)) {
+    // A name may begin with "=", so the one that ends it is looked for behind the first unit.
+    const std::size_t end = line.find(L'=', 1);
+    all.emplace(line.substr(0, end), end == line.npos ? L"" : line.substr(end + 1));
+  }
+  ::FreeEnvironmentStringsW(block);
+  std::wstring text;
+  for (const auto& [name, value] : all) text += name + L"=" + value + L'\0';
+  return text + L'\0';
+}
+
+}  // namespace varnel::rig

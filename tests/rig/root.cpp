@@ -1,0 +1,35 @@
+#include "tests/rig/root.h"
+
+#include <filesystem>
+
+#include "tests/rig/files.h"
+
+namespace varnel::rig {
+namespace {
+
+std::wstring UniqueTitle() {
+  LARGE_INTEGER ticks = {};
+  ::QueryPerformanceCounter(&ticks);
+  return L"Varnel Scene " + std::to_wstring(::GetCurrentProcessId()) + L"-" +
+         std::to_wstring(ticks.QuadPart);
+}
+
+}  // namespace
+
+Root::Root()
+    : title_(UniqueTitle()),
+      folder_((std::filesystem::temp_directory_path() / (title_ + L" \u00E4")).wstring()),
+      settings_(HKEY_CURRENT_USER, L"SOFTWARE\\" + title_) {
+  std::filesystem::create_directories(folder_);
+}
+
+Root::~Root() {
+  settings_.RemoveAll();
+  RemoveAll(folder_);
+}
+
+std::wstring Root::Arguments() const {
+  return L"/settings \"" + title_ + L"\" /data \"" + folder_ + L"\"";
+}
+
+}  // namespace varnel::rig

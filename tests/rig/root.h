@@ -1,0 +1,35 @@
+// Where a started program keeps everything: settings and folders of its own, gone afterwards.
+#pragma once
+
+#include <string>
+
+#include "tests/rig/registry.h"
+
+namespace varnel::rig {
+
+// One program run in it at a time, or several, one after the other: what a restart finds is what
+// the run before left.
+class Root {
+ public:
+  // Empty, and known to nobody else.
+  Root();
+  Root(const Root&) = delete;
+  Root& operator=(const Root&) = delete;
+  // Removes settings and folder; programs that use them must have ended.
+  ~Root();
+
+  // The settings, as sections below the root key.
+  const Registry& settings() const { return settings_; }
+  // The folder of themes and documents, without a final "\"; its path has blanks and a letter
+  // beyond ASCII in it.
+  const std::wstring& folder() const { return folder_; }
+  // The words of a command line that send a program here.
+  std::wstring Arguments() const;
+
+ private:
+  std::wstring title_;
+  std::wstring folder_;
+  Registry settings_;
+};
+
+}  // namespace varnel::rig

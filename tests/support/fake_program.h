@@ -1,0 +1,34 @@
+// A program that notes what its forms ask of it, for window tests.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "core/program.h"
+
+namespace varnel::test {
+
+class FakeProgram : public Program {
+ public:
+  bool closing() const override { return false; }
+  void ExitProgram() override { calls.push_back(L"ExitProgram"); }
+  void ShowManager() override { calls.push_back(L"ShowManager"); }
+  void HideToTray() override { calls.push_back(L"HideToTray"); }
+  void RegisterRunAtLogon() override { calls.push_back(L"RegisterRunAtLogon"); }
+  void CheckForUpdate(int) override { calls.push_back(L"CheckForUpdate"); }
+  void WidgetCheck(int) override { calls.push_back(L"WidgetCheck"); }
+  Dialog* FindDialog(std::wstring_view) override { return nullptr; }
+  void OpenDialog(std::wstring_view form) override {
+    calls.push_back(L"open " + std::wstring(form));
+  }
+  bool HasDialog(std::wstring_view) const override { return true; }
+  void SetCurrentWidget(std::wstring_view form) override { current = form; }
+  std::wstring_view CurrentWidget() const override { return current; }
+  std::vector<MenuItem> SharedMenu() const override { return {}; }
+  void RunCommand(int) override {}
+
+  std::vector<std::wstring> calls;
+  std::wstring current;
+};
+
+}  // namespace varnel::test

@@ -1,0 +1,176 @@
+// The thin wrappers around the platform: what they promise beyond it.
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+#include "core/settings_store.h"
+#include "win/clipboard.h"
+#include "win/disk_files.h"
+#include "win/local_time.h"
+#include "win/system_registry.h"
+#include "win/timer.h"
+#include "win/window.h"
+
+namespace varnel {
+namespace {
+
+constexpr UINT kThrow = WM_APP + 1;
+
+class TestWindow : public Window {
+ public:
+  explicit TestWindow(Ui& ui) : Window(ui) {
+    Creation creation;
+    creation.class_name = L"VarnelTest";
+    EXPECT_TRUE(Create(creation));
+  }
+  using Window::Destroy;
+
+  int after_throw = 0;
+
+ private:
+  LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override {
+    if (message == kThrow) throw std::runtime_error("a handler that fails");
+    if (message == kThrow + 1) return ++after_throw;
+    return Window::OnMessage(message, wparam, lparam);
+  }
+};
+
+std::wstring TemporaryFolder() {
+  wchar_t path[MAX_PATH] = {};
+  ::GetTempPathW(MAX_PATH, path);
+  return std::wstring(path) + L"varnel platform test " + std::to_wstring(::GetCurrentProcessId());
+}
+
+void RunMessagesFor(DWORD milliseconds) {
+  const DWORD end = ::GetTickCount() + milliseconds;
+  MSG message;
+  while (::GetTickCount() < end) {
+    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) ::DispatchMessageW(&message);
+    ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
+  }
+}
+
+TEST(WindowBase, HandlerThatThrowsIsLoggedAndTheWindowLivesOn) {
+  const std::wstring folder = TemporaryFolder();
+  DiskFiles files;
+  ASSERT_TRUE(files.CreateFolder(folder));
+  Ui ui{::GetModuleHandleW(nullptr), {}, {}};
+  ui.log.SetFile(folder + L"\\debug.log");
+  TestWindow window(ui);
+  EXPECT_EQ(::SendMessageW(window.handle(), kThrow, 0, 0), 0);
+  EXPECT_EQ(::SendMessageW(window.handle(), kThrow + 1, 0, 0), 1);
+  const auto log = files.Read(folder + L"\\debug.log", 10'000);
+  ASSERT_TRUE(log);
+  EXPECT_NE(log->find("a handler that fails"), std::string::npos);
+  EXPECT_FALSE(window.busy());
+  window.Destroy();
+  EXPECT_EQ(window.handle(), nullptr);
+  files.Remove(folder + L"\\debug.log");
+  ::RemoveDirectoryW(folder.c_str());
+}
+
+TEST(Timer, NeverAfterStopNorWhileItsHandlerRuns) {
+  Ui ui{::GetModuleHandleW(nullptr), {}, {}};
+  TestWindow window(ui);
+  int ticks = 0;
+  int depth = 0;
+  Timer timer(window, 10, [&] {
+    ++ticks;
+    EXPECT_EQ(++depth, 1);
+    if (ticks == 1) RunMessagesFor(80);  // as a message box would
+    --depth;
+  });
+  timer.Start();
+  RunMessagesFor(60);
+  EXPECT_GE(ticks, 1);
+  // A tick that is in the queue already does not arrive after the stop.
+  ::PostMessageW(window.handle(), WM_TIMER, timer.id(), 0);
+  timer.Stop();
+  const int before = ticks;
+  RunMessagesFor(40);
+  EXPECT_EQ(ticks, before);
+  window.Destroy();
+  timer.Start();  // without a window: nothing
+  EXPECT_FALSE(timer.enabled());
+}
+
+TEST(DiskFiles, ReplacesWholeOrNotAtAll) {
+  const std::wstring folder = TemporaryFolder() + L"\\\x00e4 b\\";
+  const std::wstring path = folder + L"note.txt";
+  DiskFiles files;
+  EXPECT_FALSE(files.Replace(path, "lost")) << "there is no folder yet";
+  ASSERT_TRUE(files.CreateFolder(folder));
+  ASSERT_TRUE(files.Replace(path, "one"));
+  ASSERT_TRUE(files.Replace(path, std::string("t\0wo", 4)));
+  EXPECT_EQ(files.Read(path, 4), std::string("t\0wo", 4));
+  EXPECT_FALSE(files.Read(path, 3)) << "larger than allowed";
+
+  // Held by somebody who lets nobody write: the old content stays, nothing is left beside it.
+  HANDLE held = ::CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                              0, nullptr);
+  EXPECT_FALSE(files.Replace(path, "three"));
+  ::CloseHandle(held);
+  EXPECT_EQ(files.Read(path, 100), std::string("t\0wo", 4));
+  EXPECT_EQ(files.FileNames(folder, L"").size(), 1u);
+
+  EXPECT_EQ(files.FileNames(folder, L".TXT"), std::vector<std::wstring>{L"note.txt"});
+  EXPECT_TRUE(files.Rename(path, folder + L"other.txt"));
+  ASSERT_TRUE(files.Replace(path, "new"));
+  EXPECT_FALSE(files.Rename(path, folder + L"other.txt")) << "never over another file";
+  EXPECT_TRUE(files.MoveFolder(folder, TemporaryFolder() + L"\\moved"));
+  EXPECT_FALSE(files.FolderExists(folder));
+  for (const wchar_t* name : {L"note.txt", L"other.txt"}) {
+    EXPECT_TRUE(files.Remove(TemporaryFolder() + L"\\moved\\" + name));
+  }
+  ::RemoveDirectoryW((TemporaryFolder() + L"\\moved").c_str());
+  ::RemoveDirectoryW(TemporaryFolder().c_str());
+}
+
+TEST(SystemRegistry, KeepsTheRulesOfTheStoreOnTheRealRegistry) {
+  SystemRegistry registry;
+  const std::wstring root = L"Varnel Registry Test " + std::to_wstring(::GetCurrentProcessId());
+  SettingsStore store(registry, RegistryRoot(root));
+  store.Write(L"frmX\\Details", L"plain", L"  a text \x00e4 ");
+  EXPECT_EQ(store.Read(L"frmX\\Details", L"plain", L"x"), L"a text \x00e4");
+  store.Write(L"frmX\\Details", L"longest", std::wstring(254, L'q'));
+  EXPECT_EQ(store.Read(L"frmX\\Details", L"longest", L"x").size(), 254u);
+  store.Write(L"frmX\\Details", L"longest", std::wstring(255, L'q'));
+  EXPECT_EQ(store.Read(L"frmX\\Details", L"longest", L"x"), L"x");
+  HKEY key = nullptr;
+  const std::wstring path = L"SOFTWARE\\" + root + L"\\frmX\\Details";
+  ASSERT_EQ(::RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, KEY_ALL_ACCESS, &key),
+            ERROR_SUCCESS);
+  const DWORD number = 5;
+  ::RegSetValueExW(key, L"number", 0, REG_DWORD, reinterpret_cast<const BYTE*>(&number), 4);
+  ::RegSetValueExW(key, L"expandable", 0, REG_EXPAND_SZ, reinterpret_cast<const BYTE*>(L"%TEMP%"),
+                   14);
+  ::RegCloseKey(key);
+  EXPECT_EQ(store.Read(L"frmX\\Details", L"number", L"x"), L"x");
+  EXPECT_EQ(store.Read(L"frmX\\Details", L"expandable", L"x"), L"%TEMP%");
+  ::RegDeleteTreeW(HKEY_CURRENT_USER, (L"SOFTWARE\\" + root).c_str());
+}
+
+TEST(SystemTimeFormatter, SpeaksThePatternLanguageOfTheClock) {
+  const SystemTimeFormatter formatter;
+  const LocalTime time{2010, 9, 7, 2, 0, 5, 9};
+  const struct {
+    const wchar_t* pattern;
+    const wchar_t* text;
+  } cases[] = {
+      {L"HH", L"00"}, {L":nn", L":05"}, {L"ss", L"09"}, {L":nn:ss", L":05:09"}, {L"d", L"7"}};
+  for (const auto& test : cases) EXPECT_EQ(formatter.Format(time, test.pattern), test.text);
+  const std::wstring date = formatter.Format(time, L"dddd, d mmmm");
+  EXPECT_NE(date.find(L", 7 "), std::wstring::npos) << "weekday, day and month";
+  EXPECT_FALSE(formatter.Format(time, L"Long Date").empty());
+}
+
+TEST(Clipboard, GivesBackWhatItWasGiven) {
+  Ui ui{::GetModuleHandleW(nullptr), {}, {}};
+  TestWindow window(ui);
+  ASSERT_TRUE(CopyText(window.handle(), L"03:27.48"));
+  EXPECT_EQ(PastedText(window.handle(), 100), L"03:27.48");
+  EXPECT_EQ(PastedText(window.handle(), 2), L"03");
+}
+
+}  // namespace
+}  // namespace varnel
