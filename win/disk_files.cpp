@@ -4,7 +4,6 @@
 
 #include <algorithm>
 
-#include "base/number_text.h"
 #include "base/text.h"
 #include "win/handles.h"
 
@@ -70,8 +69,8 @@ std::optional<std::string> DiskFiles::Read(const std::wstring& path, std::size_t
 
 bool DiskFiles::Replace(const std::wstring& path, std::string_view bytes) {
   if (bytes.size() > MAXLONG) return false;
-  // One program writes each file, so the process id keeps two programs' new files apart.
-  const std::wstring fresh = path + L"." + NumberText(::GetCurrentProcessId()) + L".new";
+  // Always the same name: what a program that was ended left there is overwritten the next time.
+  const std::wstring fresh = path + L".new";
   if (WriteWhole(fresh, bytes) && MoveOver(fresh, path)) return true;
   ::DeleteFileW(fresh.c_str());
   return false;
