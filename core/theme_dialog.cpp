@@ -139,6 +139,8 @@ void ThemeDialog::ReturnTarget() {
 }
 
 void ThemeDialog::FillTabs() {
+  const int dpi = static_cast<int>(::GetDpiForWindow(handle()));
+  TabCtrl_SetPadding(Control(tabMAIN), Scaled(10, dpi), Scaled(4, dpi));
   for (int i = 0; i < static_cast<int>(std::size(kPages)); ++i) {
     std::wstring title = kPages[i];
     TCITEMW item = {};
@@ -156,13 +158,17 @@ void ThemeDialog::FillTabs() {
 }
 
 void ThemeDialog::FillFonts() {
-  const std::vector<std::wstring> faces = InstalledFontFaces();
+  std::vector<std::wstring> faces = InstalledFontFaces();
+  // The program's own symbols have no letters, and are not installed.
+  std::erase_if(faces, [](const std::wstring& face) {
+    return face == kIconFontName || !IsFontOffered(face);
+  });
   for (const FontField& font : kFonts) {
     HWND combo = Control(font.combo);
     ::SendMessageW(combo, WM_SETREDRAW, FALSE, 0);
     ::SendMessageW(combo, CB_LIMITTEXT, kLongestFontName, 0);
     for (const std::wstring& face : faces) {
-      if (IsFontOffered(face)) ::SendMessageW(combo, CB_ADDSTRING, 0, TextParameter(face));
+      ::SendMessageW(combo, CB_ADDSTRING, 0, TextParameter(face));
     }
     ::SendMessageW(combo, WM_SETREDRAW, TRUE, 0);
   }

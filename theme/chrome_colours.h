@@ -18,6 +18,7 @@ struct ChromeColours {
   Colour border = kBlack;  // the line around the widget: the ground darkened
   ColourPair bar;          // the ends of the title bar's gradient
   int bar_angle = 0;       // its direction, in degrees
+  bool operator==(const ChromeColours&) const = default;
 };
 
 // Derives the theme's two colours anew (DeriveOnChrome) and computes the chrome from them.

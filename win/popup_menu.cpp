@@ -1,11 +1,8 @@
 #include "win/popup_menu.h"
 
-#include "win/handles.h"
-
 namespace varnel {
-namespace {
 
-UniqueMenu BuildMenu(const std::vector<MenuItem>& items) {
+UniqueMenu BuildPopupMenu(const std::vector<MenuItem>& items) {
   UniqueMenu menu(::CreatePopupMenu());
   for (const MenuItem& item : items) {
     if (item.caption.empty()) {
@@ -19,7 +16,7 @@ UniqueMenu BuildMenu(const std::vector<MenuItem>& items) {
       ::AppendMenuW(menu.get(), flags, static_cast<UINT_PTR>(item.id), text.c_str());
       continue;
     }
-    UniqueMenu submenu = BuildMenu(item.children);
+    UniqueMenu submenu = BuildPopupMenu(item.children);
     // The parent menu destroys its submenus.
     if (::AppendMenuW(menu.get(), flags | MF_POPUP, reinterpret_cast<UINT_PTR>(submenu.get()),
                       text.c_str())) {
@@ -29,10 +26,8 @@ UniqueMenu BuildMenu(const std::vector<MenuItem>& items) {
   return menu;
 }
 
-}  // namespace
-
 int ShowPopupMenu(HWND owner, Point point, const std::vector<MenuItem>& items) {
-  const UniqueMenu menu = BuildMenu(items);
+  const UniqueMenu menu = BuildPopupMenu(items);
   ::SetForegroundWindow(owner);
   const int chosen = ::TrackPopupMenuEx(menu.get(), TPM_RETURNCMD | TPM_RIGHTBUTTON, point.x,
                                         point.y, owner, nullptr);

@@ -1,0 +1,183 @@
+#include "core/theme_editor.h"
+
+#include <gtest/gtest.h>
+
+#include "core/place_beside.h"
+#include "tests/support/fixed_system_colours.h"
+#include "tests/support/memory_files.h"
+#include "tests/support/memory_settings.h"
+#include "theme/theme_store.h"
+
+namespace varnel {
+namespace {
+
+class ThemeEditorTest : public ::testing::Test {
+ protected:
+  test::MemorySettings settings_;
+  test::MemoryFiles files_;
+  test::FixedSystemColours system_;
+  ThemeEditor editor_{settings_, files_, system_, L"C:\\varnel\\"};
+
+  static constexpr const wchar_t* kSoft = L"C:\\varnel\\themes\\Soft\\";
+};
+
+TEST_F(ThemeEditorTest, NamesTheFormInItsCaption) {
+  const std::pair<const wchar_t*, const wchar_t*> captions[] = {
+      {L"frmCLKwg", L"Alarm Clock Theme Settings"}, {L"frmSTWwg", L"Stopwatch Theme Settings"},
+      {L"frmCDNwg", L"Countdown Theme Settings"},   {L"frmCLCwg", L"Calculator Theme Settings"},
+      {L"frmCALwg", L"Calendar Theme Settings"},    {L"frmWTHwg", L"Weather Theme Settings"},
+      {L"frmWBDwg", L"Whiteboard Theme Settings"},  {L"frmNOTwg", L"Notes Theme Settings"},
+      {L"frmVRNwg", L"Varnel Theme Settings"},      {L"", L"Varnel Theme Settings"}};
+  for (const auto& [form, caption] : captions) {
+    editor_.Open(form, {});
+    EXPECT_EQ(editor_.caption(), caption);
+    EXPECT_EQ(editor_.target(), *form ? form : L"frmVRNwg");
+  }
+}
+
+TEST_F(ThemeEditorTest, StoresNothingBeforeApplyAndThenOnlyForItsForm) {
+  settings_.Write(kThemeSection, L"frmCLKwgTheme-Main-Opacity", L"99");
+  ThemeRecord current;
+  current.lngTHEMECONTRAST = 7;
+  editor_.Open(L"frmSTWwg", current);
+  EXPECT_FALSE(editor_.changed());
+  editor_.theme().lngTHEMECOLOR = 255;
+  editor_.theme().strTHEMEPANELFONTNAME = L"Verdana";
+  EXPECT_TRUE(editor_.changed());
+  EXPECT_EQ(editor_.kept(), current);
+  EXPECT_EQ(LoadTheme(settings_, L"frmSTWwg", system_).lngTHEMECOLOR, ThemeRecord().lngTHEMECOLOR);
+
+  editor_.Apply();
+  EXPECT_FALSE(editor_.changed());
+  EXPECT_EQ(editor_.kept(), editor_.theme());
+  const ThemeRecord stored = LoadTheme(settings_, L"frmSTWwg", system_);
+  EXPECT_EQ(stored.lngTHEMECOLOR, 255);
+  EXPECT_EQ(stored.lngTHEMECONTRAST, 7);
+  EXPECT_EQ(stored.strTHEMEPANELFONTNAME, L"Verdana");
+  EXPECT_EQ(LoadTheme(settings_, L"frmCLKwg", system_).bytTHEMEOPACITY, 99);
+  EXPECT_EQ(LoadTheme(settings_, L"frmVRNwg", system_).lngTHEMECOLOR, ThemeRecord().lngTHEMECOLOR);
+}
+
+TEST_F(ThemeEditorTest, RemembersTheStyleFolderWhenTold) {
+  const std::pair<const wchar_t*, const wchar_t*> stored[] = {
+      {L"Neon", L"Neon"}, {L"neon", L"Neon"}, {L"..\\secret", L"Soft"}, {L"", L"Soft"}};
+  for (const auto& [text, style] : stored) {
+    settings_.Write(kThemeFolderSetting, text);
+    editor_.Open(L"frmCLKwg", {});
+    EXPECT_EQ(editor_.folder(), style);
+  }
+  editor_.SelectFolder(L"Glass");
+  editor_.SelectFolder(L"Nowhere");
+  EXPECT_EQ(editor_.folder(), L"Glass");
+  editor_.StoreFolder();
+  EXPECT_EQ(settings_.Read(kThemeFolderSetting), L"Glass");
+}
+
+TEST_F(ThemeEditorTest, PresetsAreSavedListedLoadedAndDeleted) {
+  editor_.Open(L"frmCLKwg", {});
+  EXPECT_TRUE(editor_.Presets().empty());
+  editor_.theme().lngTHEMECOLOR = 4711;
+  EXPECT_EQ(editor_.NewPreset(L"  "), PresetSaved::kNoName);
+  EXPECT_EQ(editor_.NewPreset(L"..\\..\\evil"), PresetSaved::kBadName);
+  EXPECT_EQ(editor_.NewPreset(L" Mine "), PresetSaved::kSaved);
+  EXPECT_EQ(editor_.NewPreset(L"Other"), PresetSaved::kSaved);
+  ASSERT_EQ(editor_.Presets().size(), 2u);
+  EXPECT_EQ(editor_.Presets()[0].name, L"Mine");
+  EXPECT_TRUE(editor_.HasPreset(L"Mine"));
+  EXPECT_FALSE(editor_.HasPreset(L""));
+  EXPECT_FALSE(editor_.HasPreset(L"..\\Soft\\Mine"));
+
+  editor_.theme().lngTHEMECOLOR = 1;
+  editor_.SelectPreset(L"Mine");
+  EXPECT_EQ(editor_.theme().lngTHEMECOLOR, 4711);
+  EXPECT_TRUE(editor_.RemovePreset(L"Mine"));
+  EXPECT_FALSE(editor_.HasPreset(L"Mine"));
+  files_.files[std::wstring(kSoft) + L"readme.txt"] = "stays";
+  EXPECT_TRUE(editor_.RemoveAllPresets());
+  EXPECT_TRUE(editor_.Presets().empty());
+  EXPECT_TRUE(files_.FolderExists(L"C:\\varnel\\themes\\Soft"));
+  EXPECT_EQ(files_.files.count(std::wstring(kSoft) + L"readme.txt"), 1u);
+}
+
+TEST_F(ThemeEditorTest, PartialPresetKeepsAndCompletesWhatItLacks) {
+  files_.files[std::wstring(kSoft) + L"Half.dcp"] = "[main]\r\n> Main-Color=255\r\n";
+  ThemeRecord current;
+  current.bytTHEMEOPACITY = 120;
+  current.strTHEMEBARFONTNAME = L"Arial";
+  editor_.Open(L"frmCDNwg", current);
+  editor_.SelectPreset(L"Half");
+  current.lngTHEMECOLOR = 255;
+  EXPECT_EQ(editor_.theme(), current);
+  const std::string& bytes = files_.files[std::wstring(kSoft) + L"Half.dcp"];
+  for (const char* line : {"> Main-Opacity=120", "> Bar-Font=Arial", "> caption=Half"}) {
+    EXPECT_NE(bytes.find(line), std::string::npos) << line;
+  }
+}
+
+TEST(ThemeNumbers, SlidersShowAnyValueWithinTheirEnds) {
+  struct Case {
+    int number;
+    int value;
+    int place;
+    const wchar_t* label;
+  };
+  const Case cases[] = {
+      {kOpacityNumber, 235, 235, L"235 (92%)"},  {kOpacityNumber, 0, 20, L"0 (0%)"},
+      {kOpacityNumber, 255, 255, L"255 (100%)"}, {kContrastNumber, 44, 44, L"44"},
+      {kContrastNumber, -5, 0, L"-5"},           {kContrastNumber, 400, 255, L"400"},
+      {kAngleNumber, 261, 261, L"261\xB0"},      {kAngleNumber, 360, 0, L"360\xB0"},
+      {kAngleNumber, -90, 270, L"-90\xB0"},      {kAngleNumber, INT32_MIN, 232, nullptr}};
+  for (const Case& each : cases) {
+    ThemeRecord theme;
+    ThemeNumberAt(each.number).write(theme, each.value);
+    EXPECT_EQ(SliderPlace(theme, each.number), each.place) << each.value;
+    if (each.label) EXPECT_EQ(NumberLabel(theme, each.number), each.label);
+  }
+}
+
+TEST(ThemeReadability, JudgesTextsOnTheirGrounds) {
+  const test::FixedSystemColours system;
+  ThemeRecord theme;
+  theme.lngTHEMECOLOR = kWhite;
+  theme.lngTHEMEBARFONTCOLOR = kBlack;
+  theme.lngTHEMEPANELFONTCOLOR = kWhite;
+  Readability readability = ReadabilityOf(theme, system);
+  EXPECT_DOUBLE_EQ(readability.bar, 21);
+  EXPECT_DOUBLE_EQ(readability.panel, 1);
+  EXPECT_FALSE(HardToRead(readability.bar));
+  EXPECT_TRUE(HardToRead(readability.panel));
+  // A contrast above 145 whitens the bar more than the panel.
+  theme.lngTHEMECOLOR = test::SystemColour(8);
+  theme.lngTHEMECONTRAST = 145;
+  readability = ReadabilityOf(theme, system);
+  EXPECT_DOUBLE_EQ(readability.bar, 21);
+  EXPECT_GT(readability.panel, 1.5);
+
+  EXPECT_FALSE(HardToRead(4.5));
+  EXPECT_TRUE(HardToRead(4.49));
+  EXPECT_EQ(RatioText(4.49), L"4.4 : 1");
+  EXPECT_EQ(RatioText(21), L"21.0 : 1");
+}
+
+TEST(PlaceBesideTest, HidesAsLittleAsCanBe) {
+  const Rect screen{0, 0, 1280, 780};
+  struct Case {
+    Size dialog;
+    Rect window;
+    Rect place;
+  };
+  const Case cases[] = {
+      {{600, 400}, {10, 20, 400, 250}, {410, 20, 1010, 420}},      // to the right
+      {{600, 400}, {700, 500, 1100, 730}, {90, 380, 690, 780}},    // left, moved up
+      {{1000, 400}, {300, 10, 700, 240}, {280, 250, 1280, 650}},   // below, moved left
+      {{1000, 400}, {300, 540, 700, 770}, {280, 130, 1280, 530}},  // above
+      {{1000, 730}, {630, 15, 1220, 362}, {0, 15, 1000, 745}},     // nowhere free: hides least
+      {{1500, 900}, {100, 100, 200, 200}, {0, 0, 1500, 900}}};     // too large for the screen
+  for (const Case& each : cases) {
+    EXPECT_EQ(PlaceBeside(each.dialog, each.window, screen, 10), each.place)
+        << each.window.left << ", " << each.window.top;
+  }
+}
+
+}  // namespace
+}  // namespace varnel
