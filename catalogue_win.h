@@ -1,7 +1,7 @@
 // The catalogue of this build: every widget and dialog there is.
 #pragma once
 
-#include "core/catalogue.h"
+#include "core/widget_catalogue_win.h"
 
 namespace varnel {
 

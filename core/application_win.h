@@ -6,13 +6,14 @@
 #include <memory>
 #include <string>
 
-#include "core/catalogue.h"
+#include "core/alarm_tick.h"
 #include "core/command_line.h"
 #include "core/manager_form.h"
 #include "core/menus_form.h"
 #include "core/settings_store.h"
 #include "core/tray_form.h"
 #include "core/update_check.h"
+#include "core/widget_catalogue_win.h"
 #include "theme/system_colours_win.h"
 #include "win/disk_files.h"
 #include "win/local_time.h"

@@ -25,7 +25,7 @@ bool KeyboardCuesAlways() {
 }  // namespace
 
 WidgetForm::WidgetForm(Services& services, const FormEntry& entry, int index)
-    : Window(services.ui),
+    : PaintedWindow(services.ui),
       services_(services),
       entry_(entry),
       index_(index),
@@ -165,15 +165,9 @@ FramePainting WidgetForm::Painting() const {
           entry_.glyph, StatusText(),  dpi()};
 }
 
-void WidgetForm::Paint() {
-  PAINTSTRUCT paint;
-  HDC dc = ::BeginPaint(handle(), &paint);
-  const Rect area = client();
-  Surface surface({area.width(), area.height()});
+void WidgetForm::Paint(Surface& surface) {
   PaintFrame(ui(), surface, Painting());
   PaintPanel(surface, layout_.pfrPANEL);
-  surface.CopyTo(dc, {0, 0});
-  ::EndPaint(handle(), &paint);
 }
 
 void WidgetForm::DrawButton(const DRAWITEMSTRUCT& item) {
@@ -207,11 +201,6 @@ void WidgetForm::DrawPanelButton(const ButtonPainting& painting) {
 
 LRESULT WidgetForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
   switch (message) {
-    case WM_PAINT:
-      Paint();
-      return 0;
-    case WM_ERASEBKGND:
-      return 1;
     case WM_DRAWITEM:
       DrawButton(*reinterpret_cast<const DRAWITEMSTRUCT*>(lparam));
       return TRUE;
@@ -267,7 +256,7 @@ LRESULT WidgetForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     default:
       break;
   }
-  return Window::OnMessage(message, wparam, lparam);
+  return PaintedWindow::OnMessage(message, wparam, lparam);
 }
 
 }  // namespace varnel

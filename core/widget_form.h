@@ -13,12 +13,12 @@
 #include "core/text_buttons_form.h"
 #include "core/widget_index.h"
 #include "theme/widget_paint.h"
+#include "win/painted_window.h"
 #include "win/timer.h"
-#include "win/window.h"
 
 namespace varnel {
 
-class WidgetForm : public Window, public LiveForm {
+class WidgetForm : public PaintedWindow, public LiveForm {
  public:
   // `entry` outlives the form; `index` is the widget's number or kManagerIndex.
   WidgetForm(Services& services, const FormEntry& entry, int index);
@@ -79,6 +79,8 @@ class WidgetForm : public Window, public LiveForm {
   TextButtons& buttons() { return buttons_; }
   // A style for texts on the panel: the theme's panel font and colour.
   TextStyle PanelTextStyle(int font_height) const;
+  // What the frame is painted from, for the styles of texts on its bar and strip.
+  FramePainting Painting() const;
   void RepaintStatus();
 
  private:
@@ -87,8 +89,7 @@ class WidgetForm : public Window, public LiveForm {
   void OnLookChanged();
   // The focus is shown once the keyboard is used, until the mouse is.
   void ShowFocus(bool shown);
-  void Paint();
-  FramePainting Painting() const;
+  void Paint(Surface& surface) override;
   void DrawButton(const DRAWITEMSTRUCT& item);
   void OnCommand(int id, int code, HWND control);
   void RunCommand(int id);

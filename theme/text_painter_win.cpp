@@ -35,7 +35,8 @@ void DrawPlain(HDC dc, HFONT font, const Rect& box, const std::wstring& text,
   ::DrawTextW(dc, text.c_str(), length, &area, DrawFlags(style));
 }
 
-// Small letters get a relatively wide rim, for it is their only ground; that of large ones stays slim.
+// Small letters get a relatively wide rim, for it is their only ground; that of large ones stays
+// slim.
 HaloShape ShapeFor(const TextStyle& style) {
   const double unit = style.dpi / static_cast<double>(kDefaultDpi);
   const double grown = std::min(style.font.height / 40.0, 3 * unit);
@@ -52,8 +53,8 @@ Mask CoverageOf(HFONT font, Size size, const std::wstring& text, const TextStyle
   for (std::size_t i = 0; i < std::min(pixels.size(), values.size()); ++i) {
     // Smoothing by colour stripes: their mean is the coverage.
     const std::uint32_t pixel = pixels[i];
-    values[i] =
-        static_cast<std::uint8_t>(((pixel & 0xFF) + (pixel >> 8 & 0xFF) + (pixel >> 16 & 0xFF)) / 3);
+    values[i] = static_cast<std::uint8_t>(
+        ((pixel & 0xFF) + (pixel >> 8 & 0xFF) + (pixel >> 16 & 0xFF)) / 3);
   }
   return mask;
 }
@@ -66,7 +67,9 @@ Rect Clipped(const Rect& box, Size size) {
 
 }  // namespace
 
-int HaloRoom(int dpi) { return HaloMargin(ShapeFor({{{}, 1000, false}, 0, 0, 0, {}, dpi, false, false})); }
+int HaloRoom(int dpi) {
+  return HaloMargin(ShapeFor({{{}, 1000, false}, 0, 0, 0, {}, dpi, false, false}));
+}
 
 void PaintText(Ui& ui, Surface& surface, const Rect& box, const std::wstring& text,
                const TextStyle& style) {
@@ -80,8 +83,7 @@ void PaintText(Ui& ui, Surface& surface, const Rect& box, const std::wstring& te
     return;
   }
   const double needed = NeededContrast(style.font.height, style.dpi, style.font.bold);
-  const auto halo =
-      HaloColour(style.colour, style.ground, style.halo_base, needed, system);
+  const auto halo = HaloColour(style.colour, style.ground, style.halo_base, needed, system);
   if (!halo) {
     DrawPlain(surface.dc(), font, area, text, style, style.colour);
     return;

@@ -39,28 +39,15 @@ void ThemedLabel::Show(bool shown) {
 }
 
 LRESULT ThemedLabel::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
-  switch (message) {
-    case WM_PAINT:
-      Paint();
-      return 0;
-    case WM_ERASEBKGND:
-      return 1;
-    case WM_NCHITTEST:
-      return HTTRANSPARENT;  // the mouse belongs to the form
-    default:
-      return Window::OnMessage(message, wparam, lparam);
-  }
+  // The mouse belongs to the form.
+  if (message == WM_NCHITTEST) return HTTRANSPARENT;
+  return PaintedWindow::OnMessage(message, wparam, lparam);
 }
 
-void ThemedLabel::Paint() {
-  PAINTSTRUCT paint;
-  HDC dc = ::BeginPaint(handle(), &paint);
+void ThemedLabel::Paint(Surface& surface) {
   const Rect area = client();
-  Surface surface({area.width(), area.height()});
   FillRectangle(surface.dc(), area, style_.ground);
   PaintText(ui(), surface, area, glyph_ ? std::wstring(1, glyph_) : shown_text_, style_);
-  surface.CopyTo(dc, {0, 0});
-  ::EndPaint(handle(), &paint);
 }
 
 }  // namespace varnel

@@ -2,13 +2,13 @@
 #pragma once
 
 #include "theme/text_painter_win.h"
-#include "win/window.h"
+#include "win/painted_window.h"
 
 namespace varnel {
 
-class ThemedLabel : public Window {
+class ThemedLabel : public PaintedWindow {
  public:
-  using Window::Window;
+  using PaintedWindow::PaintedWindow;
 
   // `id` is the control's number in `parent`. False when the system refuses.
   bool Load(HWND parent, int id);
@@ -25,7 +25,7 @@ class ThemedLabel : public Window {
 
  private:
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
-  void Paint();
+  void Paint(Surface& surface) override;
 
   std::wstring shown_text_;
   wchar_t glyph_ = 0;

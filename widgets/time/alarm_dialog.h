@@ -2,7 +2,7 @@
 // ring, whether it or the clock is open or not.
 #pragma once
 
-#include "core/catalogue.h"
+#include "core/alarm_tick.h"
 #include "core/services.h"
 #include "widgets/time/alarm_popup_form.h"
 #include "widgets/time/alarms.h"

@@ -3,6 +3,7 @@
 #include "core/screens_win.h"
 #include "resources/control_ids.h"
 #include "theme/theme_store.h"
+#include "win/user_look.h"
 
 namespace varnel {
 namespace {
@@ -27,7 +28,7 @@ Rect PopupPlace() {
 }  // namespace
 
 AlarmPopup::AlarmPopup(Services& services)
-    : Window(services.ui),
+    : PaintedWindow(services.ui),
       services_(services),
       lblTitle_(services.ui),
       lablMESSAGE_(services.ui),
@@ -55,9 +56,9 @@ void AlarmPopup::Ring(const AlarmRing& ring) {
   lablMESSAGE_.SetText(ring.message);
   lablALARMC_.SetText(ring.time);
   if (visible()) return;
-  theme_ = LoadTheme(services_.settings, L"frmCLKwg", services_.colours);
-  chrome_ = ApplyChrome(theme_, services_.colours);
-  ::SetLayeredWindowAttributes(handle(), 0, WindowAlpha(theme_.bytTHEMEOPACITY), LWA_ALPHA);
+  ThemeRecord theme = LoadTheme(services_.settings, L"frmCLKwg", services_.colours);
+  paint_ = WidgetPaintOf(theme, HighContrastWanted(), services_.colours);
+  ::SetLayeredWindowAttributes(handle(), 0, WindowAlpha(paint_.theme.bytTHEMEOPACITY), LWA_ALPHA);
   const Rect place = PopupPlace();
   ::SetWindowPos(handle(), HWND_TOPMOST, place.left, place.top, place.width(), place.height(),
                  SWP_NOACTIVATE | SWP_SHOWWINDOW);
@@ -66,10 +67,10 @@ void AlarmPopup::Ring(const AlarmRing& ring) {
 
 TextStyle AlarmPopup::StyleOf(int height_at_96, Align align) const {
   TextStyle style;
-  style.font = {theme_.strTHEMEPANELFONTNAME, Scaled(height_at_96, dpi()), false};
-  style.colour = Translate(theme_.lngTHEMEPANELFONTCOLOR, services_.colours);
-  style.ground = chrome_.ground;
-  style.halo_base = Translate(theme_.lngTHEMECOLOR, services_.colours);
+  style.font = {paint_.theme.strTHEMEPANELFONTNAME, Scaled(height_at_96, dpi()), false};
+  style.colour = paint_.theme.lngTHEMEPANELFONTCOLOR;
+  style.ground = paint_.chrome.ground;
+  style.halo_base = paint_.theme.lngTHEMECOLOR;
   style.align = align;
   style.dpi = dpi();
   return style;
@@ -81,9 +82,9 @@ void AlarmPopup::LayOut() {
   const int margin = Scaled(kMargin, dpi());
   const int glyph = Scaled(72, dpi());
   TextStyle title = StyleOf(13, Align::kLeft);
-  title.font.face = theme_.strTHEMEBARFONTNAME;
-  title.colour = Translate(theme_.lngTHEMEBARFONTCOLOR, services_.colours);
-  title.ground = chrome_.bar.first;
+  title.font.face = paint_.theme.strTHEMEBARFONTNAME;
+  title.colour = paint_.theme.lngTHEMEBARFONTCOLOR;
+  title.ground = paint_.chrome.bar.first;
   lblTitle_.Place({margin, 1, area.right - bar - 2, bar}, title);
   buttons_.Place(imgBUTCLOSE, {area.right - bar - 2, 1, area.right - 1, bar});
   const int middle = bar + (area.bottom - bar) * 2 / 5;
@@ -94,29 +95,19 @@ void AlarmPopup::LayOut() {
   ::InvalidateRect(handle(), nullptr, TRUE);
 }
 
-void AlarmPopup::Paint() {
-  PAINTSTRUCT paint;
-  HDC dc = ::BeginPaint(handle(), &paint);
+void AlarmPopup::Paint(Surface& surface) {
   const Rect area = client();
-  Surface surface({area.width(), area.height()});
-  FillRectangle(surface.dc(), area, chrome_.ground);
-  FillRectangle(surface.dc(), {0, 0, area.right, Scaled(kBar, dpi())}, chrome_.bar.first);
+  FillRectangle(surface.dc(), area, paint_.chrome.ground);
+  FillRectangle(surface.dc(), {0, 0, area.right, Scaled(kBar, dpi())}, paint_.chrome.bar.first);
   TextStyle style = StyleOf(40, Align::kCentre);
   style.font.face = kIconFontName;
   PaintText(ui(), surface, {0, Scaled(kBar, dpi()), Scaled(72, dpi()), area.bottom}, kBellGlyph,
             style);
-  FrameRectangle(surface.dc(), area, chrome_.border);
-  surface.CopyTo(dc, {0, 0});
-  ::EndPaint(handle(), &paint);
+  FrameRectangle(surface.dc(), area, paint_.chrome.border);
 }
 
 LRESULT AlarmPopup::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
   switch (message) {
-    case WM_PAINT:
-      Paint();
-      return 0;
-    case WM_ERASEBKGND:
-      return 1;
     case WM_DRAWITEM:
       DrawCloseButton(*reinterpret_cast<const DRAWITEMSTRUCT*>(lparam));
       return TRUE;
@@ -127,7 +118,7 @@ LRESULT AlarmPopup::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
       ::ShowWindow(handle(), SW_HIDE);
       return 0;
     default:
-      return Window::OnMessage(message, wparam, lparam);
+      return PaintedWindow::OnMessage(message, wparam, lparam);
   }
 }
 
@@ -136,12 +127,12 @@ void AlarmPopup::DrawCloseButton(const DRAWITEMSTRUCT& item) {
   if (!button) return;
   const Rect bounds = FromSystem(item.rcItem);
   Surface surface({bounds.width(), bounds.height()});
-  FillRectangle(surface.dc(), bounds, chrome_.bar.first);
+  FillRectangle(surface.dc(), bounds, paint_.chrome.bar.first);
   const ButtonLook look = buttons_.LookOf(*button, item);
   PaintTextButton(ui(),
                   {*button, surface, Inset(bounds, Scaled(2, dpi())), look,
-                   ButtonColours(theme_, look, services_.colours), false, true},
-                  theme_, {}, Scaled(14, dpi()), dpi());
+                   ButtonColours(paint_, look, services_.colours), false, true},
+                  paint_.theme, {}, Scaled(14, dpi()), dpi());
   surface.CopyTo(item.hDC, {0, 0});
 }
 

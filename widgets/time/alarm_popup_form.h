@@ -4,12 +4,13 @@
 #include "core/services.h"
 #include "core/text_buttons_form.h"
 #include "theme/themed_label_win.h"
+#include "theme/widget_paint.h"
 #include "widgets/time/alarms.h"
-#include "win/window.h"
+#include "win/painted_window.h"
 
 namespace varnel {
 
-class AlarmPopup : public Window {  // frmCLKam
+class AlarmPopup : public PaintedWindow {  // frmCLKam
  public:
   explicit AlarmPopup(Services& services);
 
@@ -19,14 +20,13 @@ class AlarmPopup : public Window {  // frmCLKam
  private:
   bool Load();
   void LayOut();
-  void Paint();
+  void Paint(Surface& surface) override;
   void DrawCloseButton(const DRAWITEMSTRUCT& item);
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
   TextStyle StyleOf(int height_at_96, Align align) const;
 
   Services& services_;
-  ThemeRecord theme_;
-  ChromeColours chrome_;
+  WidgetPaint paint_;
   ThemedLabel lblTitle_;
   ThemedLabel lablMESSAGE_;
   ThemedLabel lablALARMC_;

@@ -22,13 +22,6 @@ struct CatalogueDialog {
   bool resident = false;  // made at start-up, not when first opened
 };
 
-// A resident dialog that wants every tick of the alarm timer, 100 ms apart, open or not.
-class AlarmTickListener {
- public:
-  virtual ~AlarmTickListener() = default;
-  virtual void OnAlarmTick() = 0;
-};
-
 struct Catalogue {
   std::span<const CatalogueWidget> widgets;
   std::span<const CatalogueDialog> dialogs;
