@@ -10,9 +10,9 @@ run: prepare
 test: prepare
 	@tools/test.sh $(if $(TESTS),--tests-regex '$(TESTS)')
 
-# Measures speed and memory against other programs.
+# Measures speed and memory against other programs. BENCH=--quick takes less time.
 bench: prepare
-	@/usr/bin/python3 bench/run.py
+	@tools/bench.sh $(BENCH)
 
 # Fuzzes every reader of outside input for FUZZ_SECONDS (30) each.
 fuzz: prepare

@@ -1,0 +1,116 @@
+"""The figures that are printed, each with what it is held against."""
+
+from dataclasses import dataclass
+from statistics import median
+
+
+@dataclass(frozen=True)
+class Figure:
+    """One line of the result.
+
+    `quantity` is what was measured of a subject. With `ratio_to` it is divided by the same quantity
+    of that subject, with `above` that subject's is taken off. `most` is the target, None for none.
+    """
+
+    title: str
+    subject: str
+    quantity: str
+    unit: str
+    ratio_to: str = ""
+    above: str = ""
+    most: float = None
+
+    def judge(self, samples):
+        """Returns (title, own value, baseline's value, result, target, whether it holds)."""
+        other = self.ratio_to or self.above
+        ours = samples.get((self.subject, self.quantity))
+        base = samples.get((other, self.quantity))
+        if not ours or not base:
+            return (self.title, "not measured", "", "", self.target(), "NO" if self.most else "")
+        value = median(ours) / median(base) if self.ratio_to else median(ours) - median(base)
+        result = f"x {value:.2f}" if self.ratio_to else f"{value:+.2f} {self.unit}"
+        holds = "" if self.most is None else "yes" if value <= self.most else "NO"
+        return (self.title, spread(ours, self.unit), spread(base, self.unit), result,
+                self.target(), holds)
+
+    def target(self):
+        """Returns the target as text."""
+        if self.most is None:
+            return ""
+        return f"<= x {self.most:g}" if self.ratio_to else f"<= {self.most:g} {self.unit}"
+
+
+def spread(values, unit):
+    """Returns median, lowest and highest as text."""
+    digits = 0 if unit == "ms" else 2
+    low, high = min(values), max(values)
+    text = f"{median(values):.{digits}f} {unit}"
+    return text if len(values) == 1 else f"{text} ({low:.{digits}f}-{high:.{digits}f})"
+
+
+START, START_CPU, MEMORY, IDLE = "start", "start CPU", "memory", "idle"
+
+FIGURES = (
+    Figure("start to painted manager", "manager", START, "ms", ratio_to="notepad", most=0.8),
+    Figure("start to manager and clock", "clock", START, "ms", ratio_to="notepad"),
+    Figure("start to all windows", "all widgets", START, "ms", ratio_to="notepad", most=1.5),
+    Figure("CPU until manager painted", "manager", START_CPU, "ms", ratio_to="notepad"),
+    Figure("CPU until manager, clock painted", "clock", START_CPU, "ms", ratio_to="notepad"),
+    Figure("CPU until all painted", "all widgets", START_CPU, "ms", ratio_to="notepad"),
+    Figure("memory, manager and clock", "clock", MEMORY, "MiB", ratio_to="notepad", most=1.2),
+    Figure("memory, all windows", "all widgets", MEMORY, "MiB", ratio_to="notepad", most=1.5),
+    Figure("idle, manager", "manager", IDLE, "ms/s", above="empty window", most=1),
+    Figure("idle, clock", "clock", IDLE, "ms/s", above="empty window", most=5),
+    Figure("idle, stopwatch and countdown run", "stopwatch, countdown", IDLE, "ms/s",
+           above="empty window"),
+    Figure("idle, all widgets", "all widgets", IDLE, "ms/s", above="empty window"),
+)
+
+
+@dataclass(frozen=True)
+class Limit:
+    """A target for a figure that a probe prints by name; compared with another where one is named."""
+
+    title: str
+    least: float = None
+    most: float = None
+    ratio_to: str = ""
+
+    def judge(self, values):
+        """Returns what Figure.judge does."""
+        value, unit = values[self.title]
+        base, base_unit = values.get(self.ratio_to, (1, ""))
+        result = value / base
+        bound = self.most if self.least is None else self.least
+        holds = result <= self.most if self.least is None else result >= self.least
+        sign = "<=" if self.least is None else ">="
+        target = f"{sign} x {bound:g}" if self.ratio_to else f"{sign} {bound:g} {unit}"
+        return (self.title, f"{value:.4g} {unit}", f"{base:.4g} {base_unit}" if self.ratio_to else "",
+                f"x {result:.2f}" if self.ratio_to else "", target, "yes" if holds else "NO")
+
+
+EXE_SIZE = "size of the program"
+
+LIMITS = (
+    Limit(EXE_SIZE, most=6),
+    Limit("stopwatch, click to painted button", most=16),
+    Limit("calculator, key to painted digit", most=16),
+    Limit("feed reader", least=100),
+    Limit("calculator log, a line added, 10,000 lines", most=1.2,
+          ratio_to="calculator log, a line added, empty"),
+)
+
+
+def rows(samples, values):
+    """Returns every line of the result; probes' figures without a limit stand at the end."""
+    limits = {limit.title: limit for limit in LIMITS}
+    lines = [figure.judge(samples) for figure in FIGURES]
+    for title, limit in limits.items():
+        if title in values:
+            lines.append(limit.judge(values))
+        else:
+            lines.append((title, "not measured", "", "", "", "NO"))
+    for title, (value, unit) in values.items():
+        if title not in limits:
+            lines.append((title, f"{value:.4g} {unit}", "", "", "", ""))
+    return lines

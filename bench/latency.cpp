@@ -1,0 +1,100 @@
+// latency times how long a press takes until its effect is painted on the screen, in the program
+// that VARNEL_EXE names. Prints one line for each figure: its name, a tab, the median, a tab, the
+// unit.
+#include <algorithm>
+#include <cstdio>
+#include <optional>
+#include <vector>
+
+#include "resources/control_ids.h"
+#include "tests/rig/controls.h"
+#include "tests/rig/input.h"
+#include "tests/rig/picture.h"
+#include "tests/rig/program.h"
+
+namespace varnel::rig {
+namespace {
+
+constexpr int kPresses = 30;
+constexpr int kPatienceMs = 1000;
+
+// What is pressed, and the control whose picture it changes.
+struct Press {
+  const char* name;
+  const wchar_t* flag;  // of the widget, in the program's start-up settings
+  const wchar_t* form;
+  int watched;
+  int clicked;  // this button; 0 for the key
+  WORD key;
+};
+
+constexpr Press kFigures[] = {
+    {"stopwatch, click to painted button", L"Start-Load-Stopwatch", L"frmSTWwg", lblStartfrmSTWwg,
+     lblStartfrmSTWwg, 0},
+    {"calculator, key to painted digit", L"Start-Load-Calc", L"frmCLCwg", lbl01234567890, 0, '7'},
+};
+
+double Milliseconds() {
+  LARGE_INTEGER ticks = {}, frequency = {};
+  ::QueryPerformanceCounter(&ticks);
+  ::QueryPerformanceFrequency(&frequency);
+  return 1000.0 * static_cast<double>(ticks.QuadPart) / static_cast<double>(frequency.QuadPart);
+}
+
+void Begin(const Press& press, Point at) {
+  if (press.clicked) {
+    PressMouse(at);
+  } else {
+    PressKey(press.key);
+  }
+}
+
+void End(const Press& press, Point at) {
+  if (press.clicked) ReleaseMouse(at);
+}
+
+// The time of one press, or nothing when the picture did not change.
+std::optional<double> TimeOf(const Press& press, HWND watched, Point at) {
+  const Picture before = StillPictureOf(watched);
+  const double start = Milliseconds();
+  Begin(press, at);
+  double now = start;
+  bool changed = false;
+  while (!changed && now - start < kPatienceMs) {
+    changed = PictureOf(watched) != before;
+    now = Milliseconds();
+  }
+  End(press, at);
+  if (!changed) return std::nullopt;
+  return now - start;
+}
+
+void Measure(const Press& press) {
+  Root root;
+  root.settings().SetText(L"Settings\\Details", L"Web Address", L"http://127.0.0.1:9/");
+  root.settings().SetText(L"frmVRNpr\\Details", press.flag, L"True");
+  root.settings().SetText(L"frmVRNpr\\Details", L"Program Minimize on Start", L"1");
+  Program program(root);
+  if (!program.Start()) return;
+  HWND form = WaitForForm(program, press.form);
+  HWND watched = form ? Control(form, press.watched) : nullptr;
+  if (!watched || !Activate(form)) return;
+  const Point at = CentreOf(watched);
+  if (press.clicked) MoveMouse(at);
+  std::vector<double> times;
+  for (int i = 0; i < kPresses; ++i) {
+    if (const auto time = TimeOf(press, watched, at)) times.push_back(*time);
+  }
+  if (times.size() < kPresses / 2) return;
+  std::ranges::sort(times);
+  std::printf("%s\t%.1f\tms\n", press.name, times[times.size() / 2]);
+}
+
+}  // namespace
+}  // namespace varnel::rig
+
+int main() {
+  varnel::rig::ResetInput();
+  for (const auto& press : varnel::rig::kFigures) varnel::rig::Measure(press);
+  varnel::rig::ResetInput();
+}

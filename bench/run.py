@@ -1,0 +1,116 @@
+#!/usr/bin/python3
+"""Measures the program against Wine's notepad and an empty window, in one interleaved run.
+
+Absolute times drift with whatever else the machine does; the ratios of one run can be compared.
+Every round starts each subject once, one after the other, so that all meet the same conditions.
+"""
+
+import argparse
+import json
+import os
+import subprocess
+import sys
+import time
+from collections import defaultdict
+
+import figures
+import processes
+from subjects import PROGRAM, ROOT, SUBJECTS, WINDOWS_BUILD
+
+NATIVE_BUILD = os.environ.get("VARNEL_BENCH_NATIVE", ROOT / "build/native")
+PATIENCE = 30  # seconds for the windows of a subject to come
+REST = 5  # seconds from the start to the look at the memory
+IDLE_STRETCHES = 2
+
+
+def start(subject):
+    """Starts a subject; returns its process and the milliseconds until its windows were painted."""
+    probe = f"{NATIVE_BUILD}/bench/bench_xwatch"
+    words = [probe, str(subject.windows), str(PATIENCE), *subject.words()]
+    answer = json.loads(subprocess.run(words, stdout=subprocess.PIPE, text=True).stdout)
+    return answer["pid"], answer["painted_ms"]
+
+
+def idle_ms_per_s(pid, seconds):
+    """Returns the CPU time that a process and the Wine server take while nobody does anything."""
+    pids = (pid, processes.wine_server())
+    before, begin = sum(map(processes.cpu_ms, pids)), time.monotonic()
+    time.sleep(seconds)
+    return (sum(map(processes.cpu_ms, pids)) - before) / (time.monotonic() - begin)
+
+
+def measure(subject, idle, look_closer, samples):
+    """Starts a subject once and adds what it costs to `samples`."""
+    pid, painted = start(subject)
+    try:
+        if painted < 0:
+            print(f"{subject.name}: its {subject.windows} windows did not come", file=sys.stderr)
+            return
+        samples[subject.name, figures.START].append(painted)
+        samples[subject.name, figures.START_CPU].append(processes.cpu_ms(pid))
+        if not look_closer:
+            return
+        time.sleep(REST)
+        samples[subject.name, figures.MEMORY].append(processes.anonymous_mib(pid))
+        if idle > 0:
+            subject.press()
+            time.sleep(1)
+            samples[subject.name, figures.IDLE].append(idle_ms_per_s(pid, idle))
+    finally:
+        processes.end(pid)
+
+
+def measure_all(subjects, runs, idle):
+    """Returns the samples of every subject and quantity."""
+    samples = defaultdict(list)
+    for subject in subjects:
+        subject.prepare()
+    try:
+        for subject in subjects:  # what only a first start costs counts for nobody
+            measure(subject, 0, False, defaultdict(list))
+        for run in range(runs):
+            look_closer = run < IDLE_STRETCHES
+            print(f"round {run + 1} of {runs}", file=sys.stderr, flush=True)
+            for subject in subjects:
+                measure(subject, idle / IDLE_STRETCHES, look_closer, samples)
+    finally:
+        for subject in subjects:
+            subject.clean_up()
+    return samples
+
+
+def probe_values(*words):
+    """Runs a probe that prints names, figures and units; returns {name: (figure, unit)}."""
+    environment = {**os.environ, "VARNEL_EXE": "Z:" + str(PROGRAM).replace("/", "\\")}
+    output = subprocess.run(words, stdout=subprocess.PIPE, text=True, env=environment).stdout
+    lines = (line.strip().split("\t") for line in output.splitlines())
+    return {name: (float(figure), unit) for name, figure, unit in lines}
+
+
+def print_table(lines):
+    """Prints the figures in columns, under their headings."""
+    table = [("figure", "ours", "against", "result", "target", "holds"), *lines]
+    widths = [max(len(line[column]) for line in table) for column in range(len(table[0]))]
+    for line in table:
+        print("  ".join(text.ljust(width) for text, width in zip(line, widths)).rstrip())
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser.add_argument("--runs", type=int, default=11, help="starts of each subject (11)")
+    parser.add_argument("--idle", type=float, default=60, help="seconds of rest measured (60)")
+    parser.add_argument("--quick", action="store_true", help="3 starts, 10 seconds of rest")
+    parser.add_argument("--only", help="subjects whose names hold this, beside the baselines")
+    options = parser.parse_args()
+    runs, idle = (3, 10) if options.quick else (options.runs, options.idle)
+    chosen = [s for s in SUBJECTS if s.command or not options.only or options.only in s.name]
+
+    samples = measure_all(chosen, runs, idle)
+    values = {figures.EXE_SIZE: (PROGRAM.stat().st_size / 1e6, "MB")}
+    for probe in ("bench_latency", "bench_micro"):
+        values |= probe_values("wine", str(WINDOWS_BUILD / f"bench/{probe}.exe"))
+    print_table(figures.rows(samples, values))
+
+
+if __name__ == "__main__":
+    main()
