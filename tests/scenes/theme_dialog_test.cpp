@@ -1,0 +1,291 @@
+// The theme dialog on a live widget, the presets, and everything in the menus.
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <functional>
+
+#include "core/shared_menu.h"
+#include "resources/control_ids.h"
+#include "tests/rig/controls.h"
+#include "tests/rig/dialogs.h"
+#include "tests/rig/files.h"
+#include "tests/rig/input.h"
+#include "tests/rig/menus.h"
+#include "tests/rig/picture.h"
+#include "tests/rig/scene.h"
+#include "theme/chrome_colours.h"
+#include "theme/system_colours_win.h"
+
+namespace varnel {
+namespace {
+
+using namespace rig;
+
+const wchar_t* const kSection = L"frmTHEME\\Details";
+
+class ThemeDialogScene : public Scene {
+ protected:
+  void SetUp() override {
+    Scene::SetUp();
+    const Registry& settings = root().settings();
+    settings.SetText(L"frmVRNpr\\Details", L"Start-Load-Clock", L"True");
+    settings.SetText(L"frmVRNpr\\Details", L"Start-Load-Stopwatch", L"True");
+    // Nobody answers there: pages and the update check fail at once.
+    settings.SetText(L"Settings\\Details", L"Web Address", L"http://127.0.0.1:9/");
+    Start();
+  }
+  void Start() {
+    ASSERT_TRUE(program().Start());
+    clock_ = WaitForForm(program(), L"frmCLKwg");
+    stopwatch_ = WaitForForm(program(), L"frmSTWwg");
+    ASSERT_TRUE(clock_ && stopwatch_);
+  }
+  void OpenFrom(HWND form) {
+    Choose(form, L"mnuDCSETTINGS");
+    dialog_ = WaitForForm(program(), L"frmTHEME");
+    ASSERT_TRUE(dialog_);
+  }
+  HWND Part(int id) { return Control(dialog_, id); }
+  void ShowTab(int tab) {
+    Send(Part(tabMAIN), TCM_SETCURFOCUS, tab);
+    EXPECT_TRUE(WaitUntil([&] { return IsShown(Part(tab == 1 ? cboBAR : cboPANEL)); }));
+  }
+  void Slide(int slider, int place) {
+    Send(Part(slider), TBM_SETPOS, TRUE, place);
+    Send(dialog_, WM_HSCROLL, TB_THUMBTRACK, reinterpret_cast<LPARAM>(Part(slider)));
+  }
+  void PickColour(int button, COLORREF colour) {
+    ASSERT_TRUE(ClickOn(Part(button)));
+    HWND picker = WaitForDialog(program());
+    ASSERT_TRUE(picker);
+    constexpr int kRedBox = 706;
+    for (int i = 0; i < 3; ++i) {
+      SetText(Control(picker, kRedBox + i), std::to_wstring(colour >> 8 * i & 0xFF));
+    }
+    EXPECT_TRUE(CloseDialog(picker, IDOK));
+  }
+  bool CloseBy(int button) {
+    return ClickOn(Part(button)) && WaitForNoForm(program(), L"frmTHEME");
+  }
+  std::vector<std::wstring> StoredNames() { return root().settings().ValueNames(kSection); }
+  std::optional<std::wstring> Stored(const std::wstring& name) {
+    return root().settings().Text(kSection, name);
+  }
+  std::wstring PresetPath(const std::wstring& name) {
+    return root().folder() + L"\\themes\\Soft\\" + name + L".dcp";
+  }
+
+  HWND clock_ = nullptr;
+  HWND stopwatch_ = nullptr;
+  HWND dialog_ = nullptr;
+};
+
+Colour GroundOf(Colour colour, int contrast) {
+  ThemeRecord theme;
+  theme.lngTHEMECOLOR = colour;
+  theme.lngTHEMECONTRAST = contrast;
+  return ApplyChrome(theme, UserSystemColours()).ground;
+}
+
+TEST_F(ThemeDialogScene, ChangesShowAtOnceAndGoWhenClosed) {
+  const Picture before = StillPictureOf(stopwatch_);
+  OpenFrom(stopwatch_);
+  EXPECT_EQ(Text(dialog_), L"Stopwatch Theme Settings");
+  EXPECT_EQ(SliderPosition(Part(hsbOPACITY)), 235);
+  EXPECT_EQ(Text(Part(lblREADPANEL)), L"2.4 : 1");
+  EXPECT_TRUE(IsShown(Part(icoREADPANEL)));
+
+  Slide(hsbOPACITY, 128);
+  EXPECT_EQ(AlphaOf(stopwatch_), 128);
+  EXPECT_EQ(AlphaOf(clock_), 235);
+  EXPECT_EQ(Text(Part(lblVALUE)), L"128 (50%)");
+  Slide(hsbCONTRAST, 0);
+  PickColour(btnCOLORMAIN, RGB(120, 0, 40));
+  const auto ground = static_cast<COLORREF>(GroundOf(RGB(120, 0, 40), 0));
+  EXPECT_EQ(WaitFor([&] { return PictureOf(stopwatch_).MainColour(); }, ground), ground);
+
+  HWND elapsed = Control(stopwatch_, lblELAPSED);
+  const Picture tahoma = StillPictureOf(elapsed);
+  ShowTab(2);
+  ASSERT_TRUE(Select(Part(cboPANEL), L"Symbol"));
+  EXPECT_TRUE(WaitUntil([&] { return Differences(tahoma, PictureOf(elapsed)) > 50; }));
+  const Picture white = StillPictureOf(elapsed);
+  PickColour(btnCOLORPANEL, RGB(0, 0, 0));
+  EXPECT_TRUE(WaitUntil([&] { return Differences(white, PictureOf(elapsed)) > 50; }));
+  EXPECT_FALSE(IsShown(Part(icoREADPANEL)));
+  ShowTab(1);
+  ASSERT_TRUE(Select(Part(cboBAR), L"Symbol"));
+  Slide(hsbBARANGLE, 90);
+
+  EXPECT_EQ(StoredNames(), std::vector<std::wstring>()) << "nothing was applied";
+  ASSERT_TRUE(CloseBy(btnCLOSEDLG));
+  MoveMouse({1200, 700});
+  EXPECT_EQ(AlphaOf(stopwatch_), 235);
+  EXPECT_EQ(WaitFor([&] { return Differences(before, PictureOf(stopwatch_)); }, 0), 0);
+  EXPECT_EQ(StoredNames(), std::vector<std::wstring>({L"Theme-folder"}));
+}
+
+TEST_F(ThemeDialogScene, ApplyStoresAPresetForItsWidgetOnly) {
+  OpenFrom(stopwatch_);
+  ASSERT_TRUE(Select(Part(lstFOLDERS), L"Neon"));
+  // The first row, below the column titles.
+  const Rect list = RectOf(Part(lvwTHEMES));
+  Click({list.left + 30, list.top + 34});
+  EXPECT_EQ(WaitFor([&] { return Text(Part(txtPRESETNEW)); }, std::wstring(L"Black")), L"Black");
+  PressKey(VK_DOWN);
+  EXPECT_EQ(WaitFor([&] { return Text(Part(txtPRESETNEW)); }, std::wstring(L"Blue")), L"Blue");
+  EXPECT_EQ(AlphaOf(stopwatch_), 220);
+  ASSERT_TRUE(ClickOn(Part(btnAPPLY)));
+  ASSERT_TRUE(WaitUntil([&] { return IsShown(Part(cmdOKfrmTHEME)); }));
+  EXPECT_EQ(Stored(L"frmSTWwgTheme-Main-Opacity"), L"220");
+  EXPECT_EQ(Stored(L"frmSTWwgTheme-Main-Contrast"), L"0");
+  EXPECT_EQ(Stored(L"frmSTWwgTheme-Bar-Angle"), L"188");
+  EXPECT_EQ(Stored(L"frmSTWwgTheme-Panel-Font"), L"Tahoma");
+  EXPECT_EQ(StoredNames().size(), 8u);
+  for (const std::wstring& name : StoredNames()) EXPECT_EQ(name.substr(0, 14), L"frmSTWwgTheme-");
+
+  ASSERT_TRUE(CloseBy(cmdOKfrmTHEME));
+  ASSERT_EQ(LeaveByMenu(program()), 0u);
+  Start();
+  EXPECT_EQ(AlphaOf(stopwatch_), 220);
+  EXPECT_EQ(AlphaOf(clock_), 235);
+  OpenFrom(clock_);
+  EXPECT_EQ(Text(dialog_), L"Alarm Clock Theme Settings");
+  EXPECT_EQ(Selected(Part(lstFOLDERS)), 7) << "Neon is shown again";
+  EXPECT_EQ(Items(Part(flbLIST)).size(), 14u);
+}
+
+TEST_F(ThemeDialogScene, PresetsAreMadeCompletedAndDeleted) {
+  ASSERT_TRUE(WriteBytes(PresetPath(L"Half"), "[main]\r\n> Main-Color=255\r\n"));
+  OpenFrom(clock_);
+  EXPECT_EQ(Items(Part(flbLIST)).size(), 15u);
+  const std::string half = FileBytes(PresetPath(L"Half")).value_or("");
+  EXPECT_NE(half.find("> caption=Half"), std::string::npos) << half;
+  EXPECT_NE(half.find("> Main-Opacity=235"), std::string::npos) << half;
+
+  ASSERT_TRUE(ClickOn(Part(btnNEW)));
+  HWND message = WaitForDialog(program());
+  EXPECT_EQ(Text(message), L"You Have not Entered a File Name");
+  EXPECT_EQ(DialogText(message), L"Please make sure you type it in correctly.");
+  ASSERT_TRUE(CloseDialog(message, IDOK));
+  Slide(hsbOPACITY, 77);
+  ASSERT_TRUE(ClickOn(Part(txtPRESETNEW)));
+  Type(L"My blue\n");
+  EXPECT_TRUE(WaitUntil([&] { return FileExists(PresetPath(L"My blue")); }));
+  EXPECT_EQ(WaitFor([&] { return Items(Part(flbLIST)).size(); }, std::size_t{16}), 16u);
+  Slide(hsbOPACITY, 200);
+  ASSERT_TRUE(Select(Part(flbLIST), L"My blue.dcp"));
+  EXPECT_EQ(WaitFor([&] { return AlphaOf(clock_); }, std::optional(77)), 77);
+  ASSERT_TRUE(ClickOn(Part(btnDELETE)));
+  EXPECT_TRUE(WaitUntil([&] { return !FileExists(PresetPath(L"My blue")); }));
+  EXPECT_FALSE(IsEnabled(Part(btnDELETE)));
+
+  for (const int answer : {IDNO, IDYES}) {
+    ASSERT_TRUE(ClickOn(Part(btnDELETEALL)));
+    HWND question = WaitForDialog(program());
+    EXPECT_EQ(DialogText(question), L"Delete all 15 presets of the style \"Soft\"?");
+    ASSERT_TRUE(CloseDialog(question, answer));
+    const std::size_t left = answer == IDNO ? 15 : 0;
+    EXPECT_EQ(WaitFor([&] { return Items(Part(flbLIST)).size(); }, left), left);
+  }
+  const std::wstring folder = root().folder() + L"\\themes\\Soft";
+  EXPECT_TRUE(FilesBelow(folder).empty());
+  ASSERT_EQ(LeaveByMenu(program()), 0u);
+  Start();
+  EXPECT_TRUE(FolderExists(folder) && FilesBelow(folder).empty());
+}
+
+TEST_F(ThemeDialogScene, OutlivesItsWidgetAndTurnsToAnother) {
+  OpenFrom(stopwatch_);
+  Slide(hsbOPACITY, 50);
+  Choose(clock_, L"mnuDCSETTINGS");
+  EXPECT_EQ(WaitFor([&] { return Text(dialog_); }, std::wstring(L"Alarm Clock Theme Settings")),
+            L"Alarm Clock Theme Settings");
+  EXPECT_EQ(AlphaOf(stopwatch_), 235);
+  Slide(hsbOPACITY, 60);
+  EXPECT_EQ(AlphaOf(clock_), 60);
+  ASSERT_TRUE(ChooseShared(program(), L"mnuDCWIDGETS", 0));
+  ASSERT_TRUE(WaitForNoForm(program(), L"frmCLKwg"));
+  Slide(hsbOPACITY, 70);
+  ASSERT_TRUE(ChooseShared(program(), L"mnuDCWIDGETS", 0));
+  clock_ = WaitForForm(program(), L"frmCLKwg");
+  EXPECT_EQ(AlphaOf(clock_), 235) << "nothing was applied";
+  ASSERT_TRUE(ClickOn(Part(btnAPPLY)));
+  EXPECT_EQ(WaitFor([&] { return AlphaOf(clock_); }, std::optional(70)), 70);
+  PressKey(VK_ESCAPE);
+  EXPECT_TRUE(WaitForNoForm(program(), L"frmTHEME"));
+  EXPECT_EQ(AlphaOf(clock_), 70);
+}
+
+TEST_F(ThemeDialogScene, AGlyphTellsItsWordWhenTheMouseRests) {
+  EXPECT_TRUE(FindForms(program(), TOOLTIPS_CLASSW).empty());
+  MoveMouse(CentreOf(Control(stopwatch_, lablTBARTOP)));
+  HWND tip = nullptr;
+  EXPECT_TRUE(WaitUntil([&] {
+    // The mouse of a user never stands quite still.
+    MoveMouse(CentreOf(Control(stopwatch_, lablTBARTOP)));
+    tip = FindForm(program(), TOOLTIPS_CLASSW);
+    return tip && IsShown(tip);
+  }));
+  EXPECT_EQ(Text(tip), L"Menu");
+}
+
+// Answers every question with no and closes every dialog.
+void DismissAll(const Program& program) {
+  static constexpr const wchar_t* kDialogs[] = {L"frmVRNpr", L"frmTHEME", L"frmCLKpr", L"frmCLKas"};
+  while (HWND message = FindDialog(program)) {
+    for (const int answer : {IDNO, IDCANCEL, IDOK}) PressButton(message, answer);
+    WaitUntil([&] { return !::IsWindow(message) || !IsShown(message); });
+  }
+  for (const wchar_t* name : kDialogs) {
+    if (HWND dialog = FindForm(program, name)) Send(dialog, WM_CLOSE);
+  }
+}
+
+TEST_F(ThemeDialogScene, EveryMenuItemCanBeChosen) {
+  SharedMenuState all;
+  all.available.fill(true);
+  all.sizable = all.has_widget = all.theme_dialog = true;
+  std::vector<int> ids;
+  const std::function<void(const std::vector<MenuItem>&)> gather =
+      [&](const std::vector<MenuItem>& items) {
+        for (const MenuItem& item : items) {
+          gather(item.children);
+          const bool toggles = ArrayCommandIndex(L"mnuDCWIDGETS", kWidgetCount, item.id) >= 0;
+          if (item.id != 0 && item.enabled) ids.insert(ids.end(), toggles ? 2 : 1, item.id);
+        }
+      };
+  gather(BuildSharedMenu(all));
+  for (const wchar_t* name : {L"mnuCLOCKPROPS", L"mnuCLOCKALARMSET", L"mnuCLOCKTOP"}) {
+    ids.push_back(CommandId(name));
+  }
+  std::erase(ids, CommandId(L"mnuDCEXIT"));
+  const auto answers = [&](int id) {
+    return id == CommandId(L"mnuDCHELP") || id == CommandId(L"mnuDCUPDATES");
+  };
+  for (const int id : ids) {
+    HWND form = WaitForForm(program(), L"frmCLKwg");
+    ASSERT_TRUE(form) << "before command " << id;
+    ::PostMessageW(form, WM_COMMAND, static_cast<WPARAM>(id), 0);
+    if (id == CommandId(L"mnuDCHIDEALL")) {
+      ASSERT_TRUE(WaitForNoForm(program(), L"frmCLKwg"));
+      ASSERT_TRUE(ChooseShared(program(), L"mnuDCSHOWALL"));
+    }
+    if (id == ArrayCommandId(L"mnuDCWIDGETS", 0)) {
+      ASSERT_TRUE(WaitForNoForm(program(), L"frmCLKwg"));
+      ASSERT_TRUE(ChooseShared(program(), L"mnuDCWIDGETS", 0));
+    }
+    if (answers(id)) {
+      EXPECT_TRUE(WaitForDialog(program())) << "command " << id;
+    }
+    Send(FindForm(program(), L"frmVRNwg"), WM_NULL);
+    DismissAll(program());
+    ASSERT_TRUE(program().running()) << "after command " << id;
+  }
+  EXPECT_TRUE(WaitForForm(program(), L"frmSTWwg"));
+}
+
+}  // namespace
+}  // namespace varnel
