@@ -87,7 +87,7 @@ std::vector<MenuItem> BuildSharedMenu(const SharedMenuState& state) {
           ItemOf({L"mnuDCSETTINGS", L"&Theme..."}, state.has_widget && state.theme_dialog),
           ItemOf({L"mnuDCGENSET", L"&Options..."}),
           MenuSeparator(),
-          Submenu(L"Hel&p", HelpItems(state)),
+          Submenu(L"H&elp", HelpItems(state)),
           ItemOf({L"mnuDCEXIT", L"E&xit"})};
 }
 

@@ -10,7 +10,7 @@ namespace {
 constexpr int kTickMs = 100;
 constexpr Command kProperties{L"mnuCLOCKPROPS", L"Clock &properties..."};
 constexpr Command kAlarms{L"mnuCLOCKALARMSET", L"A&larms..."};
-constexpr Command kKeepOnTop{L"mnuCLOCKTOP", L"Keep cloc&k on top"};
+constexpr Command kKeepOnTop{L"mnuCLOCKTOP", L"Keep clo&ck on top"};
 
 }  // namespace
 
