@@ -7,15 +7,20 @@
 #include "widgets/time/clock_form.h"
 #include "widgets/time/countdown_form.h"
 #include "widgets/time/stopwatch_form.h"
+#include "widgets/weather/weather_dialog.h"
+#include "widgets/weather/weather_form.h"
 
 namespace varnel {
 namespace {
 
-constexpr CatalogueWidget kWidgets[] = {
-    {0, MakeWidget<ClockForm>}, {4, MakeWidget<StopwatchForm>}, {5, MakeWidget<CountdownForm>}};
+constexpr CatalogueWidget kWidgets[] = {{0, MakeWidget<ClockForm>},
+                                        {4, MakeWidget<StopwatchForm>},
+                                        {5, MakeWidget<CountdownForm>},
+                                        {7, MakeWidget<WeatherForm>}};
 constexpr CatalogueDialog kDialogs[] = {{L"frmVRNpr", MakeDialog<OptionsDialog>},
                                         {L"frmTHEME", MakeDialog<ThemeDialog>},
                                         {L"frmCLKpr", MakeDialog<ClockDialog>},
+                                        {L"frmWTHpr", MakeDialog<WeatherDialog>},
                                         {L"frmCLKas", MakeDialog<AlarmDialog>, true}};
 constexpr Catalogue kCatalogue{kWidgets, kDialogs};
 

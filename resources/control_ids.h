@@ -1,12 +1,12 @@
-// Numbers of the controls that carry a name, shared by the forms, the dialog resources and the tests.
-// Control arrays have their first number here; element i has that number plus i.
+// Numbers of the controls that carry a name, shared by the forms, the dialog resources and the
+// tests. Control arrays have their first number here; element i has that number plus i.
 #pragma once
 
 // The frame of every widget
 #define lablTBARTOP 1000  // title-bar text buttons: 0 menu, 1 minimise, 2 close
 
 // frmVRNwg, the manager
-#define lblNUMBER 1020   // 0 to 7, one tile a widget; the calculator's digit keys 0 to 9
+#define lblNUMBER 1020  // 0 to 7, one tile a widget; the calculator's digit keys 0 to 9
 
 // frmVRNpr, the start-up options
 #define chkSTARTUP 1060
@@ -122,3 +122,28 @@
 #define lblCLEAR 1617
 #define lblCLEARENTRY 1618
 #define lblDELETE 1619
+
+// frmWTHwg, the weather
+#define lblWeatherCountry 1500
+#define lblWeathersymbol 1501
+#define lblTEMPERATURE 1502
+#define lblDESC 1503
+#define lblFOREDATE 1504     // 0 to 2, one a day
+#define lblFOREICON 1507     // 0 to 2
+#define lblFORETEMP 1510     // 0 to 2
+#define lblATTRIBUTION 1513  // whom the data comes from; opens that web page
+
+// frmWTHpr, the weather's properties
+#define lntNOTE1 1520      // the caption around the place
+#define optLOCATIONS 1521  // 0 international, 1 United States
+#define lblCountry 1523
+#define cboCOUNTRY 1524
+#define lblCITY 1525
+#define cboCOUNTRYAREA 1526
+#define btnSEARCH 1527
+#define lblPICK 1528       // the place that is chosen
+#define pfrTEMPS 1529      // the panel around the scale
+#define lntNOTE2 pfrTEMPS  // its caption
+#define optTEMP 1530       // 0 Celsius, 1 Fahrenheit
+#define cmdOKfrmWTHpr 1
+#define cmdCancelfrmWTHpr 2

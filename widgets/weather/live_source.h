@@ -12,6 +12,7 @@ namespace varnel {
 
 // What the source's licence wants to stand beside its data, and the address the words lead to.
 inline constexpr std::wstring_view kLiveAttribution = L"Weather data by Open-Meteo.com";
+inline constexpr std::wstring_view kShortLiveAttribution = L"Open-Meteo.com";
 inline constexpr std::wstring_view kLiveAttributionAddress = L"https://open-meteo.com/";
 
 // The longest answer that is read, in bytes; a proper one has about 1,000.

@@ -77,6 +77,20 @@ std::wstring FoldForSearch(std::wstring_view text) {
   return folded;
 }
 
+std::optional<Completion> CompleteTyped(std::span<const std::wstring> items,
+                                        std::wstring_view typed, std::wstring_view former) {
+  const std::wstring wanted = FoldForSearch(typed);
+  if (wanted.empty() || FoldForSearch(former).starts_with(wanted)) return std::nullopt;
+  for (std::size_t i = 0; i < items.size(); ++i) {
+    const std::wstring_view item = items[i];
+    if (!FoldForSearch(item).starts_with(wanted)) continue;
+    std::size_t count = 1;
+    while (FoldForSearch(item.substr(0, count)).size() < wanted.size()) ++count;
+    return Completion{i, count};
+  }
+  return std::nullopt;
+}
+
 std::optional<std::size_t> TypeAheadMatch(std::span<const std::wstring> items,
                                           std::wstring_view typed) {
   const std::wstring wanted = FoldForSearch(typed);

@@ -14,6 +14,19 @@ namespace varnel {
 // Other writing is kept as it is.
 std::wstring FoldForSearch(std::wstring_view text);
 
+// An item offered while the user types: its first `typed` characters stand for what was typed, the
+// rest is a proposal.
+struct Completion {
+  std::size_t item;
+  std::size_t typed;
+  bool operator==(const Completion&) const = default;
+};
+
+// The first item that begins with `typed`, compared folded. Nothing when none does, nothing was
+// typed, or the user has only deleted from `former`, what was typed before.
+std::optional<Completion> CompleteTyped(std::span<const std::wstring> items,
+                                        std::wstring_view typed, std::wstring_view former);
+
 // The item that `typed` means: the first that begins with it, else the first with a later word
 // that does, both compared folded. Nothing when none does or nothing was typed. Completing to a
 // whole item keeps the list's own spelling in the box, which is what resolving a place needs.

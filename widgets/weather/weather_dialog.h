@@ -1,0 +1,98 @@
+// The weather's properties, and the weather itself: the dialog stays loaded, fetches and reads the
+// data whether it is open or not, and keeps what the widget shows.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/services.h"
+#include "widgets/weather/live_source.h"
+#include "widgets/weather/places.h"
+#include "widgets/weather/weather_feed.h"
+#include "widgets/weather/weather_status.h"
+#include "win/dialog.h"
+#include "win/http.h"
+
+namespace varnel {
+
+class WeatherDialog : public Dialog {  // frmWTHpr
+ public:
+  explicit WeatherDialog(Services& services);
+
+  // Starts to fetch the weather of the chosen place. The live source is spared: what it has
+  // answered for that place is good for an hour.
+  void WeatherDataGet();
+  // Fetches it however young the data is, unless a fetch is under way.
+  void WeatherRefresh();
+  // Reads the stored response again.
+  void DataFileRead();
+
+  // What the widget is to show; the forecast is empty and the temperature "-" while nothing is
+  // known.
+  const WeatherLabels& labels() const { return labels_; }
+  WeatherStatus status() const;
+  // The live source is asked, because no feed's address is set.
+  bool live_source() const;
+
+ private:
+  // A combo box in which places are chosen or typed.
+  struct PlaceBox {
+    int id;
+    std::vector<std::wstring> items;
+    std::wstring typed;  // what the user has typed in it, without what was offered
+  };
+
+  void OnOpen() override;
+  void OnCommand(int id, int code) override;
+
+  bool United() const;  // the United States list is chosen
+  void ChooseList(bool united);
+  void FillCities();
+  void Fill(PlaceBox& box, std::vector<std::wstring> items);
+  void OnBox(PlaceBox& box, int code);
+  void OnTyped(PlaceBox& box);
+  void OnChosen(PlaceBox& box);
+  // The box's text, or the item that it begins.
+  std::wstring Completed(const PlaceBox& box) const;
+  void CompleteBox(PlaceBox& box);
+  void SetBoxText(PlaceBox& box, const std::wstring& text);
+  void ShowPick();
+  void Store();
+
+  std::wstring DataList(const wchar_t* name) const;
+  std::optional<WeatherPlace> Resolve(bool united, const std::wstring& area,
+                                      const std::wstring& city) const;
+  void LoadPlace();
+  bool AnswerIsFresh() const;
+  std::wstring Address() const;  // empty when the place is not known
+  void Fetch();
+  void OnFetched(const HttpResult& result, const WeatherPlace& place, bool live);
+  LiveFeed LiveFeedOf(const std::string& answer, const WeatherPlace& place) const;
+  void ReadLiveAnswer();
+  void TakeResponse(const std::wstring& text, bool live);
+  void Fail(std::wstring reason);
+  void ShowOnWidget();
+
+  Services& services_;
+  PlaceBox countries_;
+  PlaceBox cities_;
+  std::wstring listed_country_;  // whose cities are listed
+  bool filling_ = false;         // the boxes are being written by the program
+
+  HttpFetch webDATA_;
+  WeatherPlace place_;  // its code is txtADDR
+  std::wstring txtDATA_;
+  WeatherData data_;
+  WeatherLabels labels_;
+  std::string answer_;                // the live source's last good one
+  WeatherPlace answer_place_;         // the place it is for
+  std::uint64_t answered_ = 0;        // when it came, in milliseconds since the system started
+  bool live_data_ = false;            // txtDATA comes from it
+  std::optional<LocalTime> updated_;  // when txtDATA came
+  std::wstring failure_;              // of the last fetch
+  bool fetching_ = false;
+};
+
+}  // namespace varnel

@@ -1,0 +1,195 @@
+#include "widgets/weather/weather_form.h"
+
+#include "base/image.h"
+#include "base/rounded_box.h"
+#include "core/shared_menu.h"
+#include "resources/control_ids.h"
+#include "widgets/weather/live_source.h"
+#include "widgets/weather/weather_dialog.h"
+#include "widgets/weather/weather_glyphs.h"
+#include "win/font_measure.h"
+#include "win/shell.h"
+#include "win/window_text.h"
+
+namespace varnel {
+namespace {
+
+constexpr int kReadAgainMs = 100;
+constexpr int kHourMs = 60 * 60 * 1000;
+constexpr int kStripGap = 12;  // at 96 dpi
+constexpr double kCardCorner = 6;
+constexpr int kCardWeight = 96;     // of a button's face against the ground
+constexpr int kOutlineWeight = 96;  // of the border against the card
+
+constexpr Command kProperties{L"mnuWEATHERPROPS", L"Weather propert&ies..."};
+constexpr Command kRefresh{L"mnuWEATHERREFRESH", L"Re&fresh now", L"F5"};
+constexpr Command kKeepOnTop{L"mnuWEATHERTOP", L"Keep weather o&n top"};
+
+}  // namespace
+
+WeatherForm::WeatherForm(Services& services, const FormEntry& entry, int index)
+    : WidgetForm(services, entry, index),
+      lblWeatherCountry_(services.ui),
+      lblWeathersymbol_(services.ui),
+      lblTEMPERATURE_(services.ui),
+      lblDESC_(services.ui),
+      days_{DayLabels(services.ui), DayLabels(services.ui), DayLabels(services.ui)},
+      tmrWEATHER_(*this, kReadAgainMs,
+                  [this] {
+                    tmrWEATHER_.Stop();
+                    dialog_->DataFileRead();
+                  }),
+      hourly_(*this, kHourMs, [this] {
+        if (dialog_->live_source()) dialog_->WeatherRefresh();
+        RefreshContent();  // the data may be a day old by now
+      }) {}
+
+void WeatherForm::OnLoad() {
+  lblWeatherCountry_.Load(handle(), lblWeatherCountry);
+  lblWeathersymbol_.Load(handle(), lblWeathersymbol);
+  lblTEMPERATURE_.Load(handle(), lblTEMPERATURE);
+  lblDESC_.Load(handle(), lblDESC);
+  for (int i = 0; i < 3; ++i) {
+    DayLabels& day = days_[static_cast<std::size_t>(i)];
+    day.date.Load(handle(), lblFOREDATE + i);
+    day.icon.Load(handle(), lblFOREICON + i);
+    day.temps.Load(handle(), lblFORETEMP + i);
+  }
+  buttons().Add(lblATTRIBUTION, L"", 0, false);
+  dialog_ = dynamic_cast<WeatherDialog*>(services().program.FindDialog(L"frmWTHpr"));
+  if (!dialog_) return;
+  dialog_->WeatherDataGet();
+  tmrWEATHER_.Start();
+  hourly_.Start();
+}
+
+void WeatherForm::OnUnload() {
+  tmrWEATHER_.Stop();
+  hourly_.Stop();
+}
+
+void WeatherForm::LayOutPanel(const Rect& panel) {
+  if (!dialog_) return;
+  places_ = LayOutWeather({panel.width(), panel.height()}, dpi(), dialog_->labels(),
+                          FontMeasure(theme().strTHEMEPANELFONTNAME, false));
+  PlaceLabels(panel);
+  PlaceStrip();
+}
+
+void WeatherForm::PlaceLabels(const Rect& panel) {
+  const auto place = [&](ThemedLabel& label, const LabelPlace& where, const TextStyle& style) {
+    label.Place(Within(panel, where.box), style);
+    label.Show(where.shown());
+  };
+  const auto style = [this](const LabelPlace& where, bool icon, Colour ground) {
+    TextStyle made = PanelTextStyle(where.font_height);
+    if (icon) made.font.face = kIconFontName;
+    made.ground = ground;
+    return made;
+  };
+  const Colour ground = chrome().ground;
+  place(lblWeatherCountry_, places_.location, style(places_.location, false, ground));
+  place(lblWeathersymbol_, places_.symbol, style(places_.symbol, true, ground));
+  place(lblTEMPERATURE_, places_.temperature, style(places_.temperature, false, ground));
+  place(lblDESC_, places_.condition, style(places_.condition, false, ground));
+  for (std::size_t i = 0; i < days_.size(); ++i) {
+    const auto& [date, icon, temps] = places_.forecast[i];
+    place(days_[i].date, date, style(date, false, CardColour()));
+    place(days_[i].icon, icon, style(icon, true, CardColour()));
+    place(days_[i].temps, temps, style(temps, false, CardColour()));
+  }
+}
+
+void WeatherForm::PlaceStrip() {
+  const TextStyle style = StripTextStyle(Painting());
+  const FontMeasure measure(style.font.face, false);
+  const Rect& room = layout().status_text;
+  strip_ = ChooseStrip(dialog_->status(), room.width(), Scaled(kStripGap, dpi()), style.font.height,
+                       measure);
+  const int width = measure.Measure(strip_.attribution, style.font.height).width;
+  buttons().SetText(lblATTRIBUTION, strip_.attribution);
+  buttons().Enable(lblATTRIBUTION, !strip_.attribution.empty());
+  buttons().Place(lblATTRIBUTION, {room.right - width, room.top + 1, room.right, room.bottom});
+}
+
+Colour WeatherForm::CardColour() {
+  const ColourPair face = ButtonColours(theme(), ButtonLook::kNormal, services().colours);
+  return Blend(face.first, chrome().ground, kCardWeight, services().colours);
+}
+
+void WeatherForm::RefreshContent() {
+  if (!dialog_) return;
+  const auto glyph = [](int icon) { return std::wstring(1, WeatherGlyph(icon)); };
+  const WeatherLabels& shown = dialog_->labels();
+  lblWeatherCountry_.SetText(shown.location);
+  lblWeathersymbol_.SetText(glyph(shown.symbol));
+  lblTEMPERATURE_.SetText(shown.temperature);
+  lblDESC_.SetText(shown.condition);
+  for (std::size_t i = 0; i < days_.size(); ++i) {
+    days_[i].date.SetText(shown.forecast[i].date);
+    days_[i].icon.SetText(glyph(shown.forecast[i].icon));
+    days_[i].temps.SetText(shown.forecast[i].temps);
+  }
+  PlaceStrip();
+  RepaintStatus();
+}
+
+void WeatherForm::PaintPanel(Surface& surface, const Rect& panel) {
+  if (places_.pfrFORECAST.empty()) return;
+  // A card on a white ground is white too; then its outline shows it.
+  const Colour face = CardColour();
+  const Colour outline = Blend(chrome().border, face, kOutlineWeight, services().colours);
+  DrawRoundedBox(surface.pixels(), surface.size(), Within(panel, places_.pfrFORECAST),
+                 kCardCorner * dpi() / kDefaultDpi, OpaquePixel(face), OpaquePixel(outline));
+}
+
+void WeatherForm::DrawPanelButton(const ButtonPainting& painting) {
+  TextStyle style = StripTextStyle(Painting());
+  style.align = Align::kLeft;
+  PaintText(ui(), painting.surface, painting.bounds, WindowText(painting.button.handle), style);
+  if (painting.look == ButtonLook::kNormal && !painting.focused) return;
+  const int bottom = painting.bounds.bottom - Scaled(3, dpi());
+  FillRectangle(painting.surface.dc(),
+                {0, bottom - Scaled(1, dpi()), painting.bounds.right, bottom}, style.colour);
+}
+
+void WeatherForm::OnControl(int id, int code) {
+  if (id == lblATTRIBUTION && code == BN_CLICKED) {
+    OpenWebPage(handle(), std::wstring(kLiveAttributionAddress));
+  }
+}
+
+LRESULT WeatherForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+  const LRESULT result = WidgetForm::OnMessage(message, wparam, lparam);
+  if (message == WM_SETCURSOR && buttons().hovered() && buttons().hovered()->id == lblATTRIBUTION) {
+    ::SetCursor(::LoadCursorW(nullptr, MAKEINTRESOURCEW(32649)));  // the hand of links
+    return TRUE;
+  }
+  return result;
+}
+
+bool WeatherForm::OnKey(const MSG& message) {
+  if (message.message == WM_KEYDOWN && message.wParam == VK_F5) {
+    return RunOwnCommand(CommandId(kRefresh.name));
+  }
+  return WidgetForm::OnKey(message);
+}
+
+std::vector<MenuItem> WeatherForm::MenuGroup() const {
+  return {ItemOf(kProperties), ItemOf(kRefresh), ItemOf(kKeepOnTop, true, on_top())};
+}
+
+bool WeatherForm::RunOwnCommand(int id) {
+  if (id == CommandId(kProperties.name)) {
+    services().program.OpenDialog(L"frmWTHpr");
+  } else if (id == CommandId(kRefresh.name)) {
+    if (dialog_) dialog_->WeatherRefresh();
+  } else if (id == CommandId(kKeepOnTop.name)) {
+    SetOnTop(!on_top());
+  } else {
+    return false;
+  }
+  return true;
+}
+
+}  // namespace varnel

@@ -1,0 +1,56 @@
+// The weather widget.
+#pragma once
+
+#include <array>
+
+#include "core/widget_form.h"
+#include "theme/themed_label_win.h"
+#include "widgets/weather/weather_layout.h"
+#include "widgets/weather/weather_status.h"
+
+namespace varnel {
+
+class WeatherDialog;
+
+class WeatherForm : public WidgetForm {  // frmWTHwg
+ public:
+  WeatherForm(Services& services, const FormEntry& entry, int index);
+
+ private:
+  struct DayLabels {
+    explicit DayLabels(Ui& ui) : date(ui), icon(ui), temps(ui) {}
+    ThemedLabel date;
+    ThemedLabel icon;
+    ThemedLabel temps;
+  };
+
+  void OnLoad() override;
+  void OnUnload() override;
+  void LayOutPanel(const Rect& panel) override;
+  void RefreshContent() override;
+  void PaintPanel(Surface& surface, const Rect& panel) override;
+  void DrawPanelButton(const ButtonPainting& painting) override;
+  void OnControl(int id, int code) override;
+  LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
+  bool OnKey(const MSG& message) override;
+  std::wstring StatusText() const override { return strip_.status; }
+  std::vector<MenuItem> MenuGroup() const override;
+  bool RunOwnCommand(int id) override;
+
+  void PlaceLabels(const Rect& panel);
+  void PlaceStrip();
+  Colour CardColour();
+
+  WeatherDialog* dialog_ = nullptr;  // frmWTHpr, which keeps the weather
+  WeatherLayout places_;
+  WeatherStrip strip_;
+  ThemedLabel lblWeatherCountry_;
+  ThemedLabel lblWeathersymbol_;
+  ThemedLabel lblTEMPERATURE_;
+  ThemedLabel lblDESC_;
+  std::array<DayLabels, 3> days_;
+  Timer tmrWEATHER_;
+  Timer hourly_;
+};
+
+}  // namespace varnel

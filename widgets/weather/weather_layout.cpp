@@ -1,0 +1,284 @@
+#include "widgets/weather/weather_layout.h"
+
+#include <algorithm>
+#include <string>
+
+#include "base/text.h"
+
+namespace varnel {
+namespace {
+
+// In pixels at 96 dpi. Text smaller than its least is not worth its room.
+constexpr int kMargin = 8;
+constexpr int kLowPanel = 90;
+constexpr int kMostUnit = 480;
+constexpr int kLeastUnit = 18;
+constexpr int kLeastUnitWithCard = 28;
+constexpr int kLeastWords = 12;
+constexpr int kLeastForecast = 11;
+
+// In hundredths of the unit, which is the temperature's font height.
+constexpr int kSymbol = 125;
+constexpr int kSymbolGap = 8;
+constexpr int kWords = 34;  // location and condition
+constexpr int kForecastText = 28;
+constexpr int kForecastIcon = 62;
+constexpr int kPadding = 14;  // inside the card
+constexpr int kGap = 18;
+constexpr int kMostGap = 60;     // where there is room to spare
+constexpr int kMostCard = 1000;  // the width of a card below
+
+// How much larger everything has to come out, in hundredths, for the card to go to the right.
+constexpr int kBroadGain = 110;
+
+constexpr int kReferenceHeight = 240;
+constexpr int kDays = 3;
+
+int Part(int unit, int hundredths) {
+  return std::max(1, unit * hundredths / 100);
+}
+
+// A text measured once, in a large font. Sizes taken from that are a little generous, because small
+// letters are not exactly large ones made smaller. An empty text takes no room.
+class ScaledText {
+ public:
+  ScaledText() = default;
+  ScaledText(const std::wstring& text, const TextMeasure& measure) {
+    if (!text.empty()) extent_ = measure.Measure(text, kReferenceHeight);
+  }
+
+  bool empty() const { return extent_.height == 0; }
+  Size At(int font) const {
+    if (empty()) return {};
+    return {extent_.width * font * 26 / (25 * kReferenceHeight) + 1,
+            extent_.height * font / kReferenceHeight + 1};
+  }
+  bool operator<(const ScaledText& other) const { return extent_.width < other.extent_.width; }
+
+ private:
+  TextExtent extent_;
+};
+
+struct Texts {
+  ScaledText location, temperature, condition;
+  ScaledText seen_temperature;  // without outer blanks
+  ScaledText date, temps;       // the widest of the days
+  bool card() const { return !date.empty() || !temps.empty(); }
+};
+
+Texts MeasureTexts(const WeatherLabels& labels, const TextMeasure& measure) {
+  Texts texts;
+  texts.location = {labels.location, measure};
+  texts.temperature = {labels.temperature, measure};
+  texts.seen_temperature = {Trim(labels.temperature), measure};
+  texts.condition = {labels.condition, measure};
+  for (const ForecastSlot& slot : labels.forecast) {
+    texts.date = std::max(texts.date, {slot.date, measure});
+    texts.temps = std::max(texts.temps, {slot.temps, measure});
+  }
+  return texts;
+}
+
+// A line of words and its font.
+struct Line {
+  int font = 0;
+  Size size;
+};
+
+// All of some texts, as large as an area allows, with the card below or, `broad`, at the right.
+class Arrangement {
+ public:
+  Arrangement(const Texts& texts, const Rect& area, int dpi, bool broad)
+      : texts_(texts), area_(area), dpi_(dpi), broad_(broad) {
+    const int unit =
+        LargestHeight(Scaled(kMostUnit, dpi), [this](int candidate) { return SetUnit(candidate); });
+    const int least = Scaled(texts.card() ? kLeastUnitWithCard : kLeastUnit, dpi);
+    SetUnit(unit < least ? 0 : unit);
+  }
+
+  // The temperature's font height; 0 when the texts do not all fit and can be read.
+  int unit() const { return unit_; }
+  WeatherLayout Place() const;
+
+ private:
+  bool SetUnit(int unit);
+  bool SetLine(const ScaledText& text, int width, Line& line) const;
+  void SetCard();
+  void PlaceRow(const Rect& row, WeatherLayout& layout) const;
+  void PlaceCard(const Rect& card, WeatherLayout& layout) const;
+
+  int now_height() const { return location_.size.height + row_.height + condition_.size.height; }
+  int gap() const { return Part(unit_, kGap); }
+  int symbol() const { return Part(unit_, kSymbol); }
+
+  const Texts& texts_;
+  Rect area_;
+  int dpi_;
+  bool broad_;
+  int unit_ = 0;
+  Line location_;
+  Line condition_;
+  Size row_;  // symbol and temperature
+  Line date_;
+  Line temps_;
+  int icon_ = 0;
+  Size card_;  // at the least; empty without a forecast
+};
+
+bool Arrangement::SetUnit(int unit) {
+  unit_ = unit;
+  SetCard();
+  const int beside = broad_ ? card_.width + 2 * gap() : 0;
+  const int below = broad_ || card_.height == 0 ? 0 : card_.height + gap();
+  const Size temperature = texts_.temperature.At(unit);
+  row_ = {symbol() + 2 * Part(unit, kSymbolGap) + temperature.width,
+          std::max(symbol(), temperature.height)};
+  const int width = area_.width() - beside;
+  return SetLine(texts_.location, width, location_) &&
+         SetLine(texts_.condition, width, condition_) && row_.width <= width &&
+         card_.width <= area_.width() && card_.height <= area_.height() &&
+         now_height() + below <= area_.height();
+}
+
+// Chooses a font that leaves the line no wider than `width`; false when none can be read.
+bool Arrangement::SetLine(const ScaledText& text, int width, Line& line) const {
+  const int least = Scaled(kLeastWords, dpi_);
+  const int wished = std::max(least, Part(unit_, kWords));
+  line.font = LargestHeight(wished, [&](int font) { return text.At(font).width <= width; });
+  line.size = text.At(line.font);
+  return text.empty() || line.font >= least;
+}
+
+void Arrangement::SetCard() {
+  card_ = {};
+  if (!texts_.card()) return;
+  icon_ = Part(unit_, kForecastIcon);
+  date_.font = temps_.font = std::max(Scaled(kLeastForecast, dpi_), Part(unit_, kForecastText));
+  date_.size = texts_.date.At(date_.font);
+  temps_.size = texts_.temps.At(temps_.font);
+  const int padding = 2 * Part(unit_, kPadding);
+  if (broad_) {
+    card_ = {padding + date_.size.width + icon_ + temps_.size.width + 2 * gap(),
+             padding + kDays * std::max({icon_, date_.size.height, temps_.size.height})};
+  } else {
+    card_ = {kDays * (std::max({date_.size.width, icon_, temps_.size.width}) + gap()),
+             padding + date_.size.height + icon_ + temps_.size.height};
+  }
+}
+
+WeatherLayout Arrangement::Place() const {
+  WeatherLayout layout;
+  Rect room = area_;
+  if (broad_) {
+    const int spare = (area_.width() - row_.width - card_.width - 2 * gap()) / 4;
+    const int height = std::min(std::max(now_height(), card_.height * 3 / 2), area_.height());
+    room.right -= card_.width + spare + 2 * gap();
+    PlaceCard(RectAt({area_.right - card_.width - spare, area_.top + (area_.height() - height) / 2},
+                     {card_.width + spare, height}),
+              layout);
+  }
+  const bool below = !broad_ && texts_.card();
+  const int blocks = 1 + !texts_.location.empty() + below;
+  const int spare = room.height() - now_height() - (below ? card_.height + gap() : 0);
+  const int step = std::min(spare / (blocks + 1), Part(unit_, kMostGap));
+  int top = room.top + (spare - (blocks - 1) * step) / 2;
+  const auto take = [&](int height) {
+    const Rect row{room.left, top, room.right, top + height};
+    top += height;
+    return row;
+  };
+  if (!texts_.location.empty()) {
+    layout.location = {take(location_.size.height), location_.font};
+    top += step;
+  }
+  PlaceRow(take(row_.height), layout);
+  if (!texts_.condition.empty()) {
+    layout.condition = {take(condition_.size.height), condition_.font};
+  }
+  if (below) {
+    top += step + gap();
+    const int width = std::clamp(Part(unit_, kMostCard), card_.width, area_.width());
+    PlaceCard(RectAt({area_.left + (area_.width() - width) / 2, top}, {width, card_.height}),
+              layout);
+  }
+  return layout;
+}
+
+void Arrangement::PlaceRow(const Rect& row, WeatherLayout& layout) const {
+  const auto part = [&row](int left, Size size) {
+    return RectAt({left, row.top + (row.height() - size.height) / 2}, size);
+  };
+  // Centred is what can be seen; the temperature may end in a blank.
+  const int beside = symbol() + Part(unit_, kSymbolGap);
+  const int seen = beside + texts_.seen_temperature.At(unit_).width;
+  const int left = std::min(row.left + (row.width() - seen) / 2, row.right - row_.width);
+  layout.symbol = {part(left, {symbol(), symbol()}), symbol()};
+  layout.temperature = {part(left + symbol(), {row_.width - symbol(), row_.height}), unit_};
+}
+
+void Arrangement::PlaceCard(const Rect& card, WeatherLayout& layout) const {
+  layout.pfrFORECAST = card;
+  const int padding = Part(unit_, kPadding);
+  for (int i = 0; i < kDays; ++i) {
+    ForecastPlace& day = layout.forecast[static_cast<std::size_t>(i)];
+    if (broad_) {
+      const int height = (card.height() - 2 * padding) / kDays;
+      const Rect row = RectAt({card.left + padding, card.top + padding + i * height},
+                              {card.width() - 2 * padding, height});
+      const int middle = row.left + (row.width() + date_.size.width - temps_.size.width) / 2;
+      day.date = {{row.left, row.top, row.left + date_.size.width, row.bottom}, date_.font};
+      day.icon = {{middle - icon_ / 2, row.top, middle - icon_ / 2 + icon_, row.bottom}, icon_};
+      day.temps = {{row.right - temps_.size.width, row.top, row.right, row.bottom}, temps_.font};
+    } else {
+      const int left = card.left + card.width() * i / kDays;
+      const int right = card.left + card.width() * (i + 1) / kDays;
+      const int icon_top = card.top + padding + date_.size.height;
+      day.date = {{left, card.top + padding, right, icon_top}, date_.font};
+      day.icon = {{left, icon_top, right, icon_top + icon_}, icon_};
+      day.temps = {{left, icon_top + icon_, right, card.bottom - padding}, temps_.font};
+    }
+  }
+}
+
+// Makes the font smaller where the text comes out wider than was reckoned.
+void Shrink(LabelPlace& place, const std::wstring& text, const TextMeasure& measure) {
+  while (place.font_height > 1 &&
+         measure.Measure(text, place.font_height).width > place.box.width()) {
+    --place.font_height;
+  }
+}
+
+WeatherLayout Fitted(WeatherLayout layout, const WeatherLabels& labels,
+                     const TextMeasure& measure) {
+  Shrink(layout.location, labels.location, measure);
+  Shrink(layout.temperature, labels.temperature, measure);
+  Shrink(layout.condition, labels.condition, measure);
+  for (std::size_t i = 0; i < layout.forecast.size(); ++i) {
+    Shrink(layout.forecast[i].date, labels.forecast[i].date, measure);
+    Shrink(layout.forecast[i].temps, labels.forecast[i].temps, measure);
+  }
+  return layout;
+}
+
+}  // namespace
+
+WeatherLayout LayOutWeather(Size panel, int dpi, const WeatherLabels& labels,
+                            const TextMeasure& measure) {
+  const int margin = Scaled(panel.height < Scaled(kLowPanel, dpi) ? kMargin / 2 : kMargin, dpi);
+  const Rect area = Inset({0, 0, panel.width, panel.height}, margin);
+  Texts texts = MeasureTexts(labels, measure);
+  for (const auto leave_out : std::initializer_list<void (*)(Texts&)>{
+           [](Texts&) {}, [](Texts& all) { all.date = all.temps = {}; },
+           [](Texts& all) { all.condition = {}; }, [](Texts& all) { all.location = {}; }}) {
+    leave_out(texts);
+    const Arrangement stacked(texts, area, dpi, false);
+    const Arrangement broad(texts, area, dpi, texts.card());
+    const bool gains = broad.unit() * 100 > stacked.unit() * kBroadGain;
+    if (stacked.unit() + broad.unit() > 0) {
+      return Fitted((gains ? broad : stacked).Place(), labels, measure);
+    }
+  }
+  return {};
+}
+
+}  // namespace varnel
