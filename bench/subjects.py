@@ -19,7 +19,10 @@ WORK = WINDOWS_BUILD / "bench/work"
 
 DETAILS = r"frmVRNpr\Details"
 # Nothing listens there, so the program asks for updates without leaving the machine.
-NOWHERE = {r"Settings\Details": {"Web Address": "http://127.0.0.1:9/"}}
+NOWHERE = {
+    r"Settings\Details": {"Web Address": "http://127.0.0.1:9/"},
+    r"frmWTHpr\Details": {"Live Weather Address": "http://127.0.0.1:9/"},
+}
 ALL_WIDGETS = ("Clock", "Calc", "Calendar", "Notes", "Stopwatch", "Timer", "Whiteboard", "Weather")
 
 

@@ -7,6 +7,9 @@
 namespace varnel::rig {
 namespace {
 
+// Where nobody answers.
+constexpr wchar_t kNowhere[] = L"http://127.0.0.1:9/";
+
 std::wstring UniqueTitle() {
   LARGE_INTEGER ticks = {};
   ::QueryPerformanceCounter(&ticks);
@@ -21,6 +24,8 @@ Root::Root()
       folder_((std::filesystem::temp_directory_path() / (title_ + L" \u00E4")).wstring()),
       settings_(HKEY_CURRENT_USER, L"SOFTWARE\\" + title_) {
   std::filesystem::create_directories(folder_);
+  settings_.SetText(L"Settings\\Details", L"Web Address", kNowhere);
+  settings_.SetText(L"frmWTHpr\\Details", L"Live Weather Address", kNowhere);
 }
 
 Root::~Root() {

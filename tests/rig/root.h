@@ -11,7 +11,8 @@ namespace varnel::rig {
 // the run before left.
 class Root {
  public:
-  // Empty, and known to nobody else.
+  // Empty, and known to nobody else, but for the settings that keep a program from asking anything
+  // beyond this machine; a scene that wants an answer sets an address of its own.
   Root();
   Root(const Root&) = delete;
   Root& operator=(const Root&) = delete;
