@@ -2,6 +2,7 @@
 
 #include "core/options_dialog.h"
 #include "core/theme_dialog.h"
+#include "widgets/calculator/calculator_form.h"
 #include "widgets/time/alarm_dialog.h"
 #include "widgets/time/clock_dialog.h"
 #include "widgets/time/clock_form.h"
@@ -14,6 +15,7 @@ namespace varnel {
 namespace {
 
 constexpr CatalogueWidget kWidgets[] = {{0, MakeWidget<ClockForm>},
+                                        {1, MakeWidget<CalculatorForm>},
                                         {4, MakeWidget<StopwatchForm>},
                                         {5, MakeWidget<CountdownForm>},
                                         {7, MakeWidget<WeatherForm>}};

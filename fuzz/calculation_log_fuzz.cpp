@@ -55,7 +55,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
   RequireSameAfterRestart(log, files, path);
 
-  log.DeleteSelected(loaded / 2);
+  log.DeleteSelected({loaded / 2});
   Require(log.Append(L"2 + 2 = 4.0") == (loaded / 2 == loaded));
   RequireSameAfterRestart(log, files, path);
   return 0;

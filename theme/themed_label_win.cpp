@@ -1,5 +1,7 @@
 #include "theme/themed_label_win.h"
 
+#include <algorithm>
+
 namespace varnel {
 
 bool ThemedLabel::Load(HWND parent, int id) {
@@ -14,7 +16,15 @@ bool ThemedLabel::Load(HWND parent, int id) {
 void ThemedLabel::SetText(const std::wstring& text) {
   if (text == shown_text_) return;
   shown_text_ = text;
+  first_seen_ = 0;
   ::SetWindowTextW(handle(), text.c_str());
+  ::InvalidateRect(handle(), nullptr, FALSE);
+}
+
+void ThemedLabel::ScrollTo(std::size_t units) {
+  units = std::min(units, shown_text_.size());
+  if (units == first_seen_) return;
+  first_seen_ = units;
   ::InvalidateRect(handle(), nullptr, FALSE);
 }
 
@@ -47,7 +57,9 @@ LRESULT ThemedLabel::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
 void ThemedLabel::Paint(Surface& surface) {
   const Rect area = client();
   FillRectangle(surface.dc(), area, style_.ground);
-  PaintText(ui(), surface, area, glyph_ ? std::wstring(1, glyph_) : shown_text_, style_);
+  std::wstring text = shown_text_;
+  if (first_seen_ > 0) text.replace(0, first_seen_, L"\x2026");
+  PaintText(ui(), surface, area, glyph_ ? std::wstring(1, glyph_) : text, style_);
 }
 
 }  // namespace varnel

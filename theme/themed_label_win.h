@@ -15,6 +15,9 @@ class ThemedLabel : public PaintedWindow {
 
   // Shows `text`; a text that is shown already costs nothing and repaints nothing.
   void SetText(const std::wstring& text);
+  // Paints only what follows the first `units` UTF-16 units, until another text is set: for a text
+  // that is too long to be seen whole. The window text stays.
+  void ScrollTo(std::size_t units);
   // A glyph of the symbol font drawn in place of the window text, which stays the label's name for
   // those who cannot see it.
   void SetGlyph(wchar_t glyph);
@@ -28,6 +31,7 @@ class ThemedLabel : public PaintedWindow {
   void Paint(Surface& surface) override;
 
   std::wstring shown_text_;
+  std::size_t first_seen_ = 0;  // of its units
   wchar_t glyph_ = 0;
   TextStyle style_;
 };

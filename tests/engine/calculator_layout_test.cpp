@@ -92,6 +92,7 @@ TEST(CalculatorLayout, TheLogFindsRoom) {
   EXPECT_TRUE(LayOutCalculator({254, 182}, 96, true).log.empty());
   EXPECT_TRUE(LayOutCalculator({391, 182}, 96, false).log.empty());
   EXPECT_TRUE(LayOutCalculator({391, 120}, 96, true).secondary.empty());
+  EXPECT_FALSE(LayOutCalculator({800, 120}, 96, true).log.empty());
 }
 
 TEST(CalculatorLayout, AnyPanelIsSurvived) {

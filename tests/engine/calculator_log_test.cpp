@@ -73,10 +73,10 @@ TEST_F(CalculatorLog, EveryChangeIsWrittenAtOnce) {
   EXPECT_EQ(files.files[kPath], "\"2 + 3 = 5.0\"\r\n");
   EXPECT_TRUE(log.Append(L"5 * 4 = 20.0"));
   EXPECT_EQ(files.files[kPath], "\"2 + 3 = 5.0\"\r\n\"5 * 4 = 20.0\"\r\n");
-  log.DeleteSelected(0);
+  log.DeleteSelected({0});
   EXPECT_EQ(files.files[kPath], "\"5 * 4 = 20.0\"\r\n");
-  log.DeleteSelected(7);
-  log.DeleteSelected(static_cast<std::size_t>(-1));
+  log.DeleteSelected({7});
+  log.DeleteSelected({static_cast<std::size_t>(-1)});
   EXPECT_EQ(Shown(), Lines{L"5 * 4 = 20.0"});
   log.Clear();
   EXPECT_EQ(files.files[kPath], "");
@@ -86,16 +86,16 @@ TEST_F(CalculatorLog, EveryChangeIsWrittenAtOnce) {
 
 TEST_F(CalculatorLog, AClashingKeyKeepsALineOut) {
   Start("\"a\"\r\n\"b\"\r\n\"c\"\r\n");
-  log.DeleteSelected(1);
+  log.DeleteSelected({1});
   const int writes = files.writes;
   EXPECT_FALSE(log.Append(L"d"));
   EXPECT_EQ(files.writes, writes + 1);
   EXPECT_EQ(Shown(), (Lines{L"a", L"c"}));
   EXPECT_EQ(AfterRestart(), Shown());
 
-  log.DeleteSelected(1);  // deleting the last line frees its key
+  log.DeleteSelected({1});  // deleting the last line frees its key
   EXPECT_TRUE(log.Append(L"e"));
-  log.DeleteSelected(0);
+  log.DeleteSelected({0});
   EXPECT_FALSE(log.Append(L"f"));
   log.Load();  // a start keys the lines afresh
   EXPECT_TRUE(log.Append(L"f"));
@@ -117,7 +117,7 @@ TEST_F(CalculatorLog, SeededChangesFollowTheKeyRule) {
     } else if (pick < 98) {
       const std::size_t index = random() % (model.size() + 1);
       if (index < model.size()) model.erase(model.begin() + static_cast<std::ptrdiff_t>(index));
-      log.DeleteSelected(index);
+      log.DeleteSelected({index});
     } else {
       for (std::size_t i = 0; i < model.size(); ++i) model[i].first = std::to_wstring(i) + L"m";
       log.Load();
@@ -207,7 +207,7 @@ TEST_F(CalculatorLog, WithNoNameLeftNothingIsWritten) {
   EXPECT_FALSE(log.saved());
   EXPECT_EQ(files.files[kPath], "precious");
   files.files.erase(kPath);  // someone cleared up
-  log.DeleteSelected(5);
+  log.DeleteSelected({5});
   EXPECT_TRUE(log.saved());
   EXPECT_EQ(files.files[kPath], "\"a\"\r\n");
 }

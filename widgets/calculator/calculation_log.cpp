@@ -45,8 +45,12 @@ bool CalculationLog::Append(std::wstring_view line) {
   return added;
 }
 
-void CalculationLog::DeleteSelected(std::size_t index) {
-  if (index < lines_.count()) {
+void CalculationLog::DeleteSelected(std::vector<std::size_t> indexes) {
+  // From the last on, so that none changes the place of another.
+  std::ranges::sort(indexes, std::ranges::greater());
+  indexes.erase(std::unique(indexes.begin(), indexes.end()), indexes.end());
+  for (const std::size_t index : indexes) {
+    if (index >= lines_.count()) continue;
     lines_.Remove(index);
     keys_.erase(keys_.begin() + static_cast<std::ptrdiff_t>(index));
   }

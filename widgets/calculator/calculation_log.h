@@ -43,8 +43,8 @@ class CalculationLog {
   // deleted: the line is then not logged.
   bool Append(std::wstring_view line);
 
-  // Removes the line at `index`, if there is one, and writes the file.
-  void DeleteSelected(std::size_t index);
+  // Removes the lines at `indexes`, as far as there are such lines, and writes the file.
+  void DeleteSelected(std::vector<std::size_t> indexes);
 
   // Removes all lines and writes the file.
   void Clear();

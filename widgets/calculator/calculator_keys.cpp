@@ -37,12 +37,21 @@ constexpr StrokeRow kStrokes[] = {
 constexpr std::wstring_view kFaces[] = {
     L"0", L"1",      L"2", L"3",      L"4",      L"5",      L"6", L"7", L"8",  L"9",
     L".", L"\u00B1", L"+", L"\u2212", L"\u00D7", L"\u00F7", L"=", L"C", L"CE", L"Del"};
+constexpr std::wstring_view kNames[] = {
+    L"0",        L"1",      L"2",      L"3",     L"4",           L"5",     L"6",
+    L"7",        L"8",      L"9",      L"Point", L"Change sign", L"Add",   L"Subtract",
+    L"Multiply", L"Divide", L"Equals", L"Clear", L"Clear entry", L"Delete"};
 static_assert(std::size(kFaces) == kCalculatorKeyCount);
+static_assert(std::size(kNames) == kCalculatorKeyCount);
 
 }  // namespace
 
 std::wstring_view KeyFace(CalculatorKey key) {
   return kFaces[static_cast<std::size_t>(key)];
+}
+
+std::wstring_view KeyName(CalculatorKey key) {
+  return kNames[static_cast<std::size_t>(key)];
 }
 
 KeyStroke StrokeFor(int virtual_key, int shift_state) {

@@ -35,8 +35,9 @@ constexpr CalculatorKey DigitKey(int digit) {
   return static_cast<CalculatorKey>(digit);
 }
 
-// The text on the key.
+// The text on the key, and its name for those who cannot see it.
 std::wstring_view KeyFace(CalculatorKey key);
+std::wstring_view KeyName(CalculatorKey key);
 
 // Shift state bits, as the keyboard handler gets them.
 inline constexpr int kShiftHeld = 1;

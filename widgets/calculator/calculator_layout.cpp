@@ -10,12 +10,18 @@ namespace {
 constexpr int kLeastMargin = 2;
 constexpr int kMargin = 8;
 constexpr int kLeastDisplay = 15;
-constexpr int kSecondaryHeight = 13;
+constexpr int kSecondaryHeight = 9;
 // The least height of display and keys with the secondary line, or with a log beside or below them.
 constexpr int kRoomyKeypad = 150;
-constexpr int kReadableRow = 14;  // rows of less height make way for the broad arrangement
+// Rows of less height make way for the broad arrangement; up to the second height they do so where
+// the keys are that much broader than high.
+constexpr int kReadableRow = 18;
+constexpr int kGoodRow = 28;
+constexpr int kTooBroad = 6;
 constexpr int kLeastLogHeight = 40;
-constexpr int kLogAtRightFrom = 280;  // the least width with the log at the right
+constexpr int kLogAtRightFrom = 280;     // the least width with the log at the right
+constexpr int kLogAtRightOfLow = 420;    // the same when there is no room for it below
+constexpr int kLeastHeightWithLog = 80;  // at the right
 constexpr int kMostLogWidth = 480;
 
 struct Arrangement {
@@ -51,10 +57,9 @@ class Builder {
   }
 
   CalculatorLayout Build(bool with_log) {
-    if (with_log && rest_.height() >= Px(kRoomyKeypad)) PlaceLog();
+    if (with_log) PlaceLog();
     PlaceDisplay();
-    const bool cramped = Cell(kTall, 0).height() < Px(kReadableRow);
-    PlaceKeys(cramped ? kBroad : kTall);
+    PlaceKeys(BroadServesBetter() ? kBroad : kTall);
     return layout_;
   }
 
@@ -69,8 +74,10 @@ class Builder {
   }
 
   void PlaceLog() {
-    const bool broad =
-        rest_.width() >= Px(kLogAtRightFrom) && rest_.width() * 4 >= rest_.height() * 5;
+    const bool low = rest_.height() < Px(kRoomyKeypad);
+    const bool broad = rest_.width() >= Px(low ? kLogAtRightOfLow : kLogAtRightFrom) &&
+                       rest_.width() * 4 >= rest_.height() * 5 &&
+                       rest_.height() >= Px(kLeastHeightWithLog);
     if (broad) {
       layout_.log = rest_;
       layout_.log.left = rest_.right - std::min(rest_.width() * 2 / 5, Px(kMostLogWidth));
@@ -85,15 +92,18 @@ class Builder {
   }
 
   void PlaceDisplay() {
-    const bool roomy = rest_.height() >= Px(kRoomyKeypad);
-    layout_.box = TakeTop(std::max(rest_.height() / 5, Px(kLeastDisplay)));
-    const Rect inner = {layout_.box.left + gap_, layout_.box.top, layout_.box.right - gap_,
-                        layout_.box.bottom};
+    const bool roomy = rest_.height() >= Px(kRoomyKeypad) || !layout_.log.empty();
+    const int line_height = roomy ? Px(kSecondaryHeight) : 0;
+    layout_.box = TakeTop(std::max(rest_.height() / 5, Px(kLeastDisplay)) + line_height);
+    Rect inner = {layout_.box.left + 2 * gap_, layout_.box.top, layout_.box.right - 2 * gap_,
+                  layout_.box.bottom};
+    if (roomy) {
+      inner.bottom -= line_height;
+      layout_.secondary = {inner.left, inner.bottom, inner.right, layout_.box.bottom};
+    }
     layout_.indicator = layout_.number = inner;
     layout_.indicator.right = inner.left + std::min(inner.height() * 2 / 3, inner.width() / 6);
     layout_.number.left = layout_.indicator.right + gap_;
-    const int line_height = std::max(layout_.box.height() / 4, Px(kSecondaryHeight));
-    if (roomy) layout_.secondary = TakeTop(line_height);
   }
 
   Rect Cell(const Arrangement& keys, int index) const {
@@ -106,6 +116,14 @@ class Builder {
             edge(rest_.top, rest_.height(), row, keys.rows),
             edge(rest_.left, rest_.width(), column + 1, keys.columns) - gap_,
             edge(rest_.top, rest_.height(), row + 1, keys.rows) - gap_};
+  }
+
+  bool BroadServesBetter() const {
+    const Rect tall = Cell(kTall, 0);
+    const Rect broad = Cell(kBroad, 0);
+    const bool low = tall.height() < Px(kReadableRow) ||
+                     (tall.height() < Px(kGoodRow) && tall.width() > kTooBroad * tall.height());
+    return low && std::min(broad.width(), broad.height()) * 4 > tall.height() * 5;
   }
 
   void PlaceKeys(const Arrangement& keys) {

@@ -1,0 +1,248 @@
+#include "widgets/calculator/calculator_form.h"
+
+#include "base/number_text.h"
+#include "core/folders.h"
+#include "core/shared_menu.h"
+#include "resources/control_ids.h"
+#include "widgets/calculator/pasted_number.h"
+#include "win/clipboard.h"
+#include "win/shell.h"
+
+namespace varnel {
+namespace {
+
+constexpr Command kShowHistory{L"mnuCALCSHOWHIST", L"Show &log"};
+constexpr Command kDeleteSelected{L"mnuCALCDELETESELECTED", L"&Delete selected sums", L"Ctrl+Del"};
+constexpr Command kClearHistory{L"mnuCALCCLEARHISTORY", L"Clear lo&g..."};
+constexpr Command kKeepOnTop{L"mnuCALCTOP", L"Keep calc&ulator on top"};
+
+constexpr wchar_t kLogFile[] = L"calc2.dat";
+constexpr int kStruckMs = 120;
+constexpr int kMostPastedUnits = 1000;
+constexpr int kStepsToANotch = 3;
+
+int ShiftState() {
+  const auto held = [](int key, int bit) { return ::GetKeyState(key) < 0 ? bit : 0; };
+  return held(VK_SHIFT, kShiftHeld) | held(VK_CONTROL, kCtrlHeld) | held(VK_MENU, kAltHeld);
+}
+
+// Keys with which a list moves from line to line.
+bool IsListKey(WPARAM key) {
+  return (key >= VK_PRIOR && key <= VK_DOWN) || key == VK_SPACE;
+}
+
+}  // namespace
+
+int ButtonOf(CalculatorKey key) {
+  const int number = static_cast<int>(key);
+  const int point = static_cast<int>(CalculatorKey::kPoint);
+  return number < point ? lblNUMBER + number : lblPOINT + number - point;
+}
+
+std::optional<CalculatorKey> KeyOf(int id) {
+  for (std::size_t i = 0; i < kCalculatorKeyCount; ++i) {
+    if (ButtonOf(static_cast<CalculatorKey>(i)) == id) return static_cast<CalculatorKey>(i);
+  }
+  return std::nullopt;
+}
+
+CalculatorForm::CalculatorForm(Services& services, const FormEntry& entry, int index)
+    : WidgetForm(services, entry, index),
+      log_(services.files, AddTrailingSeparator(services.program_folder) + kLogFile),
+      lbl01234567890_(services.ui),
+      lblDISPLAYFUNC_(services.ui),
+      lblSUB_(services.ui),
+      lvwFILES_(
+          services.ui, [this](std::size_t line) { return log_.Line(line); },
+          [this](std::size_t line) { Recall(line); }),
+      release_timer_(*this, kStruckMs, [this] { ReleaseStruck(); }) {}
+
+void CalculatorForm::OnLoad() {
+  lbl01234567890_.Load(handle(), lbl01234567890);
+  lblDISPLAYFUNC_.Load(handle(), lblDISPLAYFUNC);
+  lblSUB_.Load(handle(), lblSUB);
+  for (std::size_t i = 0; i < kCalculatorKeyCount; ++i) {
+    const auto key = static_cast<CalculatorKey>(i);
+    const bool named_as_drawn = KeyName(key) == KeyFace(key);
+    buttons().Add(ButtonOf(key), std::wstring(KeyName(key)),
+                  named_as_drawn ? L'\0' : KeyFace(key)[0], false);
+  }
+  lvwFILES_.Load(handle(), lvwFILES);
+  log_.Load();
+  ShowLog(log_.count());
+}
+
+std::wstring CalculatorForm::StatusText() const {
+  if (!log_.saved()) return L"The log could not be saved";
+  if (log_.count() == 0) return L"No sums yet";
+  return NumberText(static_cast<long long>(log_.count())) +
+         (log_.count() == 1 ? L" sum" : L" sums");
+}
+
+// --- keys
+
+void CalculatorForm::OnControl(int id, int code) {
+  const auto key = KeyOf(id);
+  if (key && code == BN_CLICKED) Press(*key);
+}
+
+void CalculatorForm::Press(CalculatorKey key) {
+  const std::wstring line = engine_.Press(key);
+  if (!line.empty()) {
+    log_.Append(line);
+    ShowLog(log_.count());
+  }
+  RefreshContent();
+}
+
+bool CalculatorForm::OnKey(const MSG& message) {
+  if (message.message == WM_KEYDOWN && OnKeyDown(static_cast<int>(message.wParam))) return true;
+  if (message.message == WM_KEYUP && ListHasFocus() && IsListKey(message.wParam)) {
+    if (const auto line = lvwFILES_.Focused()) Recall(*line);
+  }
+  return WidgetForm::OnKey(message);
+}
+
+bool CalculatorForm::OnKeyDown(int virtual_key) {
+  const int shift_state = ShiftState();
+  if (ListHasFocus() && virtual_key == 'A' && shift_state == kCtrlHeld) {
+    lvwFILES_.SelectAll();
+    return true;
+  }
+  const KeyStroke stroke = StrokeFor(virtual_key, shift_state);
+  switch (stroke.action) {
+    case StrokeAction::kPress:
+      Strike(stroke.key);
+      return true;
+    case StrokeAction::kDeleteSelected:
+      DeleteSelected();
+      return true;
+    case StrokeAction::kOpenMenu:
+      ::SendMessageW(handle(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(handle()), -1);
+      return true;
+    case StrokeAction::kCopyDisplay:
+      Copy();
+      return true;
+    case StrokeAction::kPasteNumber:
+      PasteNumber();
+      return true;
+    case StrokeAction::kFrame:
+    case StrokeAction::kNone:
+      break;
+  }
+  return false;
+}
+
+// The button is seen going down for a moment, as if it had been clicked.
+void CalculatorForm::Strike(CalculatorKey key) {
+  ReleaseStruck();
+  struck_id_ = ButtonOf(key);
+  ::SendMessageW(::GetDlgItem(handle(), struck_id_), BM_SETSTATE, TRUE, 0);
+  release_timer_.Start();
+  Press(key);
+}
+
+void CalculatorForm::ReleaseStruck() {
+  release_timer_.Stop();
+  if (struck_id_ != 0) {
+    ::SendMessageW(::GetDlgItem(handle(), std::exchange(struck_id_, 0)), BM_SETSTATE, FALSE, 0);
+  }
+}
+
+// --- clipboard and log
+
+void CalculatorForm::Copy() {
+  std::wstring text;
+  if (ListHasFocus()) {
+    for (const std::size_t line : lvwFILES_.Selected()) {
+      if (!text.empty()) text += L"\r\n";
+      text += log_.Line(line);
+    }
+  }
+  CopyText(handle(), text.empty() ? engine_.display() : text);
+}
+
+void CalculatorForm::PasteNumber() {
+  const auto number = ParsePastedNumber(PastedText(handle(), kMostPastedUnits));
+  if (!number) return;
+  engine_.Enter(*number);
+  RefreshContent();
+}
+
+void CalculatorForm::Recall(std::size_t line) {
+  engine_.Recall(log_.Line(line));
+  RefreshContent();
+}
+
+void CalculatorForm::ShowLog(std::size_t visible_line) {
+  lvwFILES_.ShowLines(log_.count(), visible_line);
+  RepaintStatus();
+}
+
+void CalculatorForm::HistoryShow() {
+  history_shown_ = !history_shown_;
+  Form_Resize();
+}
+
+void CalculatorForm::DeleteSelected() {
+  const auto lines = lvwFILES_.Selected();
+  if (lines.empty()) return;
+  log_.DeleteSelected(lines);
+  // The next line is selected, so that several can be deleted one after the other.
+  ShowLog(lines.front());
+  if (log_.count() > 0) lvwFILES_.Select(std::min(lines.front(), log_.count() - 1));
+}
+
+void CalculatorForm::ClearHistory() {
+  if (!AskYesNo(handle(), L"Delete every sum of the log?", L"Clear log") || !handle()) return;
+  log_.Clear();
+  ShowLog(0);
+}
+
+std::vector<MenuItem> CalculatorForm::MenuGroup() const {
+  return {ItemOf(kShowHistory, true, history_shown_),
+          ItemOf(kDeleteSelected, !lvwFILES_.Selected().empty()),
+          ItemOf(kClearHistory, log_.count() > 0), ItemOf(kKeepOnTop, true, on_top())};
+}
+
+bool CalculatorForm::RunOwnCommand(int id) {
+  if (id == CommandId(kShowHistory.name)) {
+    HistoryShow();
+  } else if (id == CommandId(kDeleteSelected.name)) {
+    DeleteSelected();
+  } else if (id == CommandId(kClearHistory.name)) {
+    ClearHistory();
+  } else if (id == CommandId(kKeepOnTop.name)) {
+    SetOnTop(!on_top());
+  } else {
+    return false;
+  }
+  return true;
+}
+
+// A turn of the wheel scrolls the number under the pointer, and from anywhere else the log.
+void CalculatorForm::OnWheel(Point at, int turn) {
+  const int steps = -turn * kStepsToANotch / WHEEL_DELTA;
+  if (Within(layout().pfrPANEL, places_.box).Contains(at)) {
+    ScrollDisplay(steps);
+  } else {
+    lvwFILES_.ScrollBy(steps);
+  }
+}
+
+LRESULT CalculatorForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+  if (message == WM_MOUSEWHEEL) {
+    const Rect window = screen_rect();
+    OnWheel({static_cast<short>(LOWORD(lparam)) - window.left,
+             static_cast<short>(HIWORD(lparam)) - window.top},
+            static_cast<short>(HIWORD(wparam)));
+    return 0;
+  }
+  if (message == WM_NOTIFY) {
+    auto& header = *reinterpret_cast<NMHDR*>(lparam);
+    return header.idFrom == lvwFILES ? lvwFILES_.OnNotify(header) : 0;
+  }
+  return WidgetForm::OnMessage(message, wparam, lparam);
+}
+
+}  // namespace varnel

@@ -1,0 +1,77 @@
+// The calculator widget.
+#pragma once
+
+#include <optional>
+
+#include "core/widget_form.h"
+#include "theme/themed_label_win.h"
+#include "widgets/calculator/calculation_log.h"
+#include "widgets/calculator/calculator_engine.h"
+#include "widgets/calculator/calculator_layout.h"
+#include "widgets/calculator/log_list_win.h"
+
+namespace varnel {
+
+// The number of the control that is the button of `key`, and the key of a button; nothing for
+// another control.
+int ButtonOf(CalculatorKey key);
+std::optional<CalculatorKey> KeyOf(int id);
+
+class CalculatorForm : public WidgetForm {  // frmCLCwg
+ public:
+  CalculatorForm(Services& services, const FormEntry& entry, int index);
+
+  // Shows the log, or hides it. Where the widget is too small for it, it stays out of sight.
+  void HistoryShow();
+  // Removes the selected lines from the log.
+  void DeleteSelected();
+
+ private:
+  void OnLoad() override;
+  void OnUnload() override { release_timer_.Stop(); }
+  void LayOutPanel(const Rect& panel) override;
+  void RefreshContent() override;
+  void PaintPanel(Surface& surface, const Rect& panel) override;
+  void DrawPanelButton(const ButtonPainting& painting) override;
+  void OnControl(int id, int code) override;
+  std::wstring StatusText() const override;
+  std::vector<MenuItem> MenuGroup() const override;
+  bool RunOwnCommand(int id) override;
+  bool OnKey(const MSG& message) override;
+  LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
+
+  void Press(CalculatorKey key);
+  bool OnKeyDown(int virtual_key);
+  void Strike(CalculatorKey key);
+  void ReleaseStruck();
+  void Recall(std::size_t line);
+  void Copy();
+  void PasteNumber();
+  void ClearHistory();
+  void ShowLog(std::size_t visible_line);
+  void PlaceNumber();
+  void PlaceDisplay();
+  void PlaceKeys();
+  void PlaceLog();
+  bool ListHasFocus() const { return ::GetFocus() == lvwFILES_.handle(); }
+  void ScrollDisplay(int units);
+  void OnWheel(Point at, int turn);
+  Colour Toned(Colour colour, int weight) const;
+  Colour WellColour() const;
+
+  CalculatorEngine engine_;
+  CalculationLog log_;
+  bool history_shown_ = true;
+  CalculatorLayout places_;
+  int key_font_height_ = 0;
+  int first_unit_ = 0;    // of the display that is seen
+  int units_beyond_ = 0;  // that have no room beside the others
+  int struck_id_ = 0;     // the button that a key of the keyboard holds down
+  ThemedLabel lbl01234567890_;
+  ThemedLabel lblDISPLAYFUNC_;
+  ThemedLabel lblSUB_;
+  LogList lvwFILES_;
+  Timer release_timer_;
+};
+
+}  // namespace varnel

@@ -1,0 +1,163 @@
+// The part of the calculator's form that places and paints.
+#include <algorithm>
+
+#include "base/image.h"
+#include "base/rounded_box.h"
+#include "resources/control_ids.h"
+#include "theme/contrast.h"
+#include "widgets/calculator/calculator_form.h"
+#include "win/font_measure.h"
+
+namespace varnel {
+namespace {
+
+// Lengths at 96 dpi.
+constexpr int kLeastNumberHeight = 11;
+constexpr int kLeastKeyFont = 9;
+constexpr int kLogFontHeight = 13;
+constexpr int kMostLogFontHeight = 22;
+constexpr int kLogMargin = 4;
+constexpr double kWellRadius = 4;
+
+constexpr double kVisibleFace = 1.1;  // the contrast of a face with the panel
+constexpr double kDarkFace = 0.06;    // the luminance below which nothing darker can be told apart
+
+// How much of a colour is kept by what has to stand out from it a little, plainly, and most.
+constexpr int kSunk = 232;
+constexpr int kOutstanding = 225;
+constexpr int kMostOutstanding = 185;
+
+int FaceWeight(CalculatorKey key) {
+  if (key < CalculatorKey::kAdd) return 255;
+  return key == CalculatorKey::kEquals ? kMostOutstanding : kOutstanding;
+}
+
+}  // namespace
+
+void CalculatorForm::RefreshContent() {
+  lbl01234567890_.SetText(engine_.display());
+  lblDISPLAYFUNC_.SetText(engine_.indicator());
+  PlaceNumber();
+}
+
+// Darker, or lighter where `colour` is nearly black. In high contrast everything keeps its colour.
+Colour CalculatorForm::Toned(Colour colour, int weight) const {
+  if (paint().high_contrast) return colour;
+  const Colour tone = RelativeLuminance(colour) < kDarkFace ? kWhite : kBlack;
+  return Blend(colour, tone, weight, services().colours);
+}
+
+Colour CalculatorForm::WellColour() const {
+  return Toned(chrome().ground, kSunk);
+}
+
+void CalculatorForm::LayOutPanel(const Rect& panel) {
+  places_ = LayOutCalculator({panel.width(), panel.height()}, dpi(), history_shown_);
+  PlaceDisplay();
+  PlaceKeys();
+  PlaceLog();
+}
+
+// The number shrinks until it fits; one that never does is seen from its first digit on, and the
+// wheel scrolls it.
+void CalculatorForm::PlaceNumber() {
+  const std::wstring& text = engine_.display();
+  const FontMeasure measure(theme().strTHEMEPANELFONTNAME, false);
+  const Rect box = Inset(places_.number, 1);
+  const int least = Scaled(kLeastNumberHeight, dpi());
+  const int fitting = FittingHeight(text, {box.width(), box.height()}, box.height(), measure);
+  TextStyle style = PanelTextStyle(std::max(fitting, least));
+  style.ground = WellColour();
+  style.align = Align::kRight;
+  lbl01234567890_.Place(Within(layout().pfrPANEL, box), style);
+  lbl01234567890_.Show(!box.empty());
+
+  const int width = fitting < least ? measure.Measure(text, least).width : 0;
+  const int units = static_cast<int>(text.size());
+  units_beyond_ = width > box.width() ? units - units * box.width() / width : 0;
+  ScrollDisplay(-first_unit_);
+}
+
+void CalculatorForm::ScrollDisplay(int units) {
+  first_unit_ = std::clamp(first_unit_ + units, 0, units_beyond_);
+  lbl01234567890_.ScrollTo(static_cast<std::size_t>(first_unit_));
+}
+
+void CalculatorForm::PlaceDisplay() {
+  PlaceNumber();
+  const auto place = [this](ThemedLabel& label, const Rect& box, Align align, int font_height) {
+    TextStyle style = PanelTextStyle(std::max(1, font_height));
+    style.ground = WellColour();
+    style.align = align;
+    label.Place(Within(layout().pfrPANEL, box), style);
+    label.Show(!box.empty());
+  };
+  const Rect indicator = Inset(places_.indicator, 1);
+  place(lblDISPLAYFUNC_, indicator, Align::kCentre,
+        std::min(indicator.height() * 3 / 5, indicator.width()));
+  const Rect secondary = Inset(places_.secondary, 1);
+  place(lblSUB_, secondary, Align::kRight, secondary.height() * 4 / 5);
+}
+
+void CalculatorForm::PlaceKeys() {
+  const Rect& smallest = places_.KeyPlace(CalculatorKey::kDelete);
+  const FontMeasure measure(theme().strTHEMEPANELFONTNAME, false);
+  key_font_height_ =
+      FittingHeight(KeyFace(CalculatorKey::kDelete), {smallest.width() * 4 / 5, smallest.height()},
+                    std::max(smallest.height() * 3 / 5, Scaled(kLeastKeyFont, dpi())), measure);
+  std::vector<CalculatorKey> keys;
+  for (std::size_t i = 0; i < kCalculatorKeyCount; ++i) {
+    keys.push_back(static_cast<CalculatorKey>(i));
+    buttons().Place(ButtonOf(keys.back()), Within(layout().pfrPANEL, places_.keys[i]));
+  }
+  // Tab goes from key to key as they are read.
+  std::ranges::sort(keys, {}, [this](CalculatorKey key) {
+    return std::pair(places_.KeyPlace(key).top, places_.KeyPlace(key).left);
+  });
+  HWND former = lblSUB_.handle();
+  for (const CalculatorKey key : keys) {
+    const TextButton* button = buttons().Find(ButtonOf(key));
+    if (!button) continue;
+    ::SetWindowPos(button->handle, former, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    former = button->handle;
+  }
+}
+
+void CalculatorForm::PlaceLog() {
+  const Rect place = Inset(Within(layout().pfrPANEL, places_.log), Scaled(kLogMargin, dpi()));
+  const int font_height = std::clamp(place.width() / 18, Scaled(kLogFontHeight, dpi()),
+                                     Scaled(kMostLogFontHeight, dpi()));
+  LogListLook look{PanelTextStyle(font_height)};
+  look.text.ground = WellColour();
+  const ButtonLook chosen = paint().high_contrast ? ButtonLook::kPressed : ButtonLook::kNormal;
+  const Colour face = ButtonColours(paint(), chosen, services().colours).first;
+  look.selected = Toned(face, kMostOutstanding);
+  look.selected_without_focus = Toned(face, kOutstanding);
+  lvwFILES_.Place(places_.log.empty() ? Rect{} : place, look);
+}
+
+void CalculatorForm::PaintPanel(Surface& surface, const Rect& panel) {
+  const double radius = kWellRadius * dpi() / kDefaultDpi;
+  for (const Rect& well : {places_.box, places_.log}) {
+    if (well.empty()) continue;
+    DrawRoundedBox(surface.pixels(), surface.size(), Within(panel, well), radius,
+                   OpaquePixel(WellColour()), OpaquePixel(chrome().border));
+  }
+}
+
+void CalculatorForm::DrawPanelButton(const ButtonPainting& painting) {
+  const auto key = KeyOf(painting.button.id);
+  if (!key) return;
+  ButtonPainting toned = painting;
+  toned.colours.first = Toned(painting.colours.first, FaceWeight(*key));
+  // A face that is lost in the panel gets an outline that is not.
+  if (ContrastRatio(toned.colours.first, chrome().ground) < kVisibleFace) {
+    toned.colours.second = chrome().border;
+  }
+  PaintButtonFace(toned, dpi());
+  TextStyle style = PanelTextStyle(key_font_height_);
+  style.ground = toned.colours.first;
+  PaintText(ui(), painting.surface, painting.bounds, std::wstring(KeyFace(*key)), style);
+}
+
+}  // namespace varnel
