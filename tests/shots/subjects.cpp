@@ -1,0 +1,110 @@
+#include "tests/shots/subjects.h"
+
+#include "resources/control_ids.h"
+#include "tests/rig/controls.h"
+#include "tests/rig/input.h"
+#include "tests/rig/menus.h"
+
+namespace varnel::shots {
+namespace {
+
+using namespace rig;
+
+enum WidgetNumber { kClock, kCalculator, kCalendar, kNotes, kStopwatch, kCountdown };
+
+constexpr wchar_t kStart[] = L"frmVRNpr\\Details";
+constexpr wchar_t kClockDetails[] = L"frmCLKpr\\Details";
+
+const std::vector<StoredText> kClassicClock = {{kClockDetails, L"Style-modern", L"0"}};
+const std::vector<StoredText> kTwelveHourClock = {{kClockDetails, L"Style-24Hour", L"0"}};
+const std::vector<StoredText> kSetCountdown = {
+    {L"frmCDNwg\\Details", L"Timer-Interval-hrs", L"01"},
+    {L"frmCDNwg\\Details", L"Timer-Interval-mins", L"25"}};
+const std::vector<StoredText> kAlarms = {
+    {L"frmCLKas\\Details", L"Alarm Preset Message_0", L"Get up"},
+    {L"frmCLKas\\Details", L"Alarm Preset Time_0", L"06:45:00"},
+    {L"frmCLKas\\Details", L"Alarm Preset Use_0", L"1"},
+    {L"frmCLKas\\Details", L"Alarm Preset Message_1", L"Call the people from the workshop back"},
+    {L"frmCLKas\\Details", L"Alarm Preset Time_1", L"14:30:00"}};
+const std::vector<StoredText> kAllWidgets = {
+    {kStart, L"Start-Load-Clock", L"True"},       {kStart, L"Start-Load-Calc", L"True"},
+    {kStart, L"Start-Load-Calendar", L"True"},    {kStart, L"Start-Load-Notes", L"True"},
+    {kStart, L"Start-Load-Stopwatch", L"True"},   {kStart, L"Start-Load-Timer", L"True"},
+    {kStart, L"Start-Load-Whiteboard", L"True"},  {kStart, L"Start-Load-Weather", L"True"},
+    {kStart, L"Program Minimize on Start", L"0"},
+};
+
+Preparation Command(const wchar_t* name) {
+  return [name](const Program&, HWND form) { Choose(form, name); };
+}
+
+Preparation SharedCommand(const wchar_t* name) {
+  return [name](const Program&, HWND form) {
+    // It is about the widget that was used last.
+    Activate(form);
+    Choose(form, name);
+  };
+}
+
+Preparation Presses(std::initializer_list<int> controls) {
+  return [controls = std::vector<int>(controls)](const Program&, HWND form) {
+    for (const int control : controls) Send(Control(form, control), BM_CLICK);
+  };
+}
+
+void ShowAlarmPopup(const Program& program, HWND clock) {
+  Choose(clock, L"mnuCLOCKALARMSET");
+  if (HWND dialog = WaitForForm(program, L"frmCLKas")) {
+    Send(Control(dialog, cmdAlarmPreview), BM_CLICK);
+  }
+}
+
+void OpenMenu(const Program& program, HWND form) {
+  Activate(form);
+  Click({RectOf(form).left + 60, RectOf(form).top + 10}, MouseButton::kRight);
+  WaitForMenus(program, 1);
+}
+
+void ShowButtonLooks(const Program&, HWND form) {
+  Activate(form);
+  PressKey(VK_TAB);
+  MoveMouse(CentreOf(Control(form, lblNUMBER + 4)));
+}
+
+}  // namespace
+
+const std::vector<std::wstring> kFewPresetNames = {L"Neon\\Cyan", L"Soft\\Pink", L"Light\\White",
+                                                   L"Slate\\Forest"};
+const std::vector<std::wstring> kManyPresetNames = {
+    L"Neon\\Cyan", L"Soft\\Pink", L"Light\\White", L"Slate\\Forest", L"Bright\\Yellow",
+    L"Dark\\Red",  L"Flat\\Gray", L"Frosted\\Sky", L"Glass\\Orange", L"Pale\\Purple"};
+
+const std::vector<Subject>& Subjects() {
+  static const std::vector<Subject> subjects = {
+      {L"desktop", kManager, kPlain, kAllWidgets, {}, Part::kDesktop},
+      {L"manager", kManager, kDpis | kFewPresets},
+      {L"manager-looks", kManager, kPlain, {}, ShowButtonLooks},
+      {L"clock", kClock, kDpis | kManyPresets},
+      {L"clock-classic", kClock, kDpis, kClassicClock},
+      {L"clock-12-hours", kClock, kPlain, kTwelveHourClock},
+      {L"stopwatch", kStopwatch, kDpis | kFewPresets},
+      {L"stopwatch-running", kStopwatch, kPlain, {}, Presses({lblStartfrmSTWwg})},
+      {L"countdown", kCountdown, kDpis | kFewPresets, kSetCountdown},
+      {L"countdown-running", kCountdown, kPlain, kSetCountdown, Presses({lblStart})},
+      {L"options", kManager, kDpis, {}, SharedCommand(L"mnuDCGENSET"), Part::kForm, L"frmVRNpr"},
+      {L"clock-properties", kClock, kDpis, {}, Command(L"mnuCLOCKPROPS"), Part::kForm, L"frmCLKpr"},
+      {L"alarms", kClock, kDpis, kAlarms, Command(L"mnuCLOCKALARMSET"), Part::kForm, L"frmCLKas"},
+      {L"alarm-popup", kClock, kDpis, kAlarms, ShowAlarmPopup, Part::kForm, L"frmCLKam"},
+      {L"theme-dialog",
+       kClock,
+       kDpis,
+       {},
+       SharedCommand(L"mnuDCSETTINGS"),
+       Part::kForm,
+       L"frmTHEME"},
+      {L"menu", kClock, kDpis, {}, OpenMenu, Part::kForm, L"#32768"},
+  };
+  return subjects;
+}
+
+}  // namespace varnel::shots

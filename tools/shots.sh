@@ -1,0 +1,36 @@
+#!/bin/bash
+# Writes pictures of every window into build/shots, and sheets of them into build/shots/sheets.
+# Arguments choose subjects by how their names begin (see tests/shots/subjects.cpp).
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+cmake --preset windows
+cmake --build --preset windows --parallel "$(nproc)" --target shots
+
+shots=$PWD/build/shots
+rm -rf "$shots"
+mkdir -p "$shots/sheets"
+VARNEL_EXE=$PWD/build/windows/WidgetVarnel.exe VARNEL_ARTIFACTS=$shots \
+  tools/with_session.sh wine build/windows/tests/shots/shots.exe "$@"
+
+# Debian's own name first: another program may stand under the plain one.
+imagemagick() { "$(command -v "$1-im6.q16" || command -v "$1")" "${@:2}"; }
+
+# sheet NAME COLUMNS PATTERN puts the pictures whose names match side by side, under their names.
+sheet() {
+  local pictures
+  mapfile -t pictures < <(find "$shots" -maxdepth 1 -name "$3.png" | sort -V)
+  [ ${#pictures[@]} -gt 0 ] || return 0
+  imagemagick montage -label '%t' "${pictures[@]}" -tile "$2x" -geometry '+6+6' \
+    -background '#33566e' -fill white "$shots/sheets/$1.png"
+}
+
+imagemagick mogrify -format png "$shots"/*.bmp
+rm "$shots"/*.bmp
+sheet presets 14 'presets-*'
+for size in 2400x1600 5900x3471 7500x5250; do
+  sheet "widgets-$size" 6 "*-$size"
+  sheet "widgets-$size-150-200" 4 "*-$size-[12][05]0"
+  sheet "widgets-$size-presets" 6 "*-$size-[A-Z]*"
+done
+echo "The pictures are in build/shots"
