@@ -132,6 +132,7 @@
 #define lblFOREICON 1507     // 0 to 2
 #define lblFORETEMP 1510     // 0 to 2
 #define lblATTRIBUTION 1513  // whom the data comes from; opens that web page
+#define lblUPDATED 1514      // the age of the data, and what goes wrong
 
 // frmWTHpr, the weather's properties
 #define lntNOTE1 1520      // the caption around the place

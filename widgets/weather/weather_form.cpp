@@ -34,6 +34,7 @@ WeatherForm::WeatherForm(Services& services, const FormEntry& entry, int index)
       lblTEMPERATURE_(services.ui),
       lblDESC_(services.ui),
       days_{DayLabels(services.ui), DayLabels(services.ui), DayLabels(services.ui)},
+      lblUPDATED_(services.ui),
       tmrWEATHER_(*this, kReadAgainMs,
                   [this] {
                     tmrWEATHER_.Stop();
@@ -55,6 +56,7 @@ void WeatherForm::OnLoad() {
     day.icon.Load(handle(), lblFOREICON + i);
     day.temps.Load(handle(), lblFORETEMP + i);
   }
+  lblUPDATED_.Load(handle(), lblUPDATED);
   buttons().Add(lblATTRIBUTION, L"", 0, false);
   dialog_ = dynamic_cast<WeatherDialog*>(services().program.FindDialog(L"frmWTHpr"));
   if (!dialog_) return;
@@ -103,13 +105,17 @@ void WeatherForm::PlaceLabels(const Rect& panel) {
 void WeatherForm::PlaceStrip() {
   const TextStyle style = StripTextStyle(Painting());
   const FontMeasure measure(style.font.face, false);
-  const Rect& room = layout().status_text;
-  strip_ = ChooseStrip(dialog_->status(), room.width(), Scaled(kStripGap, dpi()), style.font.height,
-                       measure);
-  const int width = measure.Measure(strip_.attribution, style.font.height).width;
-  buttons().SetText(lblATTRIBUTION, strip_.attribution);
-  buttons().Enable(lblATTRIBUTION, !strip_.attribution.empty());
-  buttons().Place(lblATTRIBUTION, {room.right - width, room.top + 1, room.right, room.bottom});
+  Rect room = layout().status_text;
+  room.top += 1;  // below the line that the frame draws
+  const WeatherStrip texts = ChooseStrip(dialog_->status(), room.width(), Scaled(kStripGap, dpi()),
+                                         style.font.height, measure);
+  const int width = measure.Measure(texts.attribution, style.font.height).width;
+  lblUPDATED_.SetText(texts.status);
+  lblUPDATED_.Place({room.left, room.top, room.right - width, room.bottom}, style);
+  lblUPDATED_.Show(true);
+  buttons().SetText(lblATTRIBUTION, texts.attribution);
+  buttons().Enable(lblATTRIBUTION, width > 0);
+  buttons().Place(lblATTRIBUTION, {room.right - width, room.top, room.right, room.bottom});
 }
 
 Colour WeatherForm::CardColour() {
@@ -131,7 +137,6 @@ void WeatherForm::RefreshContent() {
     days_[i].temps.SetText(shown.forecast[i].temps);
   }
   PlaceStrip();
-  RepaintStatus();
 }
 
 void WeatherForm::PaintPanel(Surface& surface, const Rect& panel) {

@@ -33,7 +33,6 @@ class WeatherForm : public WidgetForm {  // frmWTHwg
   void OnControl(int id, int code) override;
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
   bool OnKey(const MSG& message) override;
-  std::wstring StatusText() const override { return strip_.status; }
   std::vector<MenuItem> MenuGroup() const override;
   bool RunOwnCommand(int id) override;
 
@@ -43,12 +42,12 @@ class WeatherForm : public WidgetForm {  // frmWTHwg
 
   WeatherDialog* dialog_ = nullptr;  // frmWTHpr, which keeps the weather
   WeatherLayout places_;
-  WeatherStrip strip_;
   ThemedLabel lblWeatherCountry_;
   ThemedLabel lblWeathersymbol_;
   ThemedLabel lblTEMPERATURE_;
   ThemedLabel lblDESC_;
   std::array<DayLabels, 3> days_;
+  ThemedLabel lblUPDATED_;
   Timer tmrWEATHER_;
   Timer hourly_;
 };
