@@ -32,7 +32,7 @@ class Socket {
     fd_set set;
     FD_ZERO(&set);
     FD_SET(socket_, &set);
-    const timeval patience{0, kPollMs * 1000};
+    timeval patience{0, kPollMs * 1000};
     return ::select(0, &set, nullptr, nullptr, &patience) > 0;
   }
 
