@@ -45,6 +45,9 @@ HWND FindForm(const Program& program, std::wstring_view name) {
 HWND WaitForForm(const Program& program, std::wstring_view name, int deadline) {
   HWND form = nullptr;
   WaitUntil([&] { return (form = ShownForm(program, name)) != nullptr; }, deadline);
+  // Keys that come while the program still starts up would lose the modifiers they were pressed
+  // with.
+  if (form) program.WaitUntilIdle(deadline);
   return form;
 }
 

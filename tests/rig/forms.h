@@ -21,7 +21,8 @@ std::vector<HWND> FindForms(const Program& program, std::wstring_view name);
 // The first of them, or null.
 HWND FindForm(const Program& program, std::wstring_view name);
 
-// Waits until a form of that name is shown, and gives it; null when none comes.
+// Waits until a form of that name is shown by a program that has started up, and gives it; null
+// when none comes.
 HWND WaitForForm(const Program& program, std::wstring_view name, int deadline = kPatience);
 
 // Waits until no form of that name is shown: all are hidden or gone. False when one stays.

@@ -1,5 +1,6 @@
 #include "tests/rig/input.h"
 
+#include <cstdlib>
 #include <iterator>
 #include <utility>
 
@@ -9,17 +10,13 @@ namespace varnel::rig {
 namespace {
 
 // Between two events, as a quick hand needs.
-constexpr DWORD kPace = 10;            // milliseconds
-constexpr UINT kAnswerDeadline = 500;  // milliseconds
+constexpr DWORD kPace = 10;  // milliseconds
 
-// Waits until the window's thread is back at its messages. It answers before it takes an event from
-// its queue, so it takes two answers to know that it went on from the first; a thread that is in
-// the middle of something, or gets no time on a busy machine, holds the hand back.
+// Waits until the window's thread is back at its messages: one that is in the middle of something,
+// or gets no time on a busy machine, holds the hand back. It answers before it takes an event from
+// its queue, so it takes a few answers to know that it went on from the first.
 void LetAnswer(HWND window) {
-  for (int i = 0; i < 2 && window; ++i) {
-    DWORD_PTR result = 0;
-    ::SendMessageTimeoutW(window, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, kAnswerDeadline, &result);
-  }
+  for (int i = 0; i < 3 && window; ++i) Send(window, WM_NULL);
 }
 
 // The next event must not come before this one is worked off: a key is pressed while a modifier is
@@ -44,6 +41,26 @@ void SendMouse(Point at, DWORD flags, DWORD data = 0) {
   event.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | flags;
   event.mi.mouseData = data;
   SendEvent(event, WindowAt(at));
+}
+
+void PressAndRelease(Point at, MouseButton button) {
+  PressMouse(at, button);
+  ReleaseMouse(at, button);
+}
+
+// A click soon after another one at the same place would make the two a double click.
+void LetDoubleClickPass(Point at) {
+  POINT pointer = {};
+  ::GetCursorPos(&pointer);
+  if (std::abs(pointer.x - at.x) > ::GetSystemMetrics(SM_CXDOUBLECLK) ||
+      std::abs(pointer.y - at.y) > ::GetSystemMetrics(SM_CYDOUBLECLK)) {
+    return;
+  }
+  LASTINPUTINFO last = {};
+  last.cbSize = sizeof last;
+  ::GetLastInputInfo(&last);
+  const DWORD since = ::GetTickCount() - last.dwTime;
+  if (since <= ::GetDoubleClickTime()) ::Sleep(::GetDoubleClickTime() - since + kPace);
 }
 
 struct ButtonFlags {
@@ -121,14 +138,14 @@ void TurnWheel(Point at, int notches) {
 }
 
 void Click(Point at, MouseButton button) {
+  LetDoubleClickPass(at);
   MoveMouse(at);
-  PressMouse(at, button);
-  ReleaseMouse(at, button);
+  PressAndRelease(at, button);
 }
 
 void DoubleClick(Point at, MouseButton button) {
   Click(at, button);
-  Click(at, button);
+  PressAndRelease(at, button);
 }
 
 void Drag(Point from, Point to, int steps) {

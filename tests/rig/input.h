@@ -19,6 +19,8 @@ void PressMouse(Point at, MouseButton button = MouseButton::kLeft);
 void ReleaseMouse(Point at, MouseButton button = MouseButton::kLeft);
 void TurnWheel(Point at, int notches);  // away from the user when positive
 
+// Two clicks at one place are two clicks: the second waits until it cannot be taken for a double
+// one.
 void Click(Point at, MouseButton button = MouseButton::kLeft);
 void DoubleClick(Point at, MouseButton button = MouseButton::kLeft);
 // Presses the left button, moves in `steps` equal steps, releases it.

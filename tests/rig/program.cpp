@@ -46,6 +46,10 @@ bool Program::running() const {
   return process_ && !exit_code();
 }
 
+bool Program::WaitUntilIdle(int deadline) const {
+  return ::WaitForInputIdle(process_.get(), static_cast<DWORD>(deadline)) == 0;
+}
+
 std::optional<DWORD> Program::WaitForExit(int deadline) const {
   DWORD code = 0;
   if (!process_ ||

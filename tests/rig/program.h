@@ -34,6 +34,9 @@ class Program {
   DWORD id() const { return id_; }
   bool running() const;
 
+  // Waits until the program has started up and sits waiting for messages. False when it does not.
+  bool WaitUntilIdle(int deadline = kPatience) const;
+
   // The exit code, or nothing when the process is still there at the deadline (milliseconds).
   std::optional<DWORD> WaitForExit(int deadline = kPatience) const;
   // The exit code of a process that has ended.

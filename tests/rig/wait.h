@@ -7,7 +7,7 @@
 namespace varnel::rig {
 
 // How long a state may take to come about before a scene gives it up, in milliseconds.
-inline constexpr int kPatience = 10'000;
+inline constexpr int kPatience = 20'000;
 
 // Asks `reached` every 10 ms until it is true or `deadline` (milliseconds from now) has passed.
 // Asks at least once, and gives the last answer.
