@@ -37,7 +37,11 @@ class LiveForm {
 class FormRegistry {
  public:
   void Add(std::wstring_view name, LiveForm& form) { forms_[std::wstring(name)] = &form; }
-  void Remove(std::wstring_view name) { forms_.erase(std::wstring(name)); }
+  // Without effect when the name belongs to another form: one that was unloaded may go only after
+  // its widget was opened again.
+  void Remove(std::wstring_view name, const LiveForm& form) {
+    if (Find(name) == &form) forms_.erase(std::wstring(name));
+  }
   // The loaded form of that name, or null.
   LiveForm* Find(std::wstring_view name) const {
     const auto found = forms_.find(std::wstring(name));

@@ -34,7 +34,7 @@ WidgetForm::WidgetForm(Services& services, const FormEntry& entry, int index)
       tmrPANBTNS_(*this, kHoverTickMs, [this] { HoverTick(tmrPANBTNS_); }) {}
 
 WidgetForm::~WidgetForm() {
-  services_.forms.Remove(entry_.form_name);
+  services_.forms.Remove(entry_.form_name, *this);
 }
 
 bool WidgetForm::Load() {
@@ -69,7 +69,7 @@ void WidgetForm::Unload() {
   if (!handle()) return;
   SaveState();
   OnUnload();
-  services_.forms.Remove(entry_.form_name);
+  services_.forms.Remove(entry_.form_name, *this);
   Destroy();
 }
 
