@@ -4,11 +4,7 @@
 
 #include <algorithm>
 #include <iterator>
-#include <utility>
 
-#include "base/number_text.h"
-#include "base/text.h"
-#include "core/core_settings.h"
 #include "core/place_beside.h"
 #include "core/theme_preview_win.h"
 #include "resources/control_ids.h"
@@ -17,7 +13,6 @@
 #include "win/common_controls.h"
 #include "win/installed_fonts.h"
 #include "win/monitors.h"
-#include "win/shell.h"
 
 namespace varnel {
 namespace {
@@ -27,7 +22,9 @@ constexpr int kLongestName = 100;
 constexpr int kTabLine = 2;
 
 constexpr const wchar_t* kPages[] = {L"Main Theme", L"Top Bar / Bottom Bar", L"Large Panel"};
-constexpr int kFirstOfPage[] = {1410, 1440, 1460, 1480};  // control numbers; the last ends the last
+constexpr int kAfterPages = 1480;
+// The controls of a page are numbered in one go.
+constexpr int kFirstOfPage[] = {lstFOLDERS, cboBAR, cboPANEL, kAfterPages};
 
 struct Slider {
   int control;
@@ -93,14 +90,19 @@ void ThemeDialog::OnOpen() {
   TakeTarget();
 }
 
+std::wstring ThemeDialog::CurrentTarget() const {
+  const std::wstring form(services_.program.CurrentWidget());
+  return services_.forms.Find(form) ? form : std::wstring(kManagerForm.form_name);
+}
+
 void ThemeDialog::OnReopen() {
-  if (editor_.target() == services_.program.CurrentWidget()) return;
+  if (editor_.target() == CurrentTarget()) return;
   ReturnTarget();
   TakeTarget();
 }
 
 void ThemeDialog::TakeTarget() {
-  const std::wstring form(services_.program.CurrentWidget());
+  const std::wstring form = CurrentTarget();
   LiveForm* live = services_.forms.Find(form);
   editor_.Open(form, live ? live->theme() : ThemeRecord());
   ::SetWindowTextW(handle(), std::wstring(editor_.caption()).c_str());
@@ -237,6 +239,11 @@ void ThemeDialog::EnableButtons() {
   const bool changed = editor_.changed();
   ::ShowWindow(Control(cmdOKfrmTHEME), changed ? SW_HIDE : SW_SHOWNA);
   ::ShowWindow(Control(btnCLOSEDLG), changed ? SW_SHOWNA : SW_HIDE);
+  // Keys would go nowhere from a control that has just become useless.
+  HWND focus = ::GetFocus();
+  if (::IsChild(handle(), focus) && (!::IsWindowVisible(focus) || !::IsWindowEnabled(focus))) {
+    ::SendMessageW(handle(), WM_NEXTDLGCTL, 0, FALSE);
+  }
 }
 
 void ThemeDialog::OnCommand(int id, int code) {
@@ -332,79 +339,6 @@ void ThemeDialog::Draw(const DRAWITEMSTRUCT& item) {
     if (static_cast<int>(item.CtlID) != colour.swatch) continue;
     PaintSwatch(item.hDC, box, theme.*colour.member, dpi, services_.colours);
   }
-}
-
-void ThemeDialog::SelectFolder() {
-  const LRESULT place = ::SendMessageW(Control(lstFOLDERS), LB_GETCURSEL, 0, 0);
-  if (place < 0 || place >= static_cast<LRESULT>(kStyleFolders.size())) return;
-  editor_.SelectFolder(kStyleFolders[place]);
-  FillPresets();
-  EnableButtons();
-}
-
-void ThemeDialog::FillPresets() {
-  filling_ = true;
-  presets_.Fill(editor_.Presets());
-  filling_ = false;
-  ::SendMessageW(Control(flbLIST), LB_RESETCONTENT, 0, 0);
-  for (const PresetSwatch& preset : presets_.presets()) {
-    const std::wstring file = preset.name + std::wstring(kPresetEnding);
-    ::SendMessageW(Control(flbLIST), LB_ADDSTRING, 0, TextParameter(file));
-  }
-}
-
-void ThemeDialog::SelectPreset(int place) {
-  const std::wstring name = presets_.presets()[place].name;
-  ::SendMessageW(Control(flbLIST), LB_SETCURSEL, place, 0);
-  SetControlText(txtPRESETNEW, name);
-  editor_.SelectPreset(name);
-  Changed();
-}
-
-void ThemeDialog::OnNameBox(int code) {
-  if (code == EN_CHANGE) EnableButtons();
-  // Enter in the box makes the preset that is named in it.
-  if (code == EN_SETFOCUS) ::SendMessageW(handle(), DM_SETDEFID, btnNEW, 0);
-  if (code == EN_KILLFOCUS) ::SendMessageW(handle(), DM_SETDEFID, btnAPPLY, 0);
-}
-
-void ThemeDialog::NewPreset() {
-  const std::wstring name = ControlText(txtPRESETNEW);
-  const std::wstring title(kApplicationTitle);
-  switch (editor_.NewPreset(name)) {
-    case PresetSaved::kNoName:
-      ShowInformation(handle(), L"Please make sure you type it in correctly.",
-                      L"You Have not Entered a File Name");
-      break;
-    case PresetSaved::kBadName:
-      ShowInformation(handle(), L"A preset cannot have that name.", title);
-      break;
-    case PresetSaved::kFailed:
-      ShowInformation(handle(), L"The preset could not be saved.", title);
-      break;
-    case PresetSaved::kSaved:
-      FillPresets();
-      filling_ = true;
-      presets_.Choose(presets_.Find(Trim(name)));
-      filling_ = false;
-      EnableButtons();
-      break;
-  }
-}
-
-void ThemeDialog::DeletePreset() {
-  editor_.RemovePreset(ControlText(txtPRESETNEW));
-  FillPresets();
-  EnableButtons();
-}
-
-void ThemeDialog::DeleteAllPresets() {
-  const std::wstring question = L"Delete all " + NumberText(std::ssize(presets_.presets())) +
-                                L" presets of the style \"" + editor_.folder() + L"\"?";
-  if (!AskYesNo(handle(), question, L"Delete all presets") || !handle()) return;
-  editor_.RemoveAllPresets();
-  FillPresets();
-  EnableButtons();
 }
 
 void ThemeDialog::OnSlider(HWND slider) {

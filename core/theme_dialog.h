@@ -22,7 +22,9 @@ class ThemeDialog : public Dialog {  // frmTHEME
   LRESULT OnNotify(const NMHDR& notice);
   void Draw(const DRAWITEMSTRUCT& item);
 
-  // Takes up the current widget; the dialog goes beside it.
+  // The widget whose menu was opened last, or the manager when that is not loaded any more.
+  std::wstring CurrentTarget() const;
+  // Takes it up; the dialog goes beside it.
   void TakeTarget();
   // Gives the target the theme that is kept.
   void ReturnTarget();
