@@ -232,19 +232,9 @@ TEST_F(ThemeDialogScene, AGlyphTellsItsWordWhenTheMouseRests) {
   EXPECT_EQ(Text(tip), L"Menu");
 }
 
-// Answers every question with no and closes every dialog.
-void DismissAll(const Program& program) {
-  static constexpr const wchar_t* kDialogs[] = {L"frmVRNpr", L"frmTHEME", L"frmCLKpr", L"frmCLKas"};
-  while (HWND message = FindDialog(program)) {
-    for (const int answer : {IDNO, IDCANCEL, IDOK}) PressButton(message, answer);
-    WaitUntil([&] { return !::IsWindow(message) || !IsShown(message); });
-  }
-  for (const wchar_t* name : kDialogs) {
-    if (HWND dialog = FindForm(program, name)) Send(dialog, WM_CLOSE);
-  }
-}
-
-TEST_F(ThemeDialogScene, EveryMenuItemCanBeChosen) {
+// Every command of the shared menu but the one that ends the program; those that open or close a
+// widget stand twice.
+std::vector<int> SharedCommands() {
   SharedMenuState all;
   all.available.fill(true);
   all.sizable = all.has_widget = all.theme_dialog = true;
@@ -258,33 +248,72 @@ TEST_F(ThemeDialogScene, EveryMenuItemCanBeChosen) {
         }
       };
   gather(BuildSharedMenu(all));
-  for (const wchar_t* name : {L"mnuCLOCKPROPS", L"mnuCLOCKALARMSET", L"mnuCLOCKTOP"}) {
-    ids.push_back(CommandId(name));
-  }
   std::erase(ids, CommandId(L"mnuDCEXIT"));
-  const auto answers = [&](int id) {
-    return id == CommandId(L"mnuDCHELP") || id == CommandId(L"mnuDCUPDATES");
-  };
-  for (const int id : ids) {
-    HWND form = WaitForForm(program(), L"frmCLKwg");
-    ASSERT_TRUE(form) << "before command " << id;
+  return ids;
+}
+
+// Answers every question with no and closes every dialog.
+void DismissAll(const Program& program) {
+  while (HWND message = FindDialog(program)) {
+    for (const int answer : {IDNO, IDCANCEL, IDOK}) PressButton(message, answer);
+    WaitUntil([&] { return !::IsWindow(message) || !IsShown(message); });
+  }
+  for (const wchar_t* name : {L"frmVRNpr", L"frmTHEME", L"frmCLKpr", L"frmCLKas", L"frmWTHpr"}) {
+    if (HWND dialog = FindForm(program, name)) Send(dialog, WM_CLOSE);
+  }
+}
+
+// Chooses a command, waits until it has been carried out, and closes what it opened.
+void RunCommand(const Program& program, HWND form, int id) {
+  const auto is = [id](const wchar_t* name) { return id == CommandId(name); };
+  if (is(L"mnuDCHELP") || is(L"mnuCALCCLEARHISTORY")) {  // these ask and wait
     ::PostMessageW(form, WM_COMMAND, static_cast<WPARAM>(id), 0);
+    EXPECT_TRUE(WaitForDialog(program)) << "command " << id;
+  } else {
+    Send(form, WM_COMMAND, static_cast<WPARAM>(id));
+  }
+  if (is(L"mnuDCUPDATES")) {
+    EXPECT_TRUE(WaitForDialog(program));
+  }
+  DismissAll(program);
+  EXPECT_TRUE(program.running()) << "after command " << id;
+}
+
+TEST_F(ThemeDialogScene, EverySharedMenuItemCanBeChosen) {
+  for (const int id : SharedCommands()) {
+    RunCommand(program(), clock_, id);
     if (id == CommandId(L"mnuDCHIDEALL")) {
-      ASSERT_TRUE(WaitForNoForm(program(), L"frmCLKwg"));
+      EXPECT_FALSE(IsShown(clock_));
       ASSERT_TRUE(ChooseShared(program(), L"mnuDCSHOWALL"));
     }
     if (id == ArrayCommandId(L"mnuDCWIDGETS", 0)) {
-      ASSERT_TRUE(WaitForNoForm(program(), L"frmCLKwg"));
+      EXPECT_FALSE(::IsWindow(clock_));
       ASSERT_TRUE(ChooseShared(program(), L"mnuDCWIDGETS", 0));
     }
-    if (answers(id)) {
-      EXPECT_TRUE(WaitForDialog(program())) << "command " << id;
-    }
-    Send(FindForm(program(), L"frmVRNwg"), WM_NULL);
-    DismissAll(program());
-    ASSERT_TRUE(program().running()) << "after command " << id;
+    clock_ = WaitForForm(program(), L"frmCLKwg");
+    ASSERT_TRUE(clock_) << "after command " << id;
   }
-  EXPECT_TRUE(WaitForForm(program(), L"frmSTWwg"));
+}
+
+TEST_F(ThemeDialogScene, EveryWidgetsOwnMenuItemsCanBeChosen) {
+  const struct {
+    int index;
+    const wchar_t* form;
+    std::vector<const wchar_t*> commands;
+  } widgets[] = {
+      {0, L"frmCLKwg", {L"mnuCLOCKPROPS", L"mnuCLOCKALARMSET", L"mnuCLOCKTOP"}},
+      {1,
+       L"frmCLCwg",
+       {L"mnuCALCSHOWHIST", L"mnuCALCDELETESELECTED", L"mnuCALCCLEARHISTORY", L"mnuCALCTOP"}},
+      {7, L"frmWTHwg", {L"mnuWEATHERPROPS", L"mnuWEATHERREFRESH", L"mnuWEATHERTOP"}}};
+  for (const auto& widget : widgets) {
+    if (!FindForm(program(), widget.form)) ChooseShared(program(), L"mnuDCWIDGETS", widget.index);
+    HWND form = WaitForForm(program(), widget.form);
+    ASSERT_TRUE(form);
+    EXPECT_FALSE(IsTopmost(form));
+    for (const wchar_t* command : widget.commands) RunCommand(program(), form, CommandId(command));
+    EXPECT_TRUE(IsTopmost(form));
+  }
 }
 
 }  // namespace
