@@ -108,5 +108,5 @@ SUBJECTS = (
         settings={r"frmCDNwg\Details": {"Timer-Interval-hrs": "10"}},
         presses=(("frmSTWwg", "lblStartfrmSTWwg"), ("frmCDNwg", "lblStart")),
     ),
-    Subject("all widgets", windows=4, widgets=ALL_WIDGETS),
+    Subject("all widgets", windows=6, widgets=ALL_WIDGETS),
 )

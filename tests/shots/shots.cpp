@@ -17,11 +17,13 @@
 #include "theme/preset_generator.h"
 #include "theme/system_colours_win.h"
 #include "theme/theme_store.h"
+#include "widgets/weather/weather_settings.h"
 #include "win/disk_files.h"
 
 namespace varnel::shots {
 namespace {
 
+constexpr wchar_t kNowhere[] = L"http://127.0.0.1:9/";
 constexpr Point kCorner = {20, 20};
 constexpr Size kSizes[] = {kFixedSizes[2], {5900, 3471}, kFixedSizes[0]};  // twips
 constexpr Size kPresetSize = {3600, 2400};
@@ -67,6 +69,18 @@ class ScreenDpi {
   rig::Registry desktop_;
 };
 
+// The window as it has come to rest, as far as it lies on the screen.
+rig::Picture PictureAtRest(HWND window) {
+  // What it was told to do is done, and painted, once it answers.
+  rig::Send(window, WM_NULL);
+  ::RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+  rig::StillPictureOf(window);
+  const Rect whole = rig::RectOf(window);
+  return rig::Picture({std::max(whole.left, 0), std::max(whole.top, 0),
+                       std::min(whole.right, ::GetSystemMetrics(SM_CXSCREEN)),
+                       std::min(whole.bottom, ::GetSystemMetrics(SM_CYSCREEN))});
+}
+
 class Studio {
  public:
   explicit Studio(std::wstring folder) : folder_(std::move(folder)) {
@@ -94,7 +108,7 @@ class Studio {
         const Look look{kDefaultDpi, std::wstring(style) + L"\\" + name};
         if (HWND form = Start(clock, look)) {
           Resize(form, kPresetSize, look.dpi);
-          Save(rig::StillPictureOf(form), L"presets" + Suffix(look));
+          Save(PictureAtRest(form), L"presets" + Suffix(look));
         }
         program_.Kill();
       }
@@ -106,8 +120,10 @@ class Studio {
   HWND Start(const Subject& subject, const Look& look) {
     const rig::Registry& settings = root_.settings();
     settings.RemoveAll();
-    settings.SetText(std::wstring(kWebAddress.section), std::wstring(kWebAddress.name),
-                     L"http://127.0.0.1:9/");
+    // Nothing listens there, so nothing is asked outside this machine.
+    settings.SetText(std::wstring(kWebAddress.section), std::wstring(kWebAddress.name), kNowhere);
+    settings.SetText(std::wstring(kLiveWeatherAddress.section),
+                     std::wstring(kLiveWeatherAddress.name), kNowhere);
     const FormEntry* form = &kManagerForm;
     if (const WidgetEntry* widget = WidgetAt(subject.widget)) {
       form = widget;
@@ -143,12 +159,13 @@ class Studio {
       TakeSizes(subject, look, form);
       return;
     }
+    rig::Activate(form);
     if (subject.prepare) subject.prepare(program_, form);
     if (subject.part == Part::kDesktop) {
-      rig::StillPictureOf(form);
+      PictureAtRest(form);
       Save(rig::PictureOfScreen(), subject.name + Suffix(look));
     } else if (HWND shown = rig::WaitForForm(program_, subject.form)) {
-      Save(rig::StillPictureOf(shown), subject.name + Suffix(look));
+      Save(PictureAtRest(shown), subject.name + Suffix(look));
     } else {
       Complain(subject.name + L": no window " + subject.form);
     }
@@ -160,8 +177,8 @@ class Studio {
       Resize(form, size, look.dpi);
       // Once it has a size at which everything can be reached.
       if (&size == kSizes && subject.prepare) subject.prepare(program_, form);
-      Save(rig::StillPictureOf(form), subject.name + L"-" + std::to_wstring(size.width) + L"x" +
-                                          std::to_wstring(size.height) + Suffix(look));
+      Save(PictureAtRest(form), subject.name + L"-" + std::to_wstring(size.width) + L"x" +
+                                    std::to_wstring(size.height) + Suffix(look));
     }
   }
 

@@ -1,5 +1,6 @@
 #include "tests/shots/subjects.h"
 
+#include "base/number_text.h"
 #include "resources/control_ids.h"
 #include "tests/rig/controls.h"
 #include "tests/rig/input.h"
@@ -38,29 +39,29 @@ Preparation Command(const wchar_t* name) {
   return [name](const Program&, HWND form) { Choose(form, name); };
 }
 
-Preparation SharedCommand(const wchar_t* name) {
-  return [name](const Program&, HWND form) {
-    // It is about the widget that was used last.
-    Activate(form);
-    Choose(form, name);
-  };
-}
-
 Preparation Presses(std::initializer_list<int> controls) {
   return [controls = std::vector<int>(controls)](const Program&, HWND form) {
     for (const int control : controls) Send(Control(form, control), BM_CLICK);
   };
 }
 
-void ShowAlarmPopup(const Program& program, HWND clock) {
+// The local time in a few seconds, as an alarm has it.
+std::wstring SoonText() {
+  SYSTEMTIME now;
+  ::GetLocalTime(&now);
+  const int soon = (now.wHour * 3600 + now.wMinute * 60 + now.wSecond + 3) % 86400;
+  return PaddedNumber(soon / 3600, 2) + L":" + PaddedNumber(soon / 60 % 60, 2) + L":" +
+         PaddedNumber(soon % 60, 2);
+}
+
+void LetAlarmRing(const Program& program, HWND clock) {
   Choose(clock, L"mnuCLOCKALARMSET");
-  if (HWND dialog = WaitForForm(program, L"frmCLKas")) {
-    Send(Control(dialog, cmdAlarmPreview), BM_CLICK);
-  }
+  HWND dialog = WaitForForm(program, L"frmCLKas");
+  SetText(Control(dialog, cboTIME), SoonText());
+  Send(Control(dialog, cmdOKfrmCLKas), BM_CLICK);
 }
 
 void OpenMenu(const Program& program, HWND form) {
-  Activate(form);
   Click({RectOf(form).left + 60, RectOf(form).top + 10}, MouseButton::kRight);
   WaitForMenus(program, 1);
 }
@@ -91,17 +92,11 @@ const std::vector<Subject>& Subjects() {
       {L"stopwatch-running", kStopwatch, kPlain, {}, Presses({lblStartfrmSTWwg})},
       {L"countdown", kCountdown, kDpis | kFewPresets, kSetCountdown},
       {L"countdown-running", kCountdown, kPlain, kSetCountdown, Presses({lblStart})},
-      {L"options", kManager, kDpis, {}, SharedCommand(L"mnuDCGENSET"), Part::kForm, L"frmVRNpr"},
+      {L"options", kManager, kDpis, {}, Command(L"mnuDCGENSET"), Part::kForm, L"frmVRNpr"},
       {L"clock-properties", kClock, kDpis, {}, Command(L"mnuCLOCKPROPS"), Part::kForm, L"frmCLKpr"},
       {L"alarms", kClock, kDpis, kAlarms, Command(L"mnuCLOCKALARMSET"), Part::kForm, L"frmCLKas"},
-      {L"alarm-popup", kClock, kDpis, kAlarms, ShowAlarmPopup, Part::kForm, L"frmCLKam"},
-      {L"theme-dialog",
-       kClock,
-       kDpis,
-       {},
-       SharedCommand(L"mnuDCSETTINGS"),
-       Part::kForm,
-       L"frmTHEME"},
+      {L"alarm-popup", kClock, kDpis, kAlarms, LetAlarmRing, Part::kForm, L"frmCLKam"},
+      {L"theme-dialog", kClock, kDpis, {}, Command(L"mnuDCSETTINGS"), Part::kForm, L"frmTHEME"},
       {L"menu", kClock, kDpis, {}, OpenMenu, Part::kForm, L"#32768"},
   };
   return subjects;
