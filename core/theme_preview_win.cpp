@@ -16,7 +16,8 @@ constexpr int kSampleHeight = 40;
 
 void PaintSampleWidget(Ui& ui, Surface& surface, const WidgetPaint& paint, const FormEntry& entry,
                        int dpi) {
-  const FrameLayout layout = LayOutFrame(surface.size(), dpi);
+  FrameLayout layout = LayOutFrame(surface.size(), dpi);
+  layout.title_text.right = layout.pfrBAR.right - Scaled(kMargin, dpi);  // there are no buttons
   PaintFrame(ui, surface,
              {layout, paint.chrome, paint.theme, std::wstring(entry.title), entry.glyph,
               L"Bottom bar", dpi});
