@@ -31,8 +31,8 @@ std::wstring ReadFolder(const Settings& settings, const FolderSetting& setting,
                         std::wstring_view program_folder) {
   while (program_folder.ends_with(L'\\')) program_folder.remove_suffix(1);
   const std::wstring fallback = std::wstring(program_folder) + std::wstring(setting.below_program);
-  std::wstring stored = settings.Read(setting.section, setting.name, fallback);
-  return AddTrailingSeparator(IsAbsolutePath(stored) ? std::move(stored) : fallback);
+  const std::wstring stored = settings.Read(setting.section, setting.name, fallback);
+  return AddTrailingSeparator(IsAbsolutePath(stored) ? stored : fallback);
 }
 
 DataFolders PrepareDataFolders(const Settings& settings, FileStore& files,
