@@ -30,6 +30,25 @@ Rect Inset(const Rect& rect, int amount) {
   return {rect.left + across, rect.top + down, rect.right - across, rect.bottom - down};
 }
 
+Rect Grown(const Rect& rect, int amount, std::span<const Rect> others) {
+  Rect grown = Inset(rect, -amount);
+  for (const Rect& other : others) {
+    const bool beside = other.top < grown.bottom && other.bottom > grown.top;
+    const bool in_line = other.left < grown.right && other.right > grown.left;
+    if (!beside || !in_line) continue;
+    if (other.top >= rect.bottom) {
+      grown.bottom = other.top;
+    } else if (other.bottom <= rect.top) {
+      grown.top = other.bottom;
+    } else if (other.left >= rect.right) {
+      grown.right = other.left;
+    } else if (other.right <= rect.left) {
+      grown.left = other.right;
+    }
+  }
+  return grown;
+}
+
 Rect Within(const Rect& frame, const Rect& rect) {
   return {frame.left + rect.left, frame.top + rect.top, frame.left + rect.right,
           frame.top + rect.bottom};

@@ -2,6 +2,8 @@
 // the edge; a function says which it takes, or works for both.
 #pragma once
 
+#include <span>
+
 namespace varnel {
 
 struct Point {
@@ -36,6 +38,10 @@ Rect RectAt(Point corner, Size size);
 // `rect` made smaller by `amount` on every side, but never turned inside out; larger when it is
 // negative.
 Rect Inset(const Rect& rect, int amount);
+
+// `rect` made larger by `amount` on every side, but less where it would reach into one of `others`.
+// Those that overlap `rect` itself, as it does, count for nothing.
+Rect Grown(const Rect& rect, int amount, std::span<const Rect> others);
 
 // `rect`, measured from the corner of `frame`, measured from where `frame` itself is.
 Rect Within(const Rect& frame, const Rect& rect);

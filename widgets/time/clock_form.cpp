@@ -58,8 +58,10 @@ void ClockForm::LayOutPanel(const Rect& panel) {
 void ClockForm::PlaceLabels() {
   const Rect& panel = layout().pfrPANEL;
   const int room = HaloRoom(dpi());
+  const Rect boxes[] = {labels_.time.box, labels_.seconds.box, labels_.marker.box,
+                        labels_.date.box};
   const auto place = [&](ThemedLabel& label, const LabelPlace& place) {
-    label.Place(Inset(Within(panel, place.box), -room), PanelTextStyle(place.font_height));
+    label.Place(Within(panel, Grown(place.box, room, boxes)), PanelTextStyle(place.font_height));
     label.Show(place.shown());
   };
   place(lblPANECLOCK_, labels_.time);

@@ -11,7 +11,9 @@ constexpr int kLeastButton = 24;  // at 96 dpi, like the other lengths
 constexpr int kMostButton = 64;
 constexpr int kMostButtonWidth = 190;
 constexpr int kLowPanel = 90;
-constexpr int kIntervalRow = 24;
+constexpr int kLeastInterval = 12;
+constexpr int kMostInterval = 28;
+constexpr int kIntervalEms = 15;  // the width of the interval's row
 constexpr int kLeastDisplay = 36;
 
 int MarginFor(Size panel, int dpi) {
@@ -42,14 +44,12 @@ Rect CentredIn(const Rect& room, int left, Size size) {
 }
 
 // The interval's row: a word, then a field and its unit three times.
-void LayOutInterval(CountdownLayout& layout, Size panel, int dpi, int bottom) {
-  const int height = Scaled(kIntervalRow, dpi);
-  const int font = Scaled(12, dpi);
+void LayOutInterval(CountdownLayout& layout, Size panel, int font, int bottom) {
+  const int height = 2 * font;
   const int label = font * 3;
   const int field = font * 5 / 2;
   const int unit = font * 3 / 2;
-  const int width = label + 3 * (field + unit);
-  int left = (panel.width - width) / 2;
+  int left = (panel.width - kIntervalEms * font) / 2;
   const Rect row{0, bottom - height, panel.width, bottom};
   layout.interval_font_height = font;
   layout.interval_label = CentredIn(row, left, {label, height});
@@ -82,10 +82,12 @@ CountdownLayout LayOutCountdown(Size panel, int dpi, std::wstring_view digits,
   const int margin = MarginFor(panel, dpi);
   layout.buttons = ButtonRow(panel, dpi, margin);
   int bottom = layout.buttons.start.top;
-  const int row_height = Scaled(kIntervalRow, dpi) + margin;
+  const int interval =
+      std::clamp(panel.height / 16, Scaled(kLeastInterval, dpi), Scaled(kMostInterval, dpi));
+  const int row_height = 2 * interval + margin;
   if (bottom >= Scaled(kLeastDisplay, dpi) + row_height + margin &&
-      panel.width >= Scaled(210, dpi)) {
-    LayOutInterval(layout, panel, dpi, bottom - margin);
+      panel.width >= kIntervalEms * interval + 2 * margin) {
+    LayOutInterval(layout, panel, interval, bottom - margin);
     bottom -= row_height;
   }
   const Rect room = RoomAbove(panel, bottom, margin);
