@@ -1,13 +1,17 @@
 // The time widgets, worked by mouse and keys.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "base/number_text.h"
 #include "resources/control_ids.h"
 #include "tests/rig/controls.h"
 #include "tests/rig/dialogs.h"
+#include "tests/rig/files.h"
 #include "tests/rig/input.h"
 #include "tests/rig/menus.h"
 #include "tests/rig/scene.h"
+#include "win/disk_files.h"
 
 namespace varnel {
 namespace {
@@ -102,6 +106,72 @@ TEST_F(Time, AlarmRingsWithItsMessageWhileTheClockIsClosed) {
   ASSERT_TRUE(ClickOn(Control(popup, imgBUTCLOSE)));
   EXPECT_TRUE(WaitForNoForm(program(), L"frmCLKam"));
   EXPECT_EQ(root().settings().Text(L"frmCLKas\\Details", L"Alarm Preset Use_4"), L"1");
+}
+
+// The recordings of the session, one for each sound played.
+std::vector<std::wstring> Recordings() {
+  const std::wstring path = PathFromEnvironment(L"VARNEL_SOUND_FILE");
+  const std::size_t cut = path.rfind(L'\\');
+  std::vector<std::wstring> found;
+  for (const std::wstring& name : DiskFiles().FileNames(path.substr(0, cut), L"")) {
+    if (name.starts_with(path.substr(cut + 1))) found.push_back(path.substr(0, cut + 1) + name);
+  }
+  return found;
+}
+
+// The bytes of the recording that was made after `before`; empty when none is.
+std::string NewRecording(const std::vector<std::wstring>& before) {
+  std::string bytes;
+  WaitUntil([&] {
+    for (const std::wstring& path : Recordings()) {
+      if (std::ranges::find(before, path) != before.end()) continue;
+      bytes = FileBytes(path).value_or("");
+    }
+    return bytes.size() > 1000;
+  });
+  return bytes;
+}
+
+// A wave of a tenth of a second: a square tone, 8,000 samples of 16 bits a second.
+std::string SquareWave() {
+  const auto number = [](unsigned value, int size) {
+    std::string bytes;
+    for (int i = 0; i < size; ++i) bytes.push_back(static_cast<char>(value >> 8 * i));
+    return bytes;
+  };
+  std::string samples;
+  for (int i = 0; i < 800; ++i) samples += number(i / 10 % 2 == 0 ? 12345 : 65536 - 12345, 2);
+  return "RIFF" + number(36 + 1600, 4) + "WAVEfmt " + number(16, 4) + number(1, 2) + number(1, 2) +
+         number(8000, 4) + number(16000, 4) + number(2, 2) + number(16, 2) + "data" +
+         number(1600, 4) + samples;
+}
+
+TEST_F(Time, BellAndWaveFileAreHeard) {
+  ASSERT_FALSE(PathFromEnvironment(L"VARNEL_SOUND_FILE").empty()) << "nothing records the sound";
+  HWND clock = StartWith(L"Start-Load-Clock", L"frmCLKwg");
+  Choose(clock, L"mnuCLOCKPROPS");
+  HWND dialog = WaitForForm(program(), L"frmCLKpr");
+  ASSERT_TRUE(dialog);
+  auto before = Recordings();
+  ASSERT_TRUE(ClickOn(Control(dialog, cmdTest)));
+  const std::string bell = NewRecording(before);
+  EXPECT_GT(bell.size(), 30'000u) << "0.8 seconds of bell";
+  EXPECT_GT(std::ranges::count_if(bell, [](char byte) { return byte != 0; }), 10'000);
+
+  const std::wstring path = root().folder() + L"\\tone of mine.WAV";
+  ASSERT_TRUE(WriteBytes(path, SquareWave()));
+  ASSERT_TRUE(ClickOn(Control(dialog, optAUDIOFILE)));
+  SetText(Control(dialog, txtAUDIO), path);
+  before = Recordings();
+  ASSERT_TRUE(ClickOn(Control(dialog, cmdTest)));
+  EXPECT_NE(NewRecording(before).find(std::string("\x39\x30\x39\x30", 4)), std::string::npos);
+  // A file that is not there, and a path of 300 characters: silence, and nothing breaks.
+  SetText(Control(dialog, txtAUDIO), root().folder() + L"\\gone.mp3");
+  ASSERT_TRUE(ClickOn(Control(dialog, cmdTest)));
+  SetText(Control(dialog, txtAUDIO), L"C:\\" + std::wstring(300, L'x') + L".wav");
+  ASSERT_TRUE(ClickOn(Control(dialog, cmdTest)));
+  ASSERT_TRUE(ClickOn(Control(dialog, IDCANCEL)));
+  EXPECT_TRUE(WaitForNoForm(program(), L"frmCLKpr"));
 }
 
 TEST_F(Time, StopwatchStartLapsePauseResumeReset) {
