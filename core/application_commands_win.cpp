@@ -123,7 +123,7 @@ void Application::RunCommand(int id) {
       {L"mnuDCGENSET", [](Application& self) { self.OpenDialog(L"frmVRNpr"); }},
       {L"mnuDCUPDATES", [](Application& self) { self.CheckForUpdate(1); }},
       {L"mnuDCHELP", [](Application& self) { self.ShowHelp(); }},
-      {L"mnuDCTUTS", [](Application& self) { self.OpenPage(self.pages_.support); }},
+      {L"mnuDCTUTS", [](Application& self) { self.OpenPage(self.pages_.videos); }},
       {L"mnuDCWEB", [](Application& self) { self.OpenPage(self.pages_.support); }},
       {L"mnuDCWEBFEEDBACK", [](Application& self) { self.OpenPage(self.pages_.feedback); }},
       {L"mnuDCABOUT", [](Application& self) { self.OpenDialog(L"frmABOUT"); }},

@@ -30,7 +30,8 @@ WebAddresses WebAddressesBelow(std::wstring_view base) {
   if (!root.ends_with(L'/')) root.push_back(L'/');
   const std::wstring product = root + std::wstring(kProductFolder);
   return {root + L"support/software-support.html", root + L"support/software-feedback.html",
-          product + L"/update.html", product + L"/s-version.txt"};
+          root + L"support/software-videos.html", product + L"/update.html",
+          product + L"/s-version.txt"};
 }
 
 WebAddresses ReadWebAddresses(const Settings& settings) {

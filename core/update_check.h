@@ -11,6 +11,7 @@ namespace varnel {
 struct WebAddresses {
   std::wstring support;
   std::wstring feedback;
+  std::wstring videos;
   std::wstring update;
   std::wstring version_file;
 };

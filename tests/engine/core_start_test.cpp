@@ -84,6 +84,7 @@ TEST(UpdateCheck, AddressesComeFromOnePlainBase) {
     const WebAddresses addresses = WebAddressesBelow(base);
     EXPECT_EQ(addresses.support, L"http://127.0.0.1:8080/support/software-support.html");
     EXPECT_EQ(addresses.feedback, L"http://127.0.0.1:8080/support/software-feedback.html");
+    EXPECT_EQ(addresses.videos, L"http://127.0.0.1:8080/support/software-videos.html");
     EXPECT_EQ(addresses.update, L"http://127.0.0.1:8080/products/widget-varnel/update.html");
     EXPECT_EQ(addresses.version_file,
               L"http://127.0.0.1:8080/products/widget-varnel/s-version.txt");
