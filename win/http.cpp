@@ -54,7 +54,9 @@ std::wstring ErrorReason(DWORD error) {
     case ERROR_WINHTTP_SECURE_FAILURE:
       return L"the server could not prove who it is";
     case ERROR_WINHTTP_REDIRECT_FAILED:
-      return L"the server sent us in circles";
+      return L"the server redirects to nowhere";
+    case ERROR_WINHTTP_INVALID_SERVER_RESPONSE:
+      return L"the server's answer makes no sense";
     default:
       return L"the connection broke (" + NumberText(error) + L")";
   }

@@ -112,6 +112,23 @@ TEST(TypeAhead, BeginningsBeforeLaterWords) {
   EXPECT_EQ(TypeAheadMatch({}, L"a"), std::nullopt);
 }
 
+TEST(TypeAhead, OffersTheRestOfAnItemWhileTheUserTypes) {
+  const Names items = {L"East London", L"Londonderry", L"London", L"Z\u00FCrich", L"St. John's"};
+  using Offer = std::optional<Completion>;
+  EXPECT_EQ(CompleteTyped(items, L"l", L""), (Offer{{1, 1}}));
+  EXPECT_EQ(CompleteTyped(items, L"LON", L"LO"), (Offer{{1, 3}}));
+  EXPECT_EQ(CompleteTyped(items, L"london", L"londo"), (Offer{{1, 6}}));
+  EXPECT_EQ(CompleteTyped(items, L"zur", L"zu"), (Offer{{3, 3}}));
+  EXPECT_EQ(CompleteTyped(items, L"st jo", L"st j"), (Offer{{4, 6}}));
+  // Typing over what stood there is no deleting; taking away is, and so is what changes nothing.
+  EXPECT_EQ(CompleteTyped(items, L"e", L"London"), (Offer{{0, 1}}));
+  EXPECT_EQ(CompleteTyped(items, L"Lo", L"Lon"), std::nullopt);
+  EXPECT_EQ(CompleteTyped(items, L"Lon", L"Lon"), std::nullopt);
+  EXPECT_EQ(CompleteTyped(items, L"", L"L"), std::nullopt);
+  // A later word is found when the choice is made, but not offered.
+  EXPECT_EQ(CompleteTyped(Names{L"New York"}, L"yo", L"y"), std::nullopt);
+}
+
 TEST(WeatherAddress, EndpointPathAndCode) {
   const wchar_t* full =
       L"http://feed.example/wxdata/weather/rss/local/UKXX 0085?lngCM_ven=LWO&lngCM_cat=rss";

@@ -32,46 +32,62 @@ constexpr int kMostCard = 1000;  // the width of a card below
 constexpr int kBroadGain = 110;
 
 constexpr int kReferenceHeight = 240;
+constexpr std::size_t kMostLetters = 1000;
 constexpr int kDays = 3;
 
 int Part(int unit, int hundredths) {
   return std::max(1, unit * hundredths / 100);
 }
 
-// A text measured once, in a large font. Sizes taken from that are a little generous, because small
-// letters are not exactly large ones made smaller. An empty text takes no room.
+// A text measured once, in a large font. Sizes taken from that are a little generous, because the
+// widths of small letters are rounded. An empty text takes no room.
 class ScaledText {
  public:
   ScaledText() = default;
-  ScaledText(const std::wstring& text, const TextMeasure& measure) {
+  ScaledText(const std::wstring& text, const TextMeasure& measure)
+      : letters_(static_cast<int>(std::min<std::size_t>(text.size(), kMostLetters))) {
     if (!text.empty()) extent_ = measure.Measure(text, kReferenceHeight);
   }
 
   bool empty() const { return extent_.height == 0; }
   Size At(int font) const {
     if (empty()) return {};
-    return {extent_.width * font * 26 / (25 * kReferenceHeight) + 1,
+    return {extent_.width * font / kReferenceHeight + (letters_ + 1) / 2,
             extent_.height * font / kReferenceHeight + 1};
   }
   bool operator<(const ScaledText& other) const { return extent_.width < other.extent_.width; }
 
  private:
   TextExtent extent_;
+  int letters_ = 0;
+};
+
+// A text that may be shown in any font from the least on.
+struct Words {
+  ScaledText text;
+  int least_width = 0;  // in the least font, exactly
 };
 
 struct Texts {
-  ScaledText location, temperature, condition;
+  Words location, condition;
+  ScaledText temperature;
   ScaledText seen_temperature;  // without outer blanks
   ScaledText date, temps;       // the widest of the days
   bool card() const { return !date.empty() || !temps.empty(); }
 };
 
-Texts MeasureTexts(const WeatherLabels& labels, const TextMeasure& measure) {
+// Words that are too wide however little else is shown are left out at once.
+Texts MeasureTexts(const WeatherLabels& labels, int width, int least_font,
+                   const TextMeasure& measure) {
+  const auto words = [&](const std::wstring& text) {
+    const int least_width = measure.Measure(text, least_font).width;
+    return least_width > width ? Words() : Words{{text, measure}, least_width};
+  };
   Texts texts;
-  texts.location = {labels.location, measure};
+  texts.location = words(labels.location);
+  texts.condition = words(labels.condition);
   texts.temperature = {labels.temperature, measure};
   texts.seen_temperature = {Trim(labels.temperature), measure};
-  texts.condition = {labels.condition, measure};
   for (const ForecastSlot& slot : labels.forecast) {
     texts.date = std::max(texts.date, {slot.date, measure});
     texts.temps = std::max(texts.temps, {slot.temps, measure});
@@ -102,7 +118,7 @@ class Arrangement {
 
  private:
   bool SetUnit(int unit);
-  bool SetLine(const ScaledText& text, int width, Line& line) const;
+  bool SetLine(const Words& words, int width, Line& line) const;
   void SetCard();
   void PlaceRow(const Rect& row, WeatherLayout& layout) const;
   void PlaceCard(const Rect& card, WeatherLayout& layout) const;
@@ -141,12 +157,13 @@ bool Arrangement::SetUnit(int unit) {
 }
 
 // Chooses a font that leaves the line no wider than `width`; false when none can be read.
-bool Arrangement::SetLine(const ScaledText& text, int width, Line& line) const {
+bool Arrangement::SetLine(const Words& words, int width, Line& line) const {
   const int least = Scaled(kLeastWords, dpi_);
   const int wished = std::max(least, Part(unit_, kWords));
-  line.font = LargestHeight(wished, [&](int font) { return text.At(font).width <= width; });
-  line.size = text.At(line.font);
-  return text.empty() || line.font >= least;
+  line.font = std::max(
+      least, LargestHeight(wished, [&](int font) { return words.text.At(font).width <= width; }));
+  line.size = words.text.At(line.font);
+  return words.least_width <= width;
 }
 
 void Arrangement::SetCard() {
@@ -170,7 +187,8 @@ WeatherLayout Arrangement::Place() const {
   WeatherLayout layout;
   Rect room = area_;
   if (broad_) {
-    const int spare = (area_.width() - row_.width - card_.width - 2 * gap()) / 4;
+    const int now_width = std::max({row_.width, location_.size.width, condition_.size.width});
+    const int spare = std::max(0, area_.width() - now_width - card_.width - 2 * gap()) / 4;
     const int height = std::min(std::max(now_height(), card_.height * 3 / 2), area_.height());
     room.right -= card_.width + spare + 2 * gap();
     PlaceCard(RectAt({area_.right - card_.width - spare, area_.top + (area_.height() - height) / 2},
@@ -178,7 +196,7 @@ WeatherLayout Arrangement::Place() const {
               layout);
   }
   const bool below = !broad_ && texts_.card();
-  const int blocks = 1 + !texts_.location.empty() + below;
+  const int blocks = 1 + !texts_.location.text.empty() + below;
   const int spare = room.height() - now_height() - (below ? card_.height + gap() : 0);
   const int step = std::min(spare / (blocks + 1), Part(unit_, kMostGap));
   int top = room.top + (spare - (blocks - 1) * step) / 2;
@@ -187,12 +205,12 @@ WeatherLayout Arrangement::Place() const {
     top += height;
     return row;
   };
-  if (!texts_.location.empty()) {
+  if (!texts_.location.text.empty()) {
     layout.location = {take(location_.size.height), location_.font};
     top += step;
   }
   PlaceRow(take(row_.height), layout);
-  if (!texts_.condition.empty()) {
+  if (!texts_.condition.text.empty()) {
     layout.condition = {take(condition_.size.height), condition_.font};
   }
   if (below) {
@@ -266,7 +284,7 @@ WeatherLayout LayOutWeather(Size panel, int dpi, const WeatherLabels& labels,
                             const TextMeasure& measure) {
   const int margin = Scaled(panel.height < Scaled(kLowPanel, dpi) ? kMargin / 2 : kMargin, dpi);
   const Rect area = Inset({0, 0, panel.width, panel.height}, margin);
-  Texts texts = MeasureTexts(labels, measure);
+  Texts texts = MeasureTexts(labels, area.width(), Scaled(kLeastWords, dpi), measure);
   for (const auto leave_out : std::initializer_list<void (*)(Texts&)>{
            [](Texts&) {}, [](Texts& all) { all.date = all.temps = {}; },
            [](Texts& all) { all.condition = {}; }, [](Texts& all) { all.location = {}; }}) {

@@ -1,0 +1,146 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <vector>
+
+#include "tests/support/plain_measure.h"
+#include "widgets/weather/weather_layout.h"
+
+namespace varnel {
+namespace {
+
+WeatherLabels Usual() {
+  WeatherLabels labels;
+  labels.location = L"London, United Kingdom";
+  labels.temperature = L"57F ";
+  labels.condition = L"Partly Cloudy";
+  labels.forecast = {{{L"Sat", 28, L"72/55"}, {L"Sun", 9, L"68/51"}, {L"Mon", 19, L"100/-4"}}};
+  return labels;
+}
+
+std::vector<LabelPlace> Shown(const WeatherLayout& layout) {
+  std::vector<LabelPlace> places{layout.location, layout.symbol, layout.temperature,
+                                 layout.condition};
+  for (const ForecastPlace& day : layout.forecast) {
+    places.insert(places.end(), {day.date, day.icon, day.temps});
+  }
+  std::erase_if(places, [](const LabelPlace& place) { return !place.shown(); });
+  return places;
+}
+
+bool Inside(const Rect& inner, const Rect& outer) {
+  return inner.left >= outer.left && inner.top >= outer.top && inner.right <= outer.right &&
+         inner.bottom <= outer.bottom;
+}
+
+bool Overlap(const Rect& a, const Rect& b) {
+  return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
+}
+
+void CheckText(const LabelPlace& place, const std::wstring& text, int least, int dpi) {
+  if (!place.shown()) return;
+  EXPECT_LE(test::PlainMeasure().Measure(text, place.font_height).width, place.box.width()) << text;
+  EXPECT_GE(place.font_height, Scaled(least, dpi)) << text;
+}
+
+// Whatever the panel and its resolution.
+void CheckLayout(Size panel, int dpi, const WeatherLabels& labels, const WeatherLayout& layout) {
+  const Rect area = Inset({0, 0, panel.width, panel.height}, Scaled(4, dpi));
+  const std::vector<LabelPlace> shown = Shown(layout);
+  for (std::size_t i = 0; i < shown.size(); ++i) {
+    EXPECT_TRUE(Inside(shown[i].box, area));
+    for (std::size_t j = 0; j < i; ++j) EXPECT_FALSE(Overlap(shown[i].box, shown[j].box));
+  }
+  CheckText(layout.location, labels.location, 11, dpi);
+  CheckText(layout.temperature, labels.temperature, 18, dpi);
+  CheckText(layout.condition, labels.condition, 11, dpi);
+  for (std::size_t i = 0; i < 3; ++i) {
+    const ForecastPlace& day = layout.forecast[i];
+    EXPECT_EQ(day.date.shown(), !layout.pfrFORECAST.empty());
+    if (layout.pfrFORECAST.empty()) continue;
+    CheckText(day.date, labels.forecast[i].date, 10, dpi);
+    CheckText(day.temps, labels.forecast[i].temps, 10, dpi);
+    for (const LabelPlace& place : {day.date, day.icon, day.temps}) {
+      EXPECT_TRUE(Inside(place.box, layout.pfrFORECAST));
+    }
+  }
+}
+
+TEST(WeatherLayout, EveryPanelAtEveryResolution) {
+  WeatherLabels long_words = Usual();
+  long_words.location = L"Kingstown, Saint Vincent and the Grenadines";
+  long_words.condition = L"Thunderstorm with Heavy Hail at -22F (-30C)";
+  WeatherLabels unknown;
+  unknown.location = L"London, United Kingdom";
+  unknown.temperature = L"-";
+  for (const WeatherLabels& labels : {Usual(), long_words, unknown}) {
+    for (const int dpi : {96, 144, 192}) {
+      for (const int width : {158, 200, 240, 391, 500, 801, 1280, 1920, 3840}) {
+        for (const int height : {57, 75, 107, 160, 181, 300, 683, 1080, 2160}) {
+          SCOPED_TRACE(testing::Message() << width << " x " << height << " at " << dpi);
+          const Size panel{Scaled(width, dpi), Scaled(height, dpi)};
+          const WeatherLayout layout = LayOutWeather(panel, dpi, labels, test::PlainMeasure());
+          EXPECT_TRUE(layout.symbol.shown() && layout.temperature.shown());
+          CheckLayout(panel, dpi, labels, layout);
+        }
+      }
+    }
+  }
+}
+
+TEST(WeatherLayout, UsualSizesShowEverything) {
+  for (const Size panel : {Size{391, 181}, Size{328, 183}, Size{498, 300}, Size{240, 300}}) {
+    EXPECT_EQ(Shown(LayOutWeather(panel, 96, Usual(), test::PlainMeasure())).size(), 13u);
+  }
+}
+
+// What is left as a panel becomes lower: never a part of lower rank without those above.
+TEST(WeatherLayout, LeavesOutByRank) {
+  std::size_t before = 13;
+  bool seen[14] = {};
+  for (int height = 300; height >= 30; --height) {
+    const WeatherLayout layout =
+        LayOutWeather({600, height}, 96, Usual(), test::PlainMeasure());
+    const std::size_t now = Shown(layout).size();
+    EXPECT_LE(now, before) << height;
+    EXPECT_EQ(layout.forecast[0].date.shown(), now == 13) << height;
+    EXPECT_EQ(layout.condition.shown(), now >= 4) << height;
+    EXPECT_EQ(layout.location.shown(), now >= 3) << height;
+    seen[now] = true;
+    before = now;
+  }
+  EXPECT_TRUE(seen[13] && seen[4] && seen[3] && seen[2]);
+}
+
+TEST(WeatherLayout, CardGoesWhereThereIsMoreRoom) {
+  const test::PlainMeasure measure;
+  const WeatherLayout tall = LayOutWeather({240, 300}, 96, Usual(), measure);
+  EXPECT_GT(tall.pfrFORECAST.top, tall.condition.box.bottom);
+  EXPECT_EQ(tall.forecast[0].date.box.top, tall.forecast[2].date.box.top);
+  const WeatherLayout broad = LayOutWeather({900, 160}, 96, Usual(), measure);
+  EXPECT_GT(broad.pfrFORECAST.left, broad.temperature.box.right);
+  EXPECT_EQ(broad.forecast[0].date.box.left, broad.forecast[2].date.box.left);
+  // What is shown above each other keeps the order of its rank.
+  for (const WeatherLayout& layout : {tall, broad}) {
+    EXPECT_LE(layout.location.box.bottom, layout.symbol.box.top);
+    EXPECT_LE(layout.temperature.box.bottom, layout.condition.box.top);
+  }
+}
+
+TEST(WeatherLayout, SurvivesSenselessInput) {
+  const test::PlainMeasure measure;
+  for (const Size panel : {Size{0, 0}, Size{-50, 30}, Size{16, 16}, Size{10000, 1}}) {
+    EXPECT_TRUE(Shown(LayOutWeather(panel, 96, Usual(), measure)).empty());
+  }
+  WeatherLabels labels = Usual();
+  labels.location = std::wstring(400, L'x');
+  labels.forecast[1].temps = std::wstring(900, L'9');
+  const WeatherLayout layout = LayOutWeather({391, 181}, 96, labels, measure);
+  EXPECT_FALSE(layout.location.shown() || layout.forecast[1].temps.shown());
+  EXPECT_TRUE(layout.condition.shown());
+  CheckLayout({391, 181}, 96, labels, layout);
+  EXPECT_TRUE(LayOutWeather({391, 181}, 0, Usual(), measure).symbol.shown());
+}
+
+}  // namespace
+}  // namespace varnel
