@@ -26,6 +26,8 @@ void DrawPlain(HDC dc, HFONT font, const Rect& box, const std::wstring& text,
   ::SetBkMode(dc, TRANSPARENT);
   ::SetTextColor(dc, colour);
   RECT area = ToSystem(box);
+  area.left += style.side_room;
+  area.right -= style.side_room;
   const int length = static_cast<int>(text.size());
   if (style.wrap) {
     RECT needed = area;

@@ -20,6 +20,7 @@ struct TextStyle {
   Colour ground = kBlack;     // what the text stands on
   Colour halo_base = kBlack;  // the colour whose shades a halo is made of
   Align align = Align::kCentre;
+  int side_room = 0;  // pixels kept free of letters at the left and right ends of the box
   int dpi = kDefaultDpi;
   bool wrap = false;   // several lines, broken at words
   bool faint = false;  // half lost in the ground and without a halo: what cannot be used now

@@ -26,6 +26,7 @@ constexpr double kDarkFace = 0.06;    // the luminance below which nothing darke
 constexpr int kSunk = 232;
 constexpr int kOutstanding = 225;
 constexpr int kMostOutstanding = 185;
+constexpr int kHalf = 128;
 
 int FaceWeight(CalculatorKey key) {
   if (key < CalculatorKey::kAdd) return 255;
@@ -64,17 +65,20 @@ void CalculatorForm::PlaceNumber() {
   const std::wstring& text = engine_.display();
   const FontMeasure measure(theme().strTHEMEPANELFONTNAME, false);
   const Rect box = Inset(places_.number, 1);
+  const int side_room = HaloRoom(dpi());
+  const int room = box.width() - 2 * side_room;
   const int least = Scaled(kLeastNumberHeight, dpi());
-  const int fitting = FittingHeight(text, {box.width(), box.height()}, box.height(), measure);
+  const int fitting = FittingHeight(text, {room, box.height()}, box.height(), measure);
   TextStyle style = PanelTextStyle(std::max(fitting, least));
   style.ground = WellColour();
   style.align = Align::kRight;
+  style.side_room = side_room;
   lbl01234567890_.Place(Within(layout().pfrPANEL, box), style);
   lbl01234567890_.Show(!box.empty());
 
   const int width = fitting < least ? measure.Measure(text, least).width : 0;
   const int units = static_cast<int>(text.size());
-  units_beyond_ = width > box.width() ? units - units * box.width() / width : 0;
+  units_beyond_ = width > room ? units - units * room / width : 0;
   ScrollDisplay(-first_unit_);
 }
 
@@ -131,8 +135,10 @@ void CalculatorForm::PlaceLog() {
   look.text.ground = WellColour();
   const ButtonLook chosen = paint().high_contrast ? ButtonLook::kPressed : ButtonLook::kNormal;
   const Colour face = ButtonColours(paint(), chosen, services().colours).first;
-  look.selected = Toned(face, kMostOutstanding);
-  look.selected_without_focus = Toned(face, kOutstanding);
+  const Colour toned = Toned(face, kMostOutstanding);
+  const Colour well = look.text.ground;
+  look.selected = ContrastRatio(face, well) > ContrastRatio(toned, well) ? face : toned;
+  look.selected_without_focus = Blend(look.selected, well, kHalf, services().colours);
   lvwFILES_.Place(places_.log.empty() ? Rect{} : place, look);
 }
 

@@ -11,7 +11,7 @@ namespace {
 constexpr std::wstring_view kBeforeResult = L"= ";
 constexpr int kSideRoom = 4;  // at 96 dpi, like the next
 constexpr int kLeastFontHeight = 9;
-constexpr int kLeastSumWidth = 20;
+constexpr int kLeastSumWidth = 28;
 constexpr int kBarWidth = 9;
 
 // The em of the font that makes a line so high that text of `font_height` has room about it.
@@ -103,10 +103,12 @@ void LogList::ScrollTo(int line) {
 }
 
 void LogList::ShowLines(std::size_t count, Line visible) {
-  const bool first_lines = ListView_GetItemCount(handle_) == 0;
-  ListView_SetItemState(handle_, -1, 0, LVIS_SELECTED | LVIS_FOCUSED);
-  ListView_SetItemCountEx(handle_, static_cast<int>(count), LVSICF_NOSCROLL);
-  if (first_lines) Arrange();
+  const int former = ListView_GetItemCount(handle_);
+  // What is added at the end leaves the lines before it as they are.
+  const bool added = former > 0 && static_cast<std::size_t>(former) <= count;
+  ListView_SetItemCountEx(handle_, static_cast<int>(count),
+                          added ? LVSICF_NOSCROLL | LVSICF_NOINVALIDATEALL : LVSICF_NOSCROLL);
+  if (former == 0) Arrange();
   if (count > 0) {
     ListView_EnsureVisible(handle_, static_cast<int>(std::min(visible, count - 1)), FALSE);
   }
@@ -114,6 +116,10 @@ void LogList::ShowLines(std::size_t count, Line visible) {
 }
 
 void LogList::Select(Line line) {
+  // One by one: the system's way of changing all goes through the whole list.
+  for (const Line selected : Selected()) {
+    ListView_SetItemState(handle_, static_cast<int>(selected), 0, LVIS_SELECTED);
+  }
   ListView_SetItemState(handle_, static_cast<int>(line), LVIS_SELECTED | LVIS_FOCUSED,
                         LVIS_SELECTED | LVIS_FOCUSED);
   ListView_SetSelectionMark(handle_, static_cast<int>(line));
@@ -192,18 +198,19 @@ void LogList::DrawLine(HDC dc, Line line) {
   const std::size_t equals = text.find(kBeforeResult);
   const std::size_t result_at =
       equals == std::wstring::npos ? text.size() : equals + kBeforeResult.size();
-  const int side = Scaled(kSideRoom, style.dpi);
-  Rect box{side, 0, row.right - side, row.bottom};
+  style.side_room = Scaled(kSideRoom, style.dpi);
+  Rect box = row;
   if (result_at < text.size()) {
     const std::wstring result = text.substr(result_at);
+    const int room = box.width() - 2 * style.side_room;
     int width = TextWidth(surface.dc(), ui_.fonts.Get(style.font), result);
-    if (width > box.width()) {
-      style.font.height = SmallerHeight(result, {box.width(), row.bottom}, style);
-      width = box.width();
+    if (width > room) {
+      style.font.height = SmallerHeight(result, {room, row.bottom}, style);
+      width = room;
     }
     style.align = Align::kRight;
     PaintText(ui_, surface, box, result, style);
-    box.right -= width + side;
+    box.right -= width + style.side_room;
   }
   if (box.width() >= Scaled(kLeastSumWidth, style.dpi)) {
     style.align = Align::kLeft;

@@ -42,8 +42,8 @@ class LogList {
   // `place` in pixels of the parent; an empty one hides the list.
   void Place(const Rect& place, const LogListLook& look);
 
-  // Shows a log of `count` lines, none selected, scrolled to `visible`, or to the last one
-  // when there is no such line.
+  // Shows a log of `count` lines, scrolled to `visible`, or to the last one when there is no such
+  // line. Lines that are still there stay selected.
   void ShowLines(std::size_t count, Line visible);
 
   // Selects `line` alone.

@@ -1,0 +1,343 @@
+// The calculator, worked by mouse and keys, and its log, whatever happens to the program.
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <algorithm>
+
+#include "resources/control_ids.h"
+#include "tests/rig/controls.h"
+#include "tests/rig/dialogs.h"
+#include "tests/rig/files.h"
+#include "tests/rig/input.h"
+#include "tests/rig/menus.h"
+#include "tests/rig/picture.h"
+#include "tests/rig/scene.h"
+#include "win/clipboard.h"
+
+namespace varnel {
+namespace {
+
+using namespace rig;
+
+constexpr WORD kPlusKey = VK_OEM_PLUS;  // without Shift the point key
+constexpr WORD kMinusKey = VK_OEM_MINUS;
+constexpr WORD kBackslashKey = VK_OEM_5;
+
+constexpr char kThreeSums[] = "\"12 / 5 = 2.4\"\r\n\"7 * 3 = 21.0\"\r\n\"1 / 3 = 0.333\"\r\n";
+
+std::string Repeated(std::string_view line, int times) {
+  std::string text;
+  for (int i = 0; i < times; ++i) text += line;
+  return text;
+}
+
+class Calculator : public Scene {
+ protected:
+  void Start(std::string_view log) {
+    ASSERT_TRUE(WriteBytes(LogPath(), log));
+    Start();
+  }
+  void Start() {
+    root().settings().SetText(L"frmVRNpr\\Details", L"Start-Load-Calc", L"True");
+    ASSERT_TRUE(program().Start(L"/tray"));
+    form_ = WaitForForm(program(), L"frmCLCwg");
+    ASSERT_TRUE(form_);
+  }
+  void Restart() {
+    ASSERT_EQ(LeaveByMenu(program()), 0u);
+    Start();
+  }
+
+  HWND Part(int id) const { return Control(form_, id); }
+  void Press(std::initializer_list<int> buttons) {
+    for (const int id : buttons) ASSERT_TRUE(ClickOn(Part(id))) << id;
+  }
+  // The display, once it shows that.
+  std::wstring Shown(std::wstring_view expected) {
+    return WaitFor([this] { return Text(Part(lbl01234567890)); }, std::wstring(expected));
+  }
+
+  std::wstring LogPath() { return root().folder() + L"\\calc2.dat"; }
+  std::string Log() { return FileBytes(LogPath()).value_or(""); }
+  // The log file's content, once that is it.
+  std::string Logged(std::string_view expected) {
+    return WaitFor([this] { return Log(); }, std::string(expected));
+  }
+
+  int List(UINT message, WPARAM wparam = 0, LPARAM lparam = 0) {
+    return static_cast<int>(Send(Part(lvwFILES), message, wparam, lparam));
+  }
+  void ClickLine(int line) {
+    const Rect list = RectOf(Part(lvwFILES));
+    const int row = line - List(LVM_GETTOPINDEX);
+    // The list is a whole number of lines high.
+    const int page = List(LVM_GETCOUNTPERPAGE);
+    Click({list.left + 20, list.top + list.height() * (2 * row + 1) / (2 * page)});
+  }
+
+  HWND form_ = nullptr;
+};
+
+TEST_F(Calculator, SumsByMouse) {
+  Start();
+  EXPECT_EQ(Text(Part(lbl01234567890)), L"0");
+  Press({lblNUMBER + 2, lblADD, lblNUMBER + 3, lblMULTIPLY});
+  EXPECT_EQ(Shown(L"5.0"), L"5.0");
+  EXPECT_EQ(Text(Part(lblDISPLAYFUNC)), L"\u00D7");
+  Press({lblNUMBER + 4, lblEQUALS});
+  EXPECT_EQ(Shown(L"20.0"), L"20.0");
+  EXPECT_EQ(Text(Part(lblDISPLAYFUNC)), L"");
+  EXPECT_EQ(Text(Part(lblSUB)), L"");
+  std::string log = "\"2 + 3 = 5.0\"\r\n\"5 * 4 = 20.0\"\r\n";
+  EXPECT_EQ(Logged(log), log);
+
+  Press({lblNUMBER + 2, lblPOINT, lblNUMBER + 5, lblPLUSMINUS});
+  EXPECT_EQ(Shown(L"-2.5"), L"-2.5");
+  Press({lblDELETE, lblDELETE, lblCLEARENTRY});
+  EXPECT_EQ(Shown(L"0"), L"0");
+  // A clear keeps the pending operation.
+  Press({lblNUMBER + 5, lblSUBTRACT, lblCLEAR, lblNUMBER + 8, lblDIVIDE});
+  EXPECT_EQ(Shown(L"-3.0"), L"-3.0");
+  // No click is lost, however quick they come.
+  DoubleClick(CentreOf(Part(lblNUMBER + 9)));
+  EXPECT_EQ(Shown(L"99"), L"99");
+  Press({lblCLEAR, lblNUMBER, lblEQUALS});
+  log += "\"5 - 8 = -3.0\"\r\n\"-3 / 0 = 0.0\"\r\n";
+  EXPECT_EQ(Logged(log), log);
+  EXPECT_EQ(Shown(L"0.0"), L"0.0");
+}
+
+TEST_F(Calculator, SumsByKeyboard) {
+  Start();
+  ASSERT_TRUE(Activate(form_));
+  PressKey('1');
+  PressKey(kPlusKey);
+  PressKey('5');
+  Chord({VK_SHIFT, kPlusKey});
+  PressKey('2');
+  PressKey(kMinusKey);
+  EXPECT_EQ(Shown(L"3.5"), L"3.5");
+  PressKey('1');
+  PressKey('6');
+  PressKey(VK_DELETE);
+  Chord({VK_SHIFT, '8'});
+  EXPECT_EQ(Shown(L"2.5"), L"2.5");
+  PressKey('4');
+  PressKey(kBackslashKey);
+  PressKey('3');
+  PressKey(VK_RETURN);
+  EXPECT_EQ(Shown(L"3.333"), L"3.333");
+  const std::string log =
+      "\"1.5 + 2 = 3.5\"\r\n\"3.5 - 1 = 2.5\"\r\n\"2.5 * 4 = 10.0\"\r\n\"10 / 3 = 3.333\"\r\n";
+  EXPECT_EQ(Logged(log), log);
+  // Keys without a meaning change nothing.
+  for (const WORD key : {VK_NUMPAD7, VK_OEM_PERIOD, VK_BACK, VK_ADD}) PressKey(key);
+  PressKey('8');
+  EXPECT_EQ(Shown(L"8"), L"8");
+}
+
+TEST_F(Calculator, KeysWorkWhereverTheFocusIs) {
+  Start(kThreeSums);
+  Press({lblNUMBER + 7});
+  PressKey('5');
+  PressKey(VK_SPACE);
+  EXPECT_EQ(Shown(L"757"), L"757");
+  PressKey(VK_TAB);
+  EXPECT_TRUE(WaitUntil([&] { return FocusedWindow() == Part(lblNUMBER + 8); }));
+  PressKey(VK_SPACE);
+  EXPECT_EQ(Shown(L"7578"), L"7578");
+  Chord({VK_SHIFT, VK_TAB});
+  Chord({VK_SHIFT, VK_TAB});
+  EXPECT_TRUE(WaitUntil([&] { return FocusedWindow() == Part(lblDIVIDE); }));
+
+  ClickLine(0);
+  EXPECT_EQ(Shown(L"2.4"), L"2.4");
+  PressKey('9');
+  EXPECT_EQ(Shown(L"2.49"), L"2.49");
+  EXPECT_TRUE(FocusedWindow() == Part(lvwFILES));
+}
+
+TEST_F(Calculator, StruckKeyIsSeenGoingDown) {
+  Start();
+  ASSERT_TRUE(Activate(form_));
+  const Picture released = StillPictureOf(Part(lblNUMBER + 6));
+  PressKey('6');
+  EXPECT_TRUE(WaitUntil([&] { return PictureOf(Part(lblNUMBER + 6)) != released; }));
+  EXPECT_TRUE(WaitUntil([&] { return PictureOf(Part(lblNUMBER + 6)) == released; }));
+}
+
+TEST_F(Calculator, CopiesAndPastes) {
+  Start(kThreeSums);
+  const struct {
+    const wchar_t* pasted;
+    const wchar_t* shown;
+  } cases[] = {{L" 1,234.50\r\n", L"1234.5"},
+               {L"1.234.567,25", L"1234567.25"},
+               {L"\u2212 12 345", L"-12345"},
+               {L"no number", L"-12345"},
+               {L"", L"-12345"}};
+  HWND owner =
+      ::CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
+  ASSERT_TRUE(Activate(form_));
+  for (const auto& test : cases) {
+    ASSERT_TRUE(CopyText(owner, test.pasted));
+    Chord({VK_CONTROL, 'V'});
+    EXPECT_EQ(Shown(test.shown), test.shown);
+  }
+  const auto copied = [&](std::wstring_view expected) {
+    Chord({VK_CONTROL, 'C'});
+    return WaitFor([&] { return PastedText(owner, 1000); }, std::wstring(expected));
+  };
+  EXPECT_EQ(copied(L"-12345"), L"-12345");
+  ClickLine(1);
+  EXPECT_EQ(copied(L"7 * 3 = 21.0"), L"7 * 3 = 21.0");
+  Chord({VK_CONTROL, 'A'});
+  const std::wstring all = L"12 / 5 = 2.4\r\n7 * 3 = 21.0\r\n1 / 3 = 0.333";
+  EXPECT_EQ(copied(all), all);
+  ::DestroyWindow(owner);
+}
+
+TEST_F(Calculator, RecallsByClickAndByKey) {
+  Start(kThreeSums);
+  EXPECT_EQ(List(LVM_GETITEMCOUNT), 3);
+  ClickLine(1);
+  EXPECT_EQ(Shown(L"21.0"), L"21.0");
+  PressKey(VK_DOWN);
+  EXPECT_EQ(Shown(L"0.333"), L"0.333");
+  PressKey(VK_HOME);
+  EXPECT_EQ(Shown(L"2.4"), L"2.4");
+  // A recalled result is an operand like any other.
+  PressKey(kMinusKey);
+  PressKey('1');
+  PressKey(VK_RETURN);
+  EXPECT_EQ(Shown(L"1.4"), L"1.4");
+  EXPECT_TRUE(Log().ends_with("\"2.4 - 1 = 1.4\"\r\n"));
+}
+
+TEST_F(Calculator, LogIsShownAndHidden) {
+  Start(Repeated("\"1 + 1 = 2.0\"\r\n", 300));
+  EXPECT_TRUE(IsShown(Part(lvwFILES)));
+  const int page = List(LVM_GETCOUNTPERPAGE);
+  EXPECT_EQ(List(LVM_GETTOPINDEX), 300 - page) << "the end of the log is to be seen";
+  const int narrow = RectOf(Part(lblEQUALS)).width();
+  Choose(form_, L"mnuCALCSHOWHIST");
+  EXPECT_TRUE(WaitUntil([&] { return !IsShown(Part(lvwFILES)); }));
+  EXPECT_GT(RectOf(Part(lblEQUALS)).width(), narrow) << "the keys take the room";
+  Choose(form_, L"mnuCALCSHOWHIST");
+  EXPECT_TRUE(WaitUntil([&] { return IsShown(Part(lvwFILES)); }));
+  // A small widget has no room for it; it comes back by itself.
+  Choose(form_, L"mnuWIDGRESETA", 2);
+  EXPECT_TRUE(WaitUntil([&] { return !IsShown(Part(lvwFILES)); }));
+  Choose(form_, L"mnuWIDGRESETA", 0);
+  EXPECT_TRUE(WaitUntil([&] { return IsShown(Part(lvwFILES)); }));
+
+  // The wheel and the slim bar scroll it.
+  const int last_top = WaitUntilStill([&] { return List(LVM_GETTOPINDEX); });
+  TurnWheel(CentreOf(Part(lvwFILES)), 2);
+  EXPECT_TRUE(WaitUntil([&] { return List(LVM_GETTOPINDEX) == last_top - 6; }));
+  const Rect bar = RectOf(ChildOfClass(form_, L"VarnelThumbBar"));
+  Drag({bar.left + 3, bar.bottom - 8}, {bar.left + 3, bar.top - 50});
+  EXPECT_EQ(WaitFor([&] { return List(LVM_GETTOPINDEX); }, 0), 0);
+  // What is new is brought into sight.
+  Press({lblADD, lblNUMBER + 1, lblEQUALS});
+  EXPECT_EQ(WaitFor([&] { return List(LVM_GETITEMCOUNT); }, 301), 301);
+  EXPECT_GT(List(LVM_GETTOPINDEX), last_top - 2);
+
+  Choose(form_, L"mnuCALCSHOWHIST");
+  EXPECT_TRUE(WaitUntil([&] { return !IsShown(Part(lvwFILES)); }));
+  Restart();
+  EXPECT_TRUE(IsShown(Part(lvwFILES))) << "that it was hidden is not remembered";
+  EXPECT_EQ(List(LVM_GETITEMCOUNT), 301);
+}
+
+TEST_F(Calculator, DeletedLineMakesTheNextSumClashUntilTheNextStart) {
+  Start(kThreeSums);
+  ClickLine(1);
+  ASSERT_EQ(Shown(L"21.0"), L"21.0");
+  Chord({VK_CONTROL, VK_DELETE});
+  const std::string two = "\"12 / 5 = 2.4\"\r\n\"1 / 3 = 0.333\"\r\n";
+  EXPECT_EQ(Logged(two), two);
+  Press({lblCLEAR, lblNUMBER + 4, lblADD, lblNUMBER + 4, lblEQUALS});
+  EXPECT_EQ(Shown(L"8.0"), L"8.0");
+  EXPECT_EQ(Log(), two) << "its key is taken";
+  EXPECT_EQ(List(LVM_GETITEMCOUNT), 2);
+
+  Restart();
+  EXPECT_EQ(List(LVM_GETITEMCOUNT), 2);
+  Press({lblNUMBER + 4, lblADD, lblNUMBER + 5, lblEQUALS});
+  EXPECT_EQ(Logged(two + "\"4 + 5 = 9.0\"\r\n"), two + "\"4 + 5 = 9.0\"\r\n");
+  // Several lines at once.
+  ClickLine(0);
+  Chord({VK_SHIFT, VK_DOWN});
+  ASSERT_TRUE(WaitUntil([&] { return List(LVM_GETSELECTEDCOUNT) == 2; }));
+  Choose(form_, L"mnuCALCDELETESELECTED");
+  EXPECT_EQ(Logged("\"4 + 5 = 9.0\"\r\n"), "\"4 + 5 = 9.0\"\r\n");
+}
+
+TEST_F(Calculator, ClearingTheLogAsksFirst) {
+  Start(kThreeSums);
+  Choose(form_, L"mnuCALCCLEARHISTORY");
+  HWND question = WaitForDialog(program());
+  ASSERT_TRUE(question);
+  ASSERT_TRUE(CloseDialog(question, IDNO));
+  EXPECT_EQ(Log(), kThreeSums);
+  Choose(form_, L"mnuCALCCLEARHISTORY");
+  question = WaitForDialog(program());
+  ASSERT_TRUE(question);
+  ASSERT_TRUE(CloseDialog(question, IDYES));
+  EXPECT_EQ(Logged(""), "");
+  EXPECT_EQ(List(LVM_GETITEMCOUNT), 0);
+}
+
+TEST_F(Calculator, NumberOfAnyLengthStaysInItsBox) {
+  Start();
+  ASSERT_TRUE(Activate(form_));
+  PressKey('3');
+  for (int i = 0; i < 70; ++i) ::PostMessageW(form_, WM_KEYDOWN, '0', 1);
+  const std::wstring whole = L"3" + std::wstring(70, L'0');
+  EXPECT_EQ(Shown(whole), whole);
+  HWND number = Part(lbl01234567890);
+  const Picture start = StillPictureOf(number);
+  TurnWheel(CentreOf(number), -4);
+  EXPECT_TRUE(WaitUntil([&] { return PictureOf(number) != start; })) << "it scrolls";
+  EXPECT_EQ(Text(number), whole);
+  PressKey('0');
+  EXPECT_TRUE(WaitUntil([&] { return PictureOf(number) == start; })) << "the first digits again";
+}
+
+TEST_F(Calculator, KilledWhileSavingItKeepsEveryLineThatWasSaved) {
+  constexpr int kRounds = 60;
+  constexpr int kSums = 40;
+  const auto line = [](int digit) {
+    return "\"9 - " + std::to_string(digit) + " = " + std::to_string(9 - digit) + ".0\"\r\n";
+  };
+  std::string former = Repeated("\"123456 / 7 = 17636.571\"\r\n", 2000);
+  ASSERT_TRUE(WriteBytes(LogPath(), former));
+  for (int round = 0; round < kRounds; ++round) {
+    Start();
+    if (HasFatalFailure()) return;
+    for (int i = 0; i < kSums; ++i) {
+      const int digit = 1 + i % 9;
+      for (const int key : {int{'9'}, int{kMinusKey}, '0' + digit, VK_RETURN}) {
+        ::PostMessageW(form_, WM_KEYDOWN, static_cast<WPARAM>(key), 1);
+      }
+    }
+    const std::size_t some_sums =
+        former.size() + line(1).size() * static_cast<std::size_t>(round % 3);
+    ASSERT_TRUE(WaitUntil([&] { return Log().size() > some_sums; })) << round;
+    program().Kill();
+    const std::string now = Log();
+    ASSERT_TRUE(now.starts_with(former)) << round;
+    std::string expected = former;
+    for (int i = 0; expected.size() < now.size(); ++i) expected += line(1 + i % 9);
+    ASSERT_EQ(now.substr(former.size()), expected.substr(former.size())) << round;
+    former = now;
+  }
+  Start();
+  EXPECT_EQ(List(LVM_GETITEMCOUNT), std::ranges::count(former, '\n'));
+}
+
+}  // namespace
+}  // namespace varnel
