@@ -1,0 +1,93 @@
+// How the widgets look at any size: nothing on top of anything else, and nothing left of what was
+// shown before.
+#include <gtest/gtest.h>
+
+#include "base/text.h"
+#include "core/core_settings.h"
+#include "core/widget_index.h"
+#include "tests/rig/controls.h"
+#include "tests/rig/picture.h"
+#include "tests/rig/scene.h"
+
+namespace varnel {
+namespace {
+
+using namespace rig;
+
+using Look = Scene;
+
+void Resize(HWND form, Size size) {
+  ::SetWindowPos(form, nullptr, 10, 10, size.width, size.height, SWP_NOZORDER);
+  // It has laid itself out once it answers.
+  Send(form, WM_NULL);
+}
+
+std::string NameOf(HWND control) {
+  return Utf8FromWide(ClassOf(control)) + " " + std::to_string(::GetDlgCtrlID(control));
+}
+
+// The controls that are shown stand beside each other, inside their form.
+void CheckControls(HWND form) {
+  const Rect inside = RectOf(form);
+  std::vector<HWND> shown;
+  for (HWND control : ChildrenOf(form)) {
+    const Rect box = RectOf(control);
+    if (!IsShown(control) || box.empty() || ::GetParent(control) != form) continue;
+    // It hides the bar of the list that it belongs to.
+    if (ClassOf(control) == L"VarnelThumbBar") continue;
+    EXPECT_TRUE(inside.Contains({box.left, box.top}) &&
+                inside.Contains({box.right - 1, box.bottom - 1}))
+        << NameOf(control) << " reaches beyond the form";
+    for (HWND other : shown) {
+      const Rect rect = RectOf(other);
+      EXPECT_FALSE(box.left < rect.right && rect.left < box.right && box.top < rect.bottom &&
+                   rect.top < box.bottom)
+          << NameOf(control) << " lies on " << NameOf(other);
+    }
+    shown.push_back(control);
+  }
+}
+
+// What is on the screen is what the form paints when all of it is painted anew.
+bool IsWhole(HWND form) {
+  const Picture before = StillPictureOf(form);
+  ::RedrawWindow(form, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+  return StillPictureOf(form) == before;
+}
+
+void CheckPixels(HWND form, Size former, Size size) {
+  if (IsWhole(form)) return;
+  // On a busy machine the first picture may have come too early; true remains come back.
+  Resize(form, former);
+  StillPictureOf(form);
+  Resize(form, size);
+  EXPECT_TRUE(IsWhole(form)) << "something is left of what was there";
+}
+
+TEST_F(Look, WidgetsAreWholeAtEverySize) {
+  for (int i = 0; i < kWidgetCount; ++i) {
+    const Setting& flag = WidgetAt(i)->start_load;
+    root().settings().SetText(std::wstring(flag.section), std::wstring(flag.name), L"True");
+  }
+  ASSERT_TRUE(program().Start());
+  ASSERT_TRUE(WaitForForm(program(), L"frmVRNwg"));
+  for (int i = -1; i < kWidgetCount; ++i) {
+    const std::wstring_view name = i < 0 ? kManagerForm.form_name : WidgetAt(i)->form_name;
+    HWND form = FindForm(program(), name);
+    if (!form) continue;
+    ASSERT_TRUE(Activate(form));
+    Size former{393, 231};
+    for (const Size size : {Size{160, 107}, {500, 350}, {240, 160}}) {
+      SCOPED_TRACE(testing::Message()
+                   << Utf8FromWide(name) << " of " << size.width << " x " << size.height << " px");
+      Resize(form, size);
+      CheckControls(form);
+      // The clock's seconds go on between two looks.
+      if (i != 0) CheckPixels(form, former, size);
+      former = size;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace varnel
