@@ -3,6 +3,7 @@
 #include "base/number_text.h"
 #include "resources/control_ids.h"
 #include "tests/rig/controls.h"
+#include "tests/rig/dialogs.h"
 #include "tests/rig/input.h"
 #include "tests/rig/menus.h"
 
@@ -61,6 +62,21 @@ void LetAlarmRing(const Program& program, HWND clock) {
   Send(Control(dialog, cmdOKfrmCLKas), BM_CLICK);
 }
 
+// Does some sums, with nothing before them in the log; the last is still to be finished.
+void DoSums(const Program& program, HWND calculator) {
+  Choose(calculator, L"mnuCALCCLEARHISTORY");
+  if (HWND question = WaitForDialog(program)) CloseDialog(question, IDYES);
+  Presses({lblNUMBER + 1, lblNUMBER + 9, lblPOINT, lblNUMBER + 9, lblNUMBER + 5, lblMULTIPLY,
+           lblNUMBER + 3, lblEQUALS, lblNUMBER + 1, lblDIVIDE, lblNUMBER + 3, lblADD, lblNUMBER + 1,
+           lblNUMBER + 2, lblEQUALS, lblNUMBER + 8, lblMULTIPLY, lblNUMBER + 7})(program,
+                                                                                 calculator);
+}
+
+void DoSumsUnseen(const Program& program, HWND calculator) {
+  DoSums(program, calculator);
+  Choose(calculator, L"mnuCALCSHOWHIST");
+}
+
 void OpenMenu(const Program& program, HWND form) {
   Click({RectOf(form).left + 60, RectOf(form).top + 10}, MouseButton::kRight);
   WaitForMenus(program, 1);
@@ -92,6 +108,9 @@ const std::vector<Subject>& Subjects() {
       {L"stopwatch-running", kStopwatch, kPlain, {}, Presses({lblStartfrmSTWwg})},
       {L"countdown", kCountdown, kDpis | kFewPresets, kSetCountdown},
       {L"countdown-running", kCountdown, kPlain, kSetCountdown, Presses({lblStart})},
+      {L"calculator", kCalculator, kDpis | kFewPresets, {}, DoSums},
+      {L"calculator-no-log", kCalculator, kFewPresets, {}, DoSumsUnseen},
+      {L"calculator-menu", kCalculator, kPlain, {}, OpenMenu, Part::kForm, L"#32768"},
       {L"options", kManager, kDpis, {}, Command(L"mnuDCGENSET"), Part::kForm, L"frmVRNpr"},
       {L"clock-properties", kClock, kDpis, {}, Command(L"mnuCLOCKPROPS"), Part::kForm, L"frmCLKpr"},
       {L"alarms", kClock, kDpis, kAlarms, Command(L"mnuCLOCKALARMSET"), Part::kForm, L"frmCLKas"},
