@@ -154,9 +154,13 @@ void HttpFetch::Transfer::OnStatus(DWORD status, void* information, DWORD length
     case WINHTTP_CALLBACK_STATUS_READ_COMPLETE:
       OnRead(length);
       break;
-    case WINHTTP_CALLBACK_STATUS_REQUEST_ERROR:
-      End(ErrorReason(static_cast<WINHTTP_ASYNC_RESULT*>(information)->dwError));
+    case WINHTTP_CALLBACK_STATUS_REQUEST_ERROR: {
+      const DWORD error = static_cast<WINHTTP_ASYNC_RESULT*>(information)->dwError;
+      result.unreachable =
+          error == ERROR_WINHTTP_NAME_NOT_RESOLVED || error == ERROR_WINHTTP_CANNOT_CONNECT;
+      End(ErrorReason(error));
       break;
+    }
     default:
       break;
   }

@@ -18,7 +18,8 @@ struct HttpLimits {
 struct HttpResult {
   bool ok = false;  // status 200 and a whole body
   std::string body;
-  std::wstring reason;  // in plain words when not ok, such as "the server cannot be reached"
+  std::wstring reason;       // in plain words when not ok, such as "the server cannot be reached"
+  bool unreachable = false;  // there was no server to send the request to
 };
 
 class HttpFetch : private Window {

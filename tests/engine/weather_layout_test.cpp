@@ -99,8 +99,7 @@ TEST(WeatherLayout, LeavesOutByRank) {
   std::size_t before = 13;
   bool seen[14] = {};
   for (int height = 300; height >= 30; --height) {
-    const WeatherLayout layout =
-        LayOutWeather({600, height}, 96, Usual(), test::PlainMeasure());
+    const WeatherLayout layout = LayOutWeather({600, height}, 96, Usual(), test::PlainMeasure());
     const std::size_t now = Shown(layout).size();
     EXPECT_LE(now, before) << height;
     EXPECT_EQ(layout.forecast[0].date.shown(), now == 13) << height;

@@ -128,7 +128,7 @@ TEST_F(Weather, FirstStartShowsLondonFromTheLiveSource) {
   EXPECT_EQ(Label(lblATTRIBUTION), L"Open-Meteo.com");
 }
 
-TEST_F(Weather, PlaceAndScaleAreChosen) {
+TEST_F(Weather, PlaceIsChosenFromListsOrTyped) {
   AskFeed();
   server_.Answer(Feed(L"London, United Kingdom"));
   Start();
@@ -165,9 +165,14 @@ TEST_F(Weather, PlaceAndScaleAreChosen) {
   EXPECT_EQ(Label(lblTEMPERATURE), L"1C");
   EXPECT_TRUE(LastRequest().starts_with("/wxdata/weather/rss/local/2657896?"));
   EXPECT_EQ(Stored(L"Weather location-country-area"), L"Zurich");
+}
 
+TEST_F(Weather, UnitedStatesAndFahrenheitAreChosen) {
+  AskFeed();
   server_.Answer(Feed(L"Los Angeles, California", L"68"));
-  dialog = OpenProperties();
+  Start();
+  EXPECT_EQ(WaitForLabel(lblTEMPERATURE, L"20C"), L"20C");
+  HWND dialog = OpenProperties();
   ASSERT_TRUE(ClickOn(Control(dialog, optLOCATIONS + 1)));
   EXPECT_EQ(WaitFor([&] { return Items(Control(dialog, cboCOUNTRY)).size(); }, 51u), 51u);
   EXPECT_EQ(Text(Control(dialog, lblCountry)), L"&State:");
@@ -185,7 +190,7 @@ TEST_F(Weather, PlaceAndScaleAreChosen) {
   dialog = OpenProperties();
   SetText(Control(dialog, cboCOUNTRYAREA), L"Atlantis");
   Leave(dialog, IDOK);
-  EXPECT_TRUE(WaitForRequests(4));
+  EXPECT_TRUE(WaitForRequests(3));
   EXPECT_TRUE(LastRequest().starts_with("/wxdata/weather/rss/local/5368361?"));
   EXPECT_EQ(Stored(L"Weather location-country-area"), L"Atlantis");
 }

@@ -165,7 +165,6 @@ void WeatherDialog::Store() {
   settings.Write(kWeatherWorld, Checked(optLOCATIONS) ? L"0" : L"1");
   settings.Write(kWeatherCountry, ControlText(countries_.id));
   settings.Write(kWeatherCity, ControlText(cities_.id));
-  LoadPlace();
   WeatherDataGet();
 }
 

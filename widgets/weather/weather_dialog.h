@@ -26,6 +26,9 @@ class WeatherDialog : public Dialog {  // frmWTHpr
   void WeatherDataGet();
   // Fetches it however young the data is, unless a fetch is under way.
   void WeatherRefresh();
+  // Asks the live source anew when an hour has passed since, or could not be reached at all. To be
+  // called now and then.
+  void KeepUpToDate();
   // Reads the stored response again.
   void DataFileRead();
 
@@ -33,8 +36,6 @@ class WeatherDialog : public Dialog {  // frmWTHpr
   // known.
   const WeatherLabels& labels() const { return labels_; }
   WeatherStatus status() const;
-  // The live source is asked, because no feed's address is set.
-  bool live_source() const;
 
  private:
   // A combo box in which places are chosen or typed.
@@ -64,6 +65,7 @@ class WeatherDialog : public Dialog {  // frmWTHpr
   std::wstring DataList(const wchar_t* name) const;
   std::optional<WeatherPlace> Resolve(bool united, const std::wstring& area,
                                       const std::wstring& city) const;
+  bool live_source() const;  // it is asked, because no feed's address is set
   void LoadPlace();
   bool AnswerIsFresh() const;
   std::wstring Address() const;  // empty when the place is not known
@@ -91,8 +93,10 @@ class WeatherDialog : public Dialog {  // frmWTHpr
   std::uint64_t answered_ = 0;        // when it came, in milliseconds since the system started
   bool live_data_ = false;            // txtDATA comes from it
   std::optional<LocalTime> updated_;  // when txtDATA came
-  std::wstring failure_;              // of the last fetch
+  std::uint64_t asked_ = 0;           // when the last fetch began, in those milliseconds
   bool fetching_ = false;
+  std::wstring failure_;  // of the last fetch
+  bool unreachable_ = false;
 };
 
 }  // namespace varnel

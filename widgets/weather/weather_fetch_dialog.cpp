@@ -27,7 +27,8 @@ WeatherDialog::WeatherDialog(Services& services)
       webDATA_(services.ui, kLimits) {
   labels_.temperature = L"-";
   labels_.condition = L"No weather yet";
-  LoadPlace();
+  labels_.location =
+      services.settings.Read(kWeatherCity) + L", " + services.settings.Read(kWeatherCountry);
 }
 
 std::wstring WeatherDialog::DataList(const wchar_t* name) const {
@@ -41,12 +42,11 @@ std::optional<WeatherPlace> WeatherDialog::Resolve(bool united, const std::wstri
 
 void WeatherDialog::LoadPlace() {
   const Settings& settings = services_.settings;
-  const std::wstring area = settings.Read(kWeatherCountry);
-  const std::wstring city = settings.Read(kWeatherCity);
-  if (auto place = Resolve(ReadFlag(settings, kWeatherWorld), area, city)) {
+  if (auto place = Resolve(ReadFlag(settings, kWeatherWorld), settings.Read(kWeatherCountry),
+                           settings.Read(kWeatherCity))) {
     place_ = *std::move(place);
+    if (txtDATA_.empty()) labels_.location = place_.city + L", " + place_.area;
   }
-  if (txtDATA_.empty()) labels_.location = city + L", " + area;
 }
 
 bool WeatherDialog::live_source() const {
@@ -58,14 +58,22 @@ bool WeatherDialog::AnswerIsFresh() const {
 }
 
 void WeatherDialog::WeatherDataGet() {
-  // The scale may be another one now.
+  // Place and scale may be others now.
+  const WeatherPlace former = place_;
+  LoadPlace();
   if (live_data_) ReadLiveAnswer();
   DataFileRead();
-  if (!live_source() || !AnswerIsFresh()) Fetch();
+  const bool under_way = fetching_ && place_ == former;
+  if (!under_way && !(live_source() && AnswerIsFresh())) Fetch();
 }
 
 void WeatherDialog::WeatherRefresh() {
   if (!fetching_) Fetch();
+}
+
+void WeatherDialog::KeepUpToDate() {
+  if (!live_source() || fetching_) return;
+  if (unreachable_ || ::GetTickCount64() - asked_ >= kHourMs) Fetch();
 }
 
 std::wstring WeatherDialog::Address() const {
@@ -83,6 +91,7 @@ void WeatherDialog::Fetch() {
     return;
   }
   fetching_ = true;
+  asked_ = ::GetTickCount64();
   webDATA_.Start(address, [this, place = place_, live = live_source()](const HttpResult& result) {
     OnFetched(result, place, live);
   });
@@ -90,6 +99,7 @@ void WeatherDialog::Fetch() {
 }
 
 void WeatherDialog::OnFetched(const HttpResult& result, const WeatherPlace& place, bool live) {
+  unreachable_ = result.unreachable;
   if (!result.ok) {
     Fail(result.reason);
   } else if (!live) {

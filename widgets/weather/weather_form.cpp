@@ -14,8 +14,8 @@
 namespace varnel {
 namespace {
 
-constexpr int kReadAgainMs = 100;
-constexpr int kHourMs = 60 * 60 * 1000;
+constexpr int kFirstReadingMs = 20;  // timers wait until the widget is painted
+constexpr int kMinuteMs = 60 * 1000;
 constexpr int kStripGap = 12;  // at 96 dpi
 constexpr double kCardCorner = 6;
 constexpr int kCardWeight = 96;     // of a button's face against the ground
@@ -35,14 +35,14 @@ WeatherForm::WeatherForm(Services& services, const FormEntry& entry, int index)
       lblDESC_(services.ui),
       days_{DayLabels(services.ui), DayLabels(services.ui), DayLabels(services.ui)},
       lblUPDATED_(services.ui),
-      tmrWEATHER_(*this, kReadAgainMs,
+      tmrWEATHER_(*this, kFirstReadingMs,
                   [this] {
                     tmrWEATHER_.Stop();
-                    dialog_->DataFileRead();
+                    dialog_->WeatherDataGet();
                   }),
-      hourly_(*this, kHourMs, [this] {
-        if (dialog_->live_source()) dialog_->WeatherRefresh();
-        RefreshContent();  // the data may be a day old by now
+      minutely_(*this, kMinuteMs, [this] {
+        dialog_->KeepUpToDate();
+        RefreshContent();  // the data may be of yesterday by now
       }) {}
 
 void WeatherForm::OnLoad() {
@@ -60,14 +60,13 @@ void WeatherForm::OnLoad() {
   buttons().Add(lblATTRIBUTION, L"", 0, false);
   dialog_ = dynamic_cast<WeatherDialog*>(services().program.FindDialog(L"frmWTHpr"));
   if (!dialog_) return;
-  dialog_->WeatherDataGet();
   tmrWEATHER_.Start();
-  hourly_.Start();
+  minutely_.Start();
 }
 
 void WeatherForm::OnUnload() {
   tmrWEATHER_.Stop();
-  hourly_.Stop();
+  minutely_.Stop();
 }
 
 void WeatherForm::LayOutPanel(const Rect& panel) {

@@ -48,8 +48,8 @@ class WeatherForm : public WidgetForm {  // frmWTHwg
   ThemedLabel lblDESC_;
   std::array<DayLabels, 3> days_;
   ThemedLabel lblUPDATED_;
-  Timer tmrWEATHER_;
-  Timer hourly_;
+  Timer tmrWEATHER_;  // once after loading: reads what is stored and fetches anew
+  Timer minutely_;
 };
 
 }  // namespace varnel
