@@ -41,30 +41,32 @@ double Milliseconds() {
   return 1000.0 * static_cast<double>(ticks.QuadPart) / static_cast<double>(frequency.QuadPart);
 }
 
-void Begin(const Press& press, Point at) {
+// Presses the button under the pointer or the key, or releases it, and does not wait for anything.
+void SendPress(const Press& press, bool down) {
+  INPUT event = {};
   if (press.clicked) {
-    PressMouse(at);
+    event.type = INPUT_MOUSE;
+    event.mi.dwFlags = down ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_LEFTUP;
   } else {
-    PressKey(press.key);
+    event.type = INPUT_KEYBOARD;
+    event.ki.wVk = press.key;
+    event.ki.dwFlags = down ? 0 : KEYEVENTF_KEYUP;
   }
-}
-
-void End(const Press& press, Point at) {
-  if (press.clicked) ReleaseMouse(at);
+  ::SendInput(1, &event, sizeof event);
 }
 
 // The time of one press, or nothing when the picture did not change.
-std::optional<double> TimeOf(const Press& press, HWND watched, Point at) {
+std::optional<double> TimeOf(const Press& press, HWND watched) {
   const Picture before = StillPictureOf(watched);
   const double start = Milliseconds();
-  Begin(press, at);
+  SendPress(press, true);
   double now = start;
   bool changed = false;
   while (!changed && now - start < kPatienceMs) {
     changed = PictureOf(watched) != before;
     now = Milliseconds();
   }
-  End(press, at);
+  SendPress(press, false);
   if (!changed) return std::nullopt;
   return now - start;
 }
@@ -79,11 +81,10 @@ void Measure(const Press& press) {
   HWND form = WaitForForm(program, press.form);
   HWND watched = form ? Control(form, press.watched) : nullptr;
   if (!watched || !Activate(form)) return;
-  const Point at = CentreOf(watched);
-  if (press.clicked) MoveMouse(at);
+  if (press.clicked) MoveMouse(CentreOf(watched));
   std::vector<double> times;
   for (int i = 0; i < kPresses; ++i) {
-    if (const auto time = TimeOf(press, watched, at)) times.push_back(*time);
+    if (const auto time = TimeOf(press, watched)) times.push_back(*time);
   }
   if (times.size() < kPresses / 2) return;
   std::ranges::sort(times);
