@@ -16,7 +16,6 @@ namespace varnel {
 namespace {
 
 constexpr int kFullTurn = 360;
-constexpr double kReadable = 4.5;
 
 constexpr ThemeNumber kNumbers[] = {
     {20, 255, [](const ThemeRecord& theme) -> int { return theme.bytTHEMEOPACITY; },
@@ -60,7 +59,7 @@ Readability ReadabilityOf(const ThemeRecord& theme, const SystemColours& system)
 }
 
 bool HardToRead(double ratio) {
-  return ratio < kReadable;
+  return ratio < kReadableContrast;
 }
 
 std::wstring RatioText(double ratio) {

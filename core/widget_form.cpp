@@ -13,7 +13,7 @@ namespace {
 constexpr int kHoverTickMs = 100;
 constexpr wchar_t kBarGlyphs[] = {L'\xE204', L'\xE203', L'\xE202'};
 constexpr const wchar_t* kBarWords[] = {L"Menu", L"Hide", L"Close"};
-constexpr int kBarGlyphHeight = 14;
+constexpr int kBarGlyphHeight = 17;
 
 // The user wants to see the focus even while the mouse is used.
 bool KeyboardCuesAlways() {

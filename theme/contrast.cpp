@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "base/geometry.h"
-
 namespace varnel {
 namespace {
 
@@ -34,12 +32,6 @@ double ContrastRatio(Colour a, Colour b) {
   const double first = RelativeLuminance(a) + 0.05;
   const double second = RelativeLuminance(b) + 0.05;
   return std::max(first, second) / std::min(first, second);
-}
-
-double NeededContrast(int height_px, int dpi, bool bold) {
-  constexpr int kTwipsPerPoint = 20;
-  const int large = (bold ? 14 : 18) * kTwipsPerPoint;
-  return TwipsFromPixels(height_px, dpi) >= large ? 3 : 4.5;
 }
 
 std::optional<Colour> HaloColour(Colour text, Colour ground, Colour theme, double needed,

@@ -14,9 +14,9 @@ double RelativeLuminance(Colour colour);
 // 1 (alike) to 21 (black and white). The order of the two does not matter; both must be translated.
 double ContrastRatio(Colour a, Colour b);
 
-// The contrast that text of that height on a screen of `dpi` needs: 3 for large text, which is 18
-// points and more, or 14 when bold; 4.5 for any other.
-double NeededContrast(int height_px, int dpi, bool bold);
+// The contrast that small text needs. Large text could do with 3, but is given the same: a halo of 3
+// is hardly seen around white letters on pale grounds.
+inline constexpr double kReadableContrast = 4.5;
 
 // The colour of the halo that makes `text` readable on `ground`: nothing when their contrast is
 // `needed` already, else `theme` made darker or lighter, away from the text as long as that can do,

@@ -41,7 +41,7 @@ void DrawPlain(HDC dc, HFONT font, const Rect& box, const std::wstring& text,
 // slim.
 HaloShape ShapeFor(const TextStyle& style) {
   const double unit = style.dpi / static_cast<double>(kDefaultDpi);
-  const double grown = std::min(style.font.height / 40.0, 3 * unit);
+  const double grown = std::min(style.font.height / 30.0, 3 * unit);
   return {std::max(0.8 * unit, grown * 0.5), std::max(1.4 * unit, grown)};
 }
 
@@ -84,8 +84,8 @@ void PaintText(Ui& ui, Surface& surface, const Rect& box, const std::wstring& te
               Blend(style.colour, style.ground, kFaintWeight, system));
     return;
   }
-  const double needed = NeededContrast(style.font.height, style.dpi, style.font.bold);
-  const auto halo = HaloColour(style.colour, style.ground, style.halo_base, needed, system);
+  const auto halo =
+      HaloColour(style.colour, style.ground, style.halo_base, kReadableContrast, system);
   if (!halo) {
     DrawPlain(surface.dc(), font, area, text, style, style.colour);
     return;

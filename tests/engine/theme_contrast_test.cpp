@@ -26,21 +26,6 @@ TEST(Contrast, KnownFigures) {
   EXPECT_DOUBLE_EQ(ContrastRatio(0x123456, 0x123456), 1);
 }
 
-TEST(Contrast, LargeTextNeedsLess) {
-  const struct {
-    int height, dpi;
-    bool bold;
-    double needed;
-  } cases[] = {{24, 96, false, 3},  {23, 96, false, 4.5},  {19, 96, true, 3},
-               {18, 96, true, 4.5}, {47, 192, false, 4.5}, {48, 192, false, 3},
-               {36, 144, false, 3}, {28, 144, true, 3},    {24, 0, false, 3},
-               {-5, 96, false, 4.5}};
-  for (const auto& test : cases) {
-    EXPECT_EQ(NeededContrast(test.height, test.dpi, test.bold), test.needed)
-        << test.height << ' ' << test.dpi << ' ' << test.bold;
-  }
-}
-
 void ExpectReadable(Colour text, Colour ground, Colour theme) {
   for (const double needed : {3.0, 4.5}) {
     const auto halo = HaloColour(text, ground, theme, needed, kSystem);

@@ -173,9 +173,9 @@ LRESULT CountdownForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
 LRESULT CountdownForm::ColourField(HDC dc) const {
   // A field has no halo: where the text needs one, its whole ground takes the halo's colour.
   const TextStyle style = PanelTextStyle(1);
-  const Colour ground = HaloColour(style.colour, style.ground, style.halo_base,
-                                   NeededContrast(1, dpi(), false), services().colours)
-                            .value_or(style.ground);
+  const Colour ground =
+      HaloColour(style.colour, style.ground, style.halo_base, kReadableContrast, services().colours)
+          .value_or(style.ground);
   ::SetTextColor(dc, style.colour);
   ::SetBkColor(dc, ground);
   ::SetDCBrushColor(dc, ground);
