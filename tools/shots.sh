@@ -25,6 +25,16 @@ sheet() {
     -background '#33566e' -fill white "$shots/sheets/$1.png"
 }
 
+# Every symbol of the weather, in the order that the font has them.
+symbols() {
+  local lines
+  LC_ALL=C.UTF-8 printf -v lines '%b' '\uE000\uE001\uE002\uE003\uE004\uE005\uE006\uE007\n' \
+    '\uE008\uE009\uE00A\uE00B\uE00C\uE00D\uE00E\uE00F\n' '\uE011\uE012\uE014\uE015'
+  imagemagick convert -font build/windows/assets/Icon-works.ttf -pointsize 64 -kerning 16 \
+    -interline-spacing 16 -background '#33566e' -fill white -bordercolor '#33566e' \
+    "label:$lines" -border 16 "$shots/sheets/weather-symbols.png"
+}
+
 imagemagick mogrify -format png "$shots"/*.bmp
 rm "$shots"/*.bmp
 sheet presets 14 'presets-*'
@@ -33,4 +43,5 @@ for size in 2400x1600 5900x3471 7500x5250; do
   sheet "widgets-$size-150-200" 4 "*-$size-[12][05]0"
   sheet "widgets-$size-presets" 6 "*-$size-[A-Z]*"
 done
+symbols
 echo "The pictures are in build/shots"

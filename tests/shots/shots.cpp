@@ -10,9 +10,11 @@
 #include "core/sizes.h"
 #include "core/widget_index.h"
 #include "tests/rig/files.h"
+#include "tests/rig/http_server.h"
 #include "tests/rig/input.h"
 #include "tests/rig/picture.h"
 #include "tests/shots/subjects.h"
+#include "tests/support/weather_samples.h"
 #include "theme/preset.h"
 #include "theme/preset_generator.h"
 #include "theme/system_colours_win.h"
@@ -23,7 +25,6 @@
 namespace varnel::shots {
 namespace {
 
-constexpr wchar_t kNowhere[] = L"http://127.0.0.1:9/";
 constexpr Point kCorner = {20, 20};
 constexpr Size kSizes[] = {kFixedSizes[2], {5900, 3471}, kFixedSizes[0]};  // twips
 constexpr Size kPresetSize = {3600, 2400};
@@ -84,6 +85,7 @@ rig::Picture PictureAtRest(HWND window) {
 class Studio {
  public:
   explicit Studio(std::wstring folder) : folder_(std::move(folder)) {
+    weather_.Answer(test::LiveAnswer());
     // The first start of all makes the presets.
     Start({L"", kManager, kPlain}, {});
     program_.Kill();
@@ -123,7 +125,7 @@ class Studio {
     // Nothing listens there, so nothing is asked outside this machine.
     settings.SetText(std::wstring(kWebAddress.section), std::wstring(kWebAddress.name), kNowhere);
     settings.SetText(std::wstring(kLiveWeatherAddress.section),
-                     std::wstring(kLiveWeatherAddress.name), kNowhere);
+                     std::wstring(kLiveWeatherAddress.name), weather_.address());
     const FormEntry* form = &kManagerForm;
     if (const WidgetEntry* widget = WidgetAt(subject.widget)) {
       form = widget;
@@ -197,6 +199,7 @@ class Studio {
 
   std::wstring folder_;
   DiskFiles files_;
+  rig::HttpServer weather_;
   rig::Root root_;
   rig::Program program_{root_};
 };

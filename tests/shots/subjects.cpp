@@ -12,7 +12,16 @@ namespace {
 
 using namespace rig;
 
-enum WidgetNumber { kClock, kCalculator, kCalendar, kNotes, kStopwatch, kCountdown };
+enum WidgetNumber {
+  kClock,
+  kCalculator,
+  kCalendar,
+  kNotes,
+  kStopwatch,
+  kCountdown,
+  kWhiteboard,
+  kWeather
+};
 
 constexpr wchar_t kStart[] = L"frmVRNpr\\Details";
 constexpr wchar_t kClockDetails[] = L"frmCLKpr\\Details";
@@ -28,6 +37,8 @@ const std::vector<StoredText> kAlarms = {
     {L"frmCLKas\\Details", L"Alarm Preset Use_0", L"1"},
     {L"frmCLKas\\Details", L"Alarm Preset Message_1", L"Call the people from the workshop back"},
     {L"frmCLKas\\Details", L"Alarm Preset Time_1", L"14:30:00"}};
+const std::vector<StoredText> kNoWeather = {
+    {L"frmWTHpr\\Details", L"Weather Feed Endpoint", kNowhere}};
 const std::vector<StoredText> kAllWidgets = {
     {kStart, L"Start-Load-Clock", L"True"},       {kStart, L"Start-Load-Calc", L"True"},
     {kStart, L"Start-Load-Calendar", L"True"},    {kStart, L"Start-Load-Notes", L"True"},
@@ -77,6 +88,14 @@ void DoSumsUnseen(const Program& program, HWND calculator) {
   Choose(calculator, L"mnuCALCSHOWHIST");
 }
 
+void LetWeatherCome(const Program&, HWND weather) {
+  WaitUntil([weather] { return Text(Control(weather, lblTEMPERATURE)) != L"-"; });
+}
+
+void LetWeatherFail(const Program&, HWND weather) {
+  WaitUntil([weather] { return Text(Control(weather, lblUPDATED)).starts_with(L"The server"); });
+}
+
 void OpenMenu(const Program& program, HWND form) {
   Click({RectOf(form).left + 60, RectOf(form).top + 10}, MouseButton::kRight);
   WaitForMenus(program, 1);
@@ -111,6 +130,15 @@ const std::vector<Subject>& Subjects() {
       {L"calculator", kCalculator, kDpis | kFewPresets, {}, DoSums},
       {L"calculator-no-log", kCalculator, kFewPresets, {}, DoSumsUnseen},
       {L"calculator-menu", kCalculator, kPlain, {}, OpenMenu, Part::kForm, L"#32768"},
+      {L"weather", kWeather, kDpis | kManyPresets, {}, LetWeatherCome},
+      {L"weather-failed", kWeather, kPlain, kNoWeather, LetWeatherFail},
+      {L"weather-properties",
+       kWeather,
+       kDpis,
+       {},
+       Command(L"mnuWEATHERPROPS"),
+       Part::kForm,
+       L"frmWTHpr"},
       {L"options", kManager, kDpis, {}, Command(L"mnuDCGENSET"), Part::kForm, L"frmVRNpr"},
       {L"clock-properties", kClock, kDpis, {}, Command(L"mnuCLOCKPROPS"), Part::kForm, L"frmCLKpr"},
       {L"alarms", kClock, kDpis, kAlarms, Command(L"mnuCLOCKALARMSET"), Part::kForm, L"frmCLKas"},

@@ -9,6 +9,9 @@
 
 namespace varnel::shots {
 
+// An address where nobody answers.
+inline constexpr wchar_t kNowhere[] = L"http://127.0.0.1:9/";
+
 // A setting that stands in the registry before the program starts.
 struct StoredText {
   std::wstring section;
