@@ -143,16 +143,14 @@ void Application::CheckForUpdate(int mode) {
 }
 
 void Application::UpdateCheckDone(const HttpResult& page) {
-  // An answer that is none never completes the check.
-  if (page.ok && UpdateAvailable(WideFromUtf8(page.body), version_)) {
+  // Without an answer the check is never completed, and nothing is shown.
+  if (!page.ok) return;
+  if (UpdateAvailable(WideFromUtf8(page.body), version_)) {
     OpenPage(pages_.update);
-  } else if (update_mode_ != 0 && page.ok) {
+  } else if (update_mode_ != 0) {
     ShowInformation(menus_.handle(),
                     L"If you are in need of updates due to bugs or whatever then let me know.",
                     L"There Are No Updates Available as Yet");
-  } else if (update_mode_ != 0) {
-    ShowInformation(menus_.handle(), L"The update check did not work: " + page.reason + L".",
-                    std::wstring(kApplicationTitle));
   }
 }
 
