@@ -3,9 +3,24 @@
 #include <algorithm>
 
 namespace varnel {
+namespace {
+
+constexpr int kOpenTries = 10;
+constexpr DWORD kOpenPauseMs = 10;
+
+// Programs that watch the clipboard look into it whenever it changes, each for a moment.
+bool OpenClipboardSoon(HWND owner) {
+  for (int attempt = 1; !::OpenClipboard(owner); ++attempt) {
+    if (attempt == kOpenTries) return false;
+    ::Sleep(kOpenPauseMs);
+  }
+  return true;
+}
+
+}  // namespace
 
 bool CopyText(HWND owner, const std::wstring& text) {
-  if (!::OpenClipboard(owner)) return false;
+  if (!OpenClipboardSoon(owner)) return false;
   ::EmptyClipboard();
   const std::size_t bytes = (text.size() + 1) * sizeof(wchar_t);
   HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, bytes);
@@ -23,7 +38,7 @@ bool CopyText(HWND owner, const std::wstring& text) {
 
 std::wstring PastedText(HWND owner, std::size_t most) {
   std::wstring text;
-  if (!::OpenClipboard(owner)) return text;
+  if (!OpenClipboardSoon(owner)) return text;
   HANDLE memory = ::GetClipboardData(CF_UNICODETEXT);
   if (const void* source = memory ? ::GlobalLock(memory) : nullptr) {
     const auto* units = static_cast<const wchar_t*>(source);

@@ -1,5 +1,7 @@
 #include "widgets/calculator/calculator_form.h"
 
+#include <utility>
+
 #include "base/number_text.h"
 #include "core/folders.h"
 #include "core/shared_menu.h"
@@ -96,8 +98,13 @@ void CalculatorForm::Press(CalculatorKey key) {
 }
 
 bool CalculatorForm::OnKey(const MSG& message) {
-  if (message.message == WM_KEYDOWN && OnKeyDown(static_cast<int>(message.wParam))) return true;
-  if (message.message == WM_KEYUP && ListHasFocus() && IsListKey(message.wParam)) {
+  if (message.message == WM_KEYDOWN) {
+    // With Ctrl the same keys move the widget.
+    list_struck_ = ListHasFocus() && IsListKey(message.wParam) && (ShiftState() & kCtrlHeld) == 0;
+    if (OnKeyDown(static_cast<int>(message.wParam))) return true;
+  }
+  // By now the list has done what the key asks.
+  if (message.message == WM_KEYUP && std::exchange(list_struck_, false)) {
     if (const auto line = lvwFILES_.Focused()) Recall(*line);
   }
   return WidgetForm::OnKey(message);
