@@ -227,9 +227,11 @@ TEST_F(Calculator, LogIsShownAndHidden) {
   EXPECT_TRUE(IsShown(Part(lvwFILES)));
   const int page = List(LVM_GETCOUNTPERPAGE);
   EXPECT_EQ(List(LVM_GETTOPINDEX), 300 - page) << "the end of the log is to be seen";
+  ClickLine(300 - page);
   const int narrow = RectOf(Part(lblEQUALS)).width();
   Choose(form_, L"mnuCALCSHOWHIST");
   EXPECT_TRUE(WaitUntil([&] { return !IsShown(Part(lvwFILES)); }));
+  EXPECT_TRUE(FocusedWindow() == Part(lblEQUALS)) << "not what is out of sight";
   EXPECT_GT(RectOf(Part(lblEQUALS)).width(), narrow) << "the keys take the room";
   Choose(form_, L"mnuCALCSHOWHIST");
   EXPECT_TRUE(WaitUntil([&] { return IsShown(Part(lvwFILES)); }));

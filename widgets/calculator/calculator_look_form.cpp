@@ -139,6 +139,8 @@ void CalculatorForm::PlaceLog() {
   const Colour well = look.text.ground;
   look.selected = ContrastRatio(face, well) > ContrastRatio(toned, well) ? face : toned;
   look.selected_without_focus = Blend(look.selected, well, kHalf, services().colours);
+  // What cannot be seen must not have the focus.
+  if (places_.log.empty() && ListHasFocus()) ::SetFocus(::GetDlgItem(handle(), lblEQUALS));
   lvwFILES_.Place(places_.log.empty() ? Rect{} : place, look);
 }
 

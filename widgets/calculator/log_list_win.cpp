@@ -73,6 +73,8 @@ int LogList::LineHeight() const {
 // The list view's own scroll bar lies outside the region that is seen; the themed one takes its
 // place.
 void LogList::Arrange() {
+  const ScrollRange before = Range();
+  const bool at_end = before.first + std::max(before.page, 1) >= before.count;
   const int bar_width = Scaled(kBarWidth, look_.text.dpi);
   Rect lines = place_;
   lines.right = std::max(lines.left, lines.right - bar_width);
@@ -85,6 +87,7 @@ void LogList::Arrange() {
   RECT inside = {};
   ::GetClientRect(handle_, &inside);
   ListView_SetColumnWidth(handle_, 0, std::min(lines.width(), static_cast<int>(inside.right)));
+  if (at_end) ListView_EnsureVisible(handle_, before.count - 1, FALSE);
   ::ShowWindow(handle_, lines.empty() ? SW_HIDE : SW_SHOWNA);
   bar_.Place({lines.right, lines.top, place_.right, lines.bottom}, look_.text.ground,
              look_.selected);
