@@ -14,8 +14,8 @@ double RelativeLuminance(Colour colour);
 // 1 (alike) to 21 (black and white). The order of the two does not matter; both must be translated.
 double ContrastRatio(Colour a, Colour b);
 
-// The contrast that small text needs. Large text could do with 3, but is given the same: a halo of 3
-// is hardly seen around white letters on pale grounds.
+// The contrast that small text needs. Large text could do with 3, but is given the same: a halo of
+// 3 is hardly seen around white letters on pale grounds.
 inline constexpr double kReadableContrast = 4.5;
 
 // The colour of the halo that makes `text` readable on `ground`: nothing when their contrast is

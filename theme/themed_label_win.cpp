@@ -35,7 +35,8 @@ void ThemedLabel::SetGlyph(wchar_t glyph) {
 }
 
 void ThemedLabel::Place(const Rect& box, const TextStyle& style) {
-  // What the system would move along may be what a neighbour, not yet moved, has just painted there.
+  // What the system would move along may be what a neighbour, not yet moved, has just painted
+  // there.
   ::SetWindowPos(handle(), nullptr, box.left, box.top, box.width(), box.height(),
                  SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
   if (style == style_) return;
