@@ -272,9 +272,6 @@ void RunCommand(const Program& program, HWND form, int id) {
   } else {
     Send(form, WM_COMMAND, static_cast<WPARAM>(id));
   }
-  if (is(L"mnuDCUPDATES")) {
-    EXPECT_TRUE(WaitForDialog(program));
-  }
   DismissAll(program);
   EXPECT_TRUE(program.running()) << "after command " << id;
 }
