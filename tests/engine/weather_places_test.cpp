@@ -104,7 +104,7 @@ TEST(TypeAhead, AccentsAndCaseDoNotMatter) {
 TEST(TypeAhead, BeginningsBeforeLaterWords) {
   const Names items = {L"East London", L"Londonderry", L"London", L"Z\u00FCrich"};
   EXPECT_EQ(TypeAheadMatch(items, L"lond"), 1u);
-  EXPECT_EQ(TypeAheadMatch(items, L"LONDON"), 1u);
+  EXPECT_EQ(TypeAheadMatch(items, L"LONDON"), 2u);  // a whole name is never a longer one
   EXPECT_EQ(TypeAheadMatch(items, L"zur"), 3u);
   EXPECT_EQ(TypeAheadMatch(Names{L"New York", L"East London"}, L"l\u00F4n"), 1u);
   EXPECT_EQ(TypeAheadMatch(items, L"ondon"), std::nullopt);
@@ -117,7 +117,7 @@ TEST(TypeAhead, OffersTheRestOfAnItemWhileTheUserTypes) {
   using Offer = std::optional<Completion>;
   EXPECT_EQ(CompleteTyped(items, L"l", L""), (Offer{{1, 1}}));
   EXPECT_EQ(CompleteTyped(items, L"LON", L"LO"), (Offer{{1, 3}}));
-  EXPECT_EQ(CompleteTyped(items, L"london", L"londo"), (Offer{{1, 6}}));
+  EXPECT_EQ(CompleteTyped(items, L"london", L"londo"), (Offer{{2, 6}}));
   EXPECT_EQ(CompleteTyped(items, L"zur", L"zu"), (Offer{{3, 3}}));
   EXPECT_EQ(CompleteTyped(items, L"st jo", L"st j"), (Offer{{4, 6}}));
   // Typing over what stood there is no deleting; taking away is, and so is what changes nothing.

@@ -57,6 +57,18 @@ bool LeftOut(wchar_t unit) {
          (unit >= kFirstMark && unit <= kLastMark);
 }
 
+// The first item that is `wanted`, which is folded, else the first that begins with it.
+std::optional<std::size_t> FindBegun(std::span<const std::wstring> items,
+                                     std::wstring_view wanted) {
+  std::optional<std::size_t> begun;
+  for (std::size_t i = 0; i < items.size(); ++i) {
+    const std::wstring item = FoldForSearch(items[i]);
+    if (item == wanted) return i;
+    if (!begun && item.starts_with(wanted)) begun = i;
+  }
+  return begun;
+}
+
 }  // namespace
 
 std::wstring FoldForSearch(std::wstring_view text) {
@@ -81,28 +93,24 @@ std::optional<Completion> CompleteTyped(std::span<const std::wstring> items,
                                         std::wstring_view typed, std::wstring_view former) {
   const std::wstring wanted = FoldForSearch(typed);
   if (wanted.empty() || FoldForSearch(former).starts_with(wanted)) return std::nullopt;
-  for (std::size_t i = 0; i < items.size(); ++i) {
-    const std::wstring_view item = items[i];
-    if (!FoldForSearch(item).starts_with(wanted)) continue;
-    std::size_t count = 1;
-    while (FoldForSearch(item.substr(0, count)).size() < wanted.size()) ++count;
-    return Completion{i, count};
-  }
-  return std::nullopt;
+  const auto found = FindBegun(items, wanted);
+  if (!found) return std::nullopt;
+  const std::wstring_view item = items[*found];
+  std::size_t count = 1;
+  while (FoldForSearch(item.substr(0, count)).size() < wanted.size()) ++count;
+  return Completion{*found, count};
 }
 
 std::optional<std::size_t> TypeAheadMatch(std::span<const std::wstring> items,
                                           std::wstring_view typed) {
   const std::wstring wanted = FoldForSearch(typed);
   if (wanted.empty()) return std::nullopt;
+  if (const auto begun = FindBegun(items, wanted)) return begun;
   const std::wstring later_word = L" " + wanted;
-  std::optional<std::size_t> second_best;
   for (std::size_t i = 0; i < items.size(); ++i) {
-    const std::wstring item = FoldForSearch(items[i]);
-    if (item.starts_with(wanted)) return i;
-    if (!second_best && item.find(later_word) != std::wstring::npos) second_best = i;
+    if (FoldForSearch(items[i]).find(later_word) != std::wstring::npos) return i;
   }
-  return second_best;
+  return std::nullopt;
 }
 
 }  // namespace varnel

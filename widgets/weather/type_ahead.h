@@ -22,13 +22,15 @@ struct Completion {
   bool operator==(const Completion&) const = default;
 };
 
-// The first item that begins with `typed`, compared folded. Nothing when none does, nothing was
-// typed, or the user has only deleted from `former`, what was typed before.
+// The first item that equals `typed`, else the first that begins with it, compared folded. Nothing
+// when none does, nothing was typed, or the user has only deleted from `former`, what was typed
+// before.
 std::optional<Completion> CompleteTyped(std::span<const std::wstring> items,
                                         std::wstring_view typed, std::wstring_view former);
 
-// The item that `typed` means: the first that begins with it, else the first with a later word
-// that does, both compared folded. Nothing when none does or nothing was typed. Completing to a
+// The item that `typed` means: the first that equals it, else the first that begins with it, else
+// the first with a later word that does, compared folded. Nothing when none does or nothing was
+// typed. Completing to a
 // whole item keeps the list's own spelling in the box, which is what resolving a place needs.
 std::optional<std::size_t> TypeAheadMatch(std::span<const std::wstring> items,
                                           std::wstring_view typed);
