@@ -22,15 +22,14 @@ std::wstring_view Bare(std::wstring_view field) {
 std::wstring NormaliseFeed(std::wstring_view response) {
   response = response.substr(0, kMostFeedText);
   std::wstring text;
-  if (response.empty()) return text;
   text.reserve(response.size() + response.size() / 8);
-  for (std::size_t start = 0;;) {
+  for (std::size_t start = 0; start < response.size();) {
     std::size_t end = start;
     while (end < response.size() && !EndsField(response[end])) ++end;
     text.append(Bare(response.substr(start, end - start))).append(L"\r\n");
-    if (end == response.size()) return text;
     start = end + (response.substr(end, 2) == L"\r\n" ? 2 : 1);
   }
+  return text;
 }
 
 }  // namespace varnel

@@ -12,8 +12,8 @@ inline constexpr std::size_t kMostFeedText = std::size_t{1} << 20;
 
 // The fields of a response, one a line: every comma and every line end (CR LF, CR or LF) ends a
 // field, also inside quotes; a field loses its leading blanks and then one pair of quotes around
-// it, and is followed by CR LF. The end of the text ends the last field, so "a" and "a,b" give one
-// and two lines. An empty response gives an empty text.
+// it, and is followed by CR LF. The end of the text ends a field that has begun, so "a", "a," and
+// "a,b" give one, one and two lines. An empty response gives an empty text.
 std::wstring NormaliseFeed(std::wstring_view response);
 
 }  // namespace varnel
