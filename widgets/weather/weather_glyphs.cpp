@@ -27,15 +27,16 @@ constexpr wchar_t kSnowShower = 0xE014;
 constexpr wchar_t kBlowingSnow = 0xE015;
 
 // By the numbers of the feed's images, except where the reduced set gives a number another meaning:
-// 0 is the cloudy night, 9 rain of every kind, 13 snow of every kind, 19 cloud and fog, 25 not
-// available.
+// 0 is the cloudy night, 5 snow in the forecast and what is mixed with it, 9 rain of every kind, 13
+// snow of every kind, 19 cloud in the forecast and fog, 25 not available. A forecast has no words
+// beside its picture, so where the two differ the picture is the forecast's.
 constexpr wchar_t kGlyphs[] = {
     kCloudyNight,   // 0 cloudy night
     kWind,          // 1 tropical storm, hurricane
     kWind,          // 2 hurricane
     kThunder,       // 3 thunderstorm
     kThunder,       // 4 thunderstorm
-    kSleet,         // 5 rain and snow
+    kSnow,          // 5 snow, rain and snow
     kSleet,         // 6 rain and sleet
     kSleet,         // 7 snow and sleet
     kSleet,         // 8 freezing drizzle
@@ -49,7 +50,7 @@ constexpr wchar_t kGlyphs[] = {
     kSnow,          // 16 snow
     kHail,          // 17 hail
     kSleet,         // 18 sleet
-    kFog,           // 19 cloud, mist, fog, haze
+    kCloudy,        // 19 cloud, mist, fog, haze
     kFog,           // 20 fog
     kHaze,          // 21 haze
     kDust,          // 22 smoke
