@@ -56,6 +56,13 @@ class Weather : public Scene {
   bool WaitForStatus(const std::wstring& part, int deadline = kPatience) {
     return WaitUntil([&] { return Label(lblUPDATED).find(part) != std::wstring::npos; }, deadline);
   }
+  // The data's age and nothing else.
+  bool WaitForGoodStatus() {
+    return WaitUntil([&] {
+      const std::wstring status = Label(lblUPDATED);
+      return status.starts_with(L"Updated ") && status.size() < 20;
+    });
+  }
   bool WaitForRequests(std::size_t count) {
     return WaitUntil([&] { return server_.requests().size() >= count; });
   }
@@ -73,6 +80,11 @@ class Weather : public Scene {
   void Leave(HWND dialog, int button) {
     ASSERT_TRUE(ClickOn(Control(dialog, button)));
     EXPECT_TRUE(WaitForNoForm(program(), L"frmWTHpr"));
+  }
+  void ChooseCity(const std::wstring& city) {
+    HWND dialog = OpenProperties();
+    SetText(Control(dialog, cboCOUNTRYAREA), city);
+    Leave(dialog, IDOK);
   }
 
   HttpServer server_;
@@ -126,6 +138,14 @@ TEST_F(Weather, FirstStartShowsLondonFromTheLiveSource) {
   EXPECT_TRUE(WaitForStatus(L"the weather answer lacks \"daily\"")) << Label(lblUPDATED);
   EXPECT_EQ(Label(lblTEMPERATURE), L"60F ");
   EXPECT_EQ(Label(lblATTRIBUTION), L"Open-Meteo.com");
+
+  // Back at a place whose answer is still good, nothing is fetched for the other one any more.
+  server_.Answer("", Manner::kSilent);
+  ChooseCity(L"Leeds");
+  EXPECT_TRUE(WaitForRequests(4));
+  ChooseCity(L"London");
+  EXPECT_TRUE(WaitForGoodStatus()) << Label(lblUPDATED);
+  EXPECT_EQ(Label(lblTEMPERATURE), L"60F ");
 }
 
 TEST_F(Weather, PlaceIsChosenFromListsOrTyped) {
@@ -187,9 +207,7 @@ TEST_F(Weather, UnitedStatesAndFahrenheitAreChosen) {
   EXPECT_EQ(Stored(L"Weather location-world") + Stored(L"Temp-Selected"), L"11");
 
   // A place that is not known leaves the one before.
-  dialog = OpenProperties();
-  SetText(Control(dialog, cboCOUNTRYAREA), L"Atlantis");
-  Leave(dialog, IDOK);
+  ChooseCity(L"Atlantis");
   EXPECT_TRUE(WaitForRequests(3));
   EXPECT_TRUE(LastRequest().starts_with("/wxdata/weather/rss/local/5368361?"));
   EXPECT_EQ(Stored(L"Weather location-country-area"), L"Atlantis");
@@ -228,9 +246,7 @@ TEST_F(Weather, FailingServerKeepsTheDataAndSaysWhy) {
     EXPECT_FALSE(FileExists(root().folder() + L"\\web.txt"));
     server_.Answer(good);
     Choose(widget_, L"mnuWEATHERREFRESH");
-    EXPECT_TRUE(WaitUntil([&] {
-      return Label(lblUPDATED).starts_with(L"Updated ") && Label(lblUPDATED).size() < 20;
-    })) << Label(lblUPDATED);
+    EXPECT_TRUE(WaitForGoodStatus()) << Label(lblUPDATED);
   }
 }
 

@@ -61,10 +61,15 @@ void WeatherDialog::WeatherDataGet() {
   // Place and scale may be others now.
   const WeatherPlace former = place_;
   LoadPlace();
+  if (place_ != former) {
+    // Nor does it matter any more what becomes of a fetch for the other place.
+    webDATA_.Cancel();
+    fetching_ = false;
+    failure_.clear();
+  }
   if (live_data_) ReadLiveAnswer();
   DataFileRead();
-  const bool under_way = fetching_ && place_ == former;
-  if (!under_way && !(live_source() && AnswerIsFresh())) Fetch();
+  if (!fetching_ && !(live_source() && AnswerIsFresh())) Fetch();
 }
 
 void WeatherDialog::WeatherRefresh() {
@@ -126,9 +131,9 @@ void WeatherDialog::TakeResponse(const std::wstring& text, bool live) {
   const HourglassPointer pointer;
   const std::wstring file = services_.program_folder + L"web.txt";
   const std::string printed = CodePageFromWide(text) + "\r\n";
-  services_.files.Replace(file, printed);
-  std::wstring response =
-      NormaliseFeed(WideFromCodePage(services_.files.Read(file, printed.size()).value_or(printed)));
+  const bool written = services_.files.Replace(file, printed);
+  const auto read = written ? services_.files.Read(file, printed.size()) : std::nullopt;
+  std::wstring response = NormaliseFeed(WideFromCodePage(read.value_or(printed)));
   if (HoldsWeather(response)) {
     txtDATA_ = std::move(response);
     live_data_ = live;
