@@ -104,7 +104,7 @@ bool HttpFetch::Transfer::Open(const std::wstring& address, const std::shared_pt
   const std::wstring path(parts.lpszUrlPath, parts.dwUrlPathLength + parts.dwExtraInfoLength);
   const DWORD secure = parts.nScheme == INTERNET_SCHEME_HTTPS ? WINHTTP_FLAG_SECURE : 0;
 
-  session = api.open(L"WidgetVarnel/1.0", WINHTTP_ACCESS_TYPE_DEFAULT_PROXY, nullptr, nullptr,
+  session = api.open(L"WidgetVarnel/1.0", WINHTTP_ACCESS_TYPE_AUTOMATIC_PROXY, nullptr, nullptr,
                      WINHTTP_FLAG_ASYNC);
   if (session) connection = api.connect(session, host.c_str(), parts.nPort, 0);
   if (connection) {
