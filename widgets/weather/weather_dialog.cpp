@@ -154,7 +154,7 @@ void WeatherDialog::ShowPick() {
   const std::wstring city = Completed(cities_);
   const auto place = Resolve(United(), area, city);
   SetControlText(lblPICK, place ? L"Weather for " + place->city + L", " + place->area + L"."
-                          : area.empty() || city.empty()
+                          : city.empty() || area != listed_country_
                               ? L"Type the first letters, or choose from the lists."
                               : L"No such place is known; the weather stays as it is.");
 }
