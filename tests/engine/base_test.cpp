@@ -7,6 +7,7 @@
 #include "base/number_text.h"
 #include "base/settings.h"
 #include "base/text.h"
+#include "tests/support/cases.h"
 #include "tests/support/memory_settings.h"
 
 namespace varnel {
@@ -34,13 +35,11 @@ TEST(Text, TrimsBlanksOnlyAndSplitsEverything) {
 }
 
 TEST(Numbers, LeadingNumberReadsWhatItCan) {
-  const struct {
-    const wchar_t* text;
-    double value;
-  } cases[] = {{L"1.05", 1.05}, {L"  1.05 beta", 1.05}, {L"-3x", -3}, {L"True", 0},
-               {L"", 0},        {L".5.5", .5},          {L"-", 0},    {L"1e5", 1},
-               {L"7.", 7}};
-  for (const auto& test : cases) EXPECT_EQ(LeadingNumber(test.text), test.value) << test.text;
+  const test::Cases<const wchar_t*, double> cases = {
+      {L"1.05", 1.05}, {L"  1.05 beta", 1.05}, {L"-3x", -3}, {L"True", 0},
+      {L"", 0},        {L".5.5", .5},          {L"-", 0},    {L"1e5", 1},
+      {L"7.", 7}};
+  for (const auto& [text, value] : cases) EXPECT_EQ(LeadingNumber(text), value) << text;
   EXPECT_TRUE(std::isfinite(LeadingNumber(std::wstring(5000, L'9'))));
 }
 

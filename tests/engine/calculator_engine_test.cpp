@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "base/number_format.h"
+#include "tests/support/cases.h"
 
 namespace varnel {
 namespace {
@@ -34,11 +35,7 @@ struct Calculator {
 using Lines = std::vector<std::wstring>;
 
 TEST(CalculatorEngine, KeysGiveDisplayAndLog) {
-  const struct {
-    const wchar_t* keys;
-    const wchar_t* display;
-    Lines log;
-  } cases[] = {
+  const test::Cases<const wchar_t*, const wchar_t*, Lines> cases = {
       {L"", L"0", {}},
       {L"2+3*4=", L"20.0", {L"2 + 3 = 5.0", L"5 * 4 = 20.0"}},
       {L"1/3=", L"0.333", {L"1 / 3 = 0.333"}},
@@ -73,23 +70,21 @@ TEST(CalculatorEngine, KeysGiveDisplayAndLog) {
       {L"12345678901234567", L"1.23456789012346E+157", {}},  // the exponent is text too
       {L"12345678901234567.2", L"1.23456789012346E+157", {}},
   };
-  for (const auto& test : cases) {
+  for (const auto& [keys, display, log] : cases) {
     Calculator run;
-    run.Press(test.keys);
-    EXPECT_EQ(run.engine.display(), test.display) << test.keys;
-    EXPECT_EQ(run.log, test.log) << test.keys;
+    run.Press(keys);
+    EXPECT_EQ(run.engine.display(), display) << keys;
+    EXPECT_EQ(run.log, log) << keys;
   }
 }
 
 TEST(CalculatorEngine, IndicatorShowsThePendingOperator) {
-  const struct {
-    const wchar_t* keys;
-    const wchar_t* indicator;
-  } cases[] = {{L"1+", L"+"},  {L"1-", L"-"},   {L"1*", L"\u00D7"},  {L"1/", L"\u00F7"},
-               {L"1+2", L"+"}, {L"1+2s", L"+"}, {L"1+2=", L""},      {L"1+C", L""},
-               {L"1+E", L""},  {L"1+2d", L""},  {L"1+2*", L"\u00D7"}};
-  for (const auto& test : cases) {
-    EXPECT_EQ(Calculator().Press(test.keys).engine.indicator(), test.indicator) << test.keys;
+  const test::Cases<const wchar_t*, const wchar_t*> cases = {
+      {L"1+", L"+"},  {L"1-", L"-"},   {L"1*", L"\u00D7"},  {L"1/", L"\u00F7"},
+      {L"1+2", L"+"}, {L"1+2s", L"+"}, {L"1+2=", L""},      {L"1+C", L""},
+      {L"1+E", L""},  {L"1+2d", L""},  {L"1+2*", L"\u00D7"}};
+  for (const auto& [keys, indicator] : cases) {
+    EXPECT_EQ(Calculator().Press(keys).engine.indicator(), indicator) << keys;
   }
 }
 

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "base/number_format.h"
+#include "tests/support/cases.h"
 #include "widgets/calculator/pasted_number.h"
 
 namespace varnel {
@@ -52,38 +53,35 @@ TEST(CalculatorKeys, EveryKeyHasItsOwnFace) {
 }
 
 TEST(PastedNumber, ReadsWhatPeopleCopy) {
-  const struct {
-    const wchar_t* text;
-    double value;
-  } cases[] = {{L"5", 5},
-               {L" \t-2.5\r\n", -2.5},
-               {L"- 2.5", -2.5},
-               {L"\u22122.5", -2.5},
-               {L"+7", 7},
-               {L"1,234.5", 1234.5},
-               {L"1.234,5", 1234.5},
-               {L"1,234,567", 1234567},
-               {L"1.234.567", 1234567},
-               {L"1.234.567,25", 1234567.25},
-               {L"1 234 567,25", 1234567.25},
-               {L"1\u00A0234.5", 1234.5},
-               {L"1\u202F234,567", 1234.567},
-               {L"1'234.5", 1234.5},
-               {L"1\u2019234\u2019567", 1234567},
-               {L"1,234", 1234},
-               {L"1.234", 1.234},
-               {L"0,125", .125},
-               {L"1,25", 1.25},
-               {L"1234,567", 1234.567},
-               {L",5", .5},
-               {L".5", .5},
-               {L",123", .123},
-               {L"1 234,", 1234},
-               {L"5.", 5},
-               {L"1E+15", 1e15},
-               {L"-1.5e-05", -1.5e-5},
-               {L"0,0", 0}};
-  for (const auto& test : cases) EXPECT_EQ(ParsePastedNumber(test.text), test.value) << test.text;
+  const test::Cases<const wchar_t*, double> cases = {{L"5", 5},
+                                                     {L" \t-2.5\r\n", -2.5},
+                                                     {L"- 2.5", -2.5},
+                                                     {L"\u22122.5", -2.5},
+                                                     {L"+7", 7},
+                                                     {L"1,234.5", 1234.5},
+                                                     {L"1.234,5", 1234.5},
+                                                     {L"1,234,567", 1234567},
+                                                     {L"1.234.567", 1234567},
+                                                     {L"1.234.567,25", 1234567.25},
+                                                     {L"1 234 567,25", 1234567.25},
+                                                     {L"1\u00A0234.5", 1234.5},
+                                                     {L"1\u202F234,567", 1234.567},
+                                                     {L"1'234.5", 1234.5},
+                                                     {L"1\u2019234\u2019567", 1234567},
+                                                     {L"1,234", 1234},
+                                                     {L"1.234", 1.234},
+                                                     {L"0,125", .125},
+                                                     {L"1,25", 1.25},
+                                                     {L"1234,567", 1234.567},
+                                                     {L",5", .5},
+                                                     {L".5", .5},
+                                                     {L",123", .123},
+                                                     {L"1 234,", 1234},
+                                                     {L"5.", 5},
+                                                     {L"1E+15", 1e15},
+                                                     {L"-1.5e-05", -1.5e-5},
+                                                     {L"0,0", 0}};
+  for (const auto& [text, value] : cases) EXPECT_EQ(ParsePastedNumber(text), value) << text;
 }
 
 TEST(PastedNumber, TakesNothingElse) {

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "tests/support/cases.h"
 #include "tests/support/memory_files.h"
 #include "widgets/calculator/calculation_log.h"
 
@@ -136,11 +137,7 @@ TEST_F(CalculatorLog, SeededChangesFollowTheKeyRule) {
 
 TEST_F(CalculatorLog, DamagedFilesLoadWhatTheyCan) {
   const std::string longest(1000, 'x');
-  const struct {
-    std::string content;
-    Lines lines;
-    bool whole;
-  } cases[] = {
+  const test::Cases<std::string, Lines, bool> cases = {
       {"", {}, true},
       {"\r\n\r\n\"\"\r\n\"\r\n", {}, true},
       {"\"a\"\r\n\"b\"", {L"a", L"b"}, true},             // the last line end is missing
@@ -156,20 +153,20 @@ TEST_F(CalculatorLog, DamagedFilesLoadWhatTheyCan) {
       {std::string("\"a\"\r\n\0\1\2junk\r\n\"b\"\r\n", 19), {L"a", L"b"}, false},
       {"\"a\x1A\"", {}, false},
   };
-  for (const auto& test : cases) {
+  for (const auto& [content, lines, whole] : cases) {
     files.files.clear();
-    Start(test.content);
-    EXPECT_EQ(Shown(), test.lines) << test.content;
-    EXPECT_EQ(files.files.at(kPath), test.content);  // reading writes nothing
+    Start(content);
+    EXPECT_EQ(Shown(), lines) << content;
+    EXPECT_EQ(files.files.at(kPath), content);  // reading writes nothing
     EXPECT_TRUE(log.Append(L"new"));
-    EXPECT_EQ(files.FileExists(kOldPath), !test.whole) << test.content;
-    if (!test.whole) {
-      EXPECT_EQ(files.files[kOldPath], test.content);
+    EXPECT_EQ(files.FileExists(kOldPath), !whole) << content;
+    if (!whole) {
+      EXPECT_EQ(files.files[kOldPath], content);
     }
     EXPECT_EQ(AfterRestart(), Shown());
     EXPECT_TRUE(log.saved());
     log.Append(L"newer");  // moved aside once only
-    EXPECT_EQ(files.files.size(), test.whole ? 1u : 2u);
+    EXPECT_EQ(files.files.size(), whole ? 1u : 2u);
   }
 }
 

@@ -11,6 +11,7 @@
 #include "core/placement.h"
 #include "core/sizes.h"
 #include "core/widget_index.h"
+#include "tests/support/cases.h"
 #include "tests/support/garbage_values.h"
 #include "tests/support/memory_settings.h"
 
@@ -74,22 +75,20 @@ bool OnSomeMonitor(const Rect& pixels, const Screens& screens) {
 }
 
 TEST(Grid, SnapsToTheNearestLineHalvesToTheEvenOne) {
-  const struct {
-    int from;
-    int to;
-  } cases[] = {{0, 0},     {70, 0},     {74, 0},      {75, 0},      {76, 150},   {80, 150},
-               {225, 300}, {220, 150},  {370, 300},   {375, 300},   {380, 450},  {-70, 0},
-               {-75, 0},   {-80, -150}, {-225, -300}, {-375, -300}, {1500, 1500}};
-  for (const auto& test : cases) {
-    Point corner{test.from, 300};
+  const test::Cases<int, int> cases = {
+      {0, 0},     {70, 0},     {74, 0},      {75, 0},      {76, 150},   {80, 150},
+      {225, 300}, {220, 150},  {370, 300},   {375, 300},   {380, 450},  {-70, 0},
+      {-75, 0},   {-80, -150}, {-225, -300}, {-375, -300}, {1500, 1500}};
+  for (const auto& [from, to] : cases) {
+    Point corner{from, 300};
     SnappedPosition old{-15'000, 300};
     EXPECT_TRUE(SnapToGrid(corner, old));
-    EXPECT_EQ(corner, (Point{test.to, 300})) << test.from;
-    EXPECT_EQ(old.lngLEFTOLD, test.to);
-    corner = {300, test.from};
-    EXPECT_TRUE(SnapToGrid(corner, old) || test.to == 300);
-    EXPECT_EQ(corner, (Point{300, test.to}));
-    EXPECT_EQ(old.lngTOPOLD, test.to);
+    EXPECT_EQ(corner, (Point{to, 300})) << from;
+    EXPECT_EQ(old.lngLEFTOLD, to);
+    corner = {300, from};
+    EXPECT_TRUE(SnapToGrid(corner, old) || to == 300);
+    EXPECT_EQ(corner, (Point{300, to}));
+    EXPECT_EQ(old.lngTOPOLD, to);
     EXPECT_FALSE(SnapToGrid(corner, old));
   }
   for (const int extreme : {std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {
@@ -109,11 +108,7 @@ TEST(Grid, AWindowPutBackOnItsLineHasNotMoved) {
 }
 
 TEST(KeepOnScreen, BringsWindowsInsideTheNearestWorkArea) {
-  const struct {
-    Screens screens;
-    Rect from;
-    Point to;
-  } cases[] = {
+  const test::Cases<Screens, Rect, Point> cases = {
       {kOne, {100, 100, 400, 300}, {100, 100}},
       {kOne, {1100, 100, 1400, 300}, {980, 100}},
       {kOne, {-50, -60, 250, 140}, {0, 0}},
@@ -126,10 +121,10 @@ TEST(KeepOnScreen, BringsWindowsInsideTheNearestWorkArea) {
       {kThree, {-3000, 2000, -2700, 2200}, {-2560, 940}},  // far below the left one
       {Screens{}, {-3000, 2000, -2700, 2200}, {-3000, 2000}},
   };
-  for (const auto& test : cases) {
-    const Rect kept = KeepOnScreen(test.from, test.screens);
-    EXPECT_EQ((Point{kept.left, kept.top}), test.to);
-    EXPECT_EQ((Size{kept.width(), kept.height()}), (Size{test.from.width(), test.from.height()}));
+  for (const auto& [screens, from, to] : cases) {
+    const Rect kept = KeepOnScreen(from, screens);
+    EXPECT_EQ((Point{kept.left, kept.top}), to);
+    EXPECT_EQ((Size{kept.width(), kept.height()}), (Size{from.width(), from.height()}));
   }
 }
 
@@ -166,17 +161,14 @@ TEST(FitPlace, LeavesWhatFitsToTheTwip) {
 }
 
 TEST(SizeGrip, KeepsToTheGridTheSmallestSizeAndTheScreen) {
-  const struct {
-    Place place;
-    Size size;
-  } cases[] = {
+  const test::Cases<Place, Size> cases = {
       {{{1500, 1500}, {5900, 3471}}, {5850, 3450}},
       {{{1500, 1500}, {2475, 2475}}, {2400, 2400}},  // 16.5 steps
       {{{1500, 1500}, {100, -900}}, kSmallestSize},
       {{{1500, 1500}, {90'000, 90'000}}, {1180 * 15, 670 * 15}},
       {{{18'900, 11'400}, {6000, 6000}}, kSmallestSize},
   };
-  for (const auto& test : cases) EXPECT_EQ(SnapSize(test.place, kOne), test.size);
+  for (const auto& [place, size] : cases) EXPECT_EQ(SnapSize(place, kOne), size);
   EXPECT_EQ(SnapSize({{0, 0}, {90'000, 90'000}}, Screens{}), (Size{90'000, 90'000}));
 }
 

@@ -10,6 +10,7 @@
 #include "core/setting_lists.h"
 #include "core/settings_store.h"
 #include "core/start_options.h"
+#include "tests/support/cases.h"
 #include "tests/support/garbage_values.h"
 #include "tests/support/memory_registry.h"
 
@@ -33,10 +34,7 @@ class Store : public testing::Test {
 
 TEST_F(Store, ReadsTextsWithAndWithoutTerminators) {
   const std::wstring longest(254, L'a');
-  const struct {
-    std::wstring stored;
-    std::wstring read;
-  } cases[] = {
+  const test::Cases<std::wstring, std::wstring> cases = {
       {L"abc", L"abc"},
       {std::wstring(L"abc\0", 4), L"abc"},
       {std::wstring(L" abc \0\0", 7), L"abc"},
@@ -50,9 +48,9 @@ TEST_F(Store, ReadsTextsWithAndWithoutTerminators) {
       {std::wstring(3, L'\0'), L"default"},
   };
   EXPECT_EQ(Get(), L"default");
-  for (const auto& test : cases) {
-    Put(test.stored);
-    EXPECT_EQ(Get(), test.read) << test.stored;
+  for (const auto& [stored, read] : cases) {
+    Put(stored);
+    EXPECT_EQ(Get(), read) << stored;
   }
   Put(L"12", false);
   EXPECT_EQ(Get(), L"default");
@@ -125,22 +123,19 @@ class FakeList : public ListControl {
 using Items = std::vector<std::wstring>;
 
 TEST_F(Store, ListsComeBackReversedAndWithoutDuplicates) {
-  const struct {
-    Items saved;
-    Items loaded;
-  } cases[] = {{{L"a", L"b", L"c"}, {L"c", L"b", L"a"}},
-               {{L"a", L"b", L"a", L"c"}, {L"c", L"b", L"a"}},
-               {{L" a ", L"a", L"A"}, {L"A", L"a"}},
-               {{L"a", L"  ", L"b"}, {L"b", L"a"}},
-               {{}, {}}};
-  for (const auto& test : cases) {
+  const test::Cases<Items, Items> cases = {{{L"a", L"b", L"c"}, {L"c", L"b", L"a"}},
+                                           {{L"a", L"b", L"a", L"c"}, {L"c", L"b", L"a"}},
+                                           {{L" a ", L"a", L"A"}, {L"A", L"a"}},
+                                           {{L"a", L"  ", L"b"}, {L"b", L"a"}},
+                                           {{}, {}}};
+  for (const auto& [items, expected] : cases) {
     FakeList saved;
-    saved.items = test.saved;
+    saved.items = items;
     SaveList(saved, L"history", store_);
     FakeList loaded;
     LoadList(loaded, L"history", store_);
-    EXPECT_EQ(loaded.items, test.loaded);
-    EXPECT_EQ(loaded.text, test.loaded.empty() ? L"" : test.loaded.back());
+    EXPECT_EQ(loaded.items, expected);
+    EXPECT_EQ(loaded.text, expected.empty() ? L"" : expected.back());
   }
   // The empty list came last and hides the items before it without removing them.
   EXPECT_EQ(store_.Read(L"history\\Items Total", L"List Total", L"?"), L"0");

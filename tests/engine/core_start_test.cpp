@@ -8,6 +8,7 @@
 #include "core/core_settings.h"
 #include "core/folders.h"
 #include "core/update_check.h"
+#include "tests/support/cases.h"
 #include "tests/support/garbage_values.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/memory_settings.h"
@@ -16,13 +17,11 @@ namespace varnel {
 namespace {
 
 TEST(Folders, SeparatorIsAddedToLongerPathsOnly) {
-  const struct {
-    const wchar_t* path;
-    const wchar_t* result;
-  } cases[] = {{L"", L""},          {L"C:", L"C:"},         {L"abc", L"abc"},
-               {L"C:\\", L"C:\\"},  {L"C:\\a", L"C:\\a\\"}, {L"C:\\a\\", L"C:\\a\\"},
-               {L"abcd", L"abcd\\"}};
-  for (const auto& test : cases) EXPECT_EQ(AddTrailingSeparator(test.path), test.result);
+  const test::Cases<const wchar_t*, const wchar_t*> cases = {
+      {L"", L""},          {L"C:", L"C:"},         {L"abc", L"abc"},
+      {L"C:\\", L"C:\\"},  {L"C:\\a", L"C:\\a\\"}, {L"C:\\a\\", L"C:\\a\\"},
+      {L"abcd", L"abcd\\"}};
+  for (const auto& [path, result] : cases) EXPECT_EQ(AddTrailingSeparator(path), result);
 }
 
 TEST(Folders, EnsureCreatesOrMoves) {
@@ -68,14 +67,12 @@ TEST(UpdateCheck, ComparesTheLeadingNumber) {
   EXPECT_EQ(VersionText(1, 5), L"1.05");
   EXPECT_EQ(VersionText(1, 0), L"1.00");
   EXPECT_EQ(VersionText(12, 34), L"12.34");
-  const struct {
-    const wchar_t* page;
-    bool newer;
-  } cases[] = {{L"1.05", false}, {L"1.06", true},     {L"  2 is out", true}, {L"1.04", false},
-               {L"", false},     {L"<html>9", false}, {L"1.1", true},        {L"v2", false},
-               {L"-3", false},   {L"1.05.9", false}};
-  for (const auto& test : cases) {
-    EXPECT_EQ(UpdateAvailable(test.page, L"1.05"), test.newer) << test.page;
+  const test::Cases<const wchar_t*, bool> cases = {
+      {L"1.05", false}, {L"1.06", true},     {L"  2 is out", true}, {L"1.04", false},
+      {L"", false},     {L"<html>9", false}, {L"1.1", true},        {L"v2", false},
+      {L"-3", false},   {L"1.05.9", false}};
+  for (const auto& [page, newer] : cases) {
+    EXPECT_EQ(UpdateAvailable(page, L"1.05"), newer) << page;
   }
 }
 
@@ -106,12 +103,7 @@ TEST(UpdateCheck, AddressesComeFromOnePlainBase) {
 TEST(CommandLine, TakesWhatItKnowsAndNothingElse) {
   using Words = std::vector<std::wstring>;
   constexpr const wchar_t* kTitle = L"Widget Varnel";
-  const struct {
-    Words words;
-    const wchar_t* title;
-    const wchar_t* folder;
-    bool to_tray;
-  } cases[] = {
+  const test::Cases<Words, const wchar_t*, const wchar_t*, bool> cases = {
       {{}, kTitle, L"", false},
       {{L"/tray"}, kTitle, L"", true},
       {{L"/TRAY", L"/Settings", L"My test-1_2"}, L"My test-1_2", L"", true},
@@ -129,11 +121,11 @@ TEST(CommandLine, TakesWhatItKnowsAndNothingElse) {
       {{L"/data", L"/tray"}, kTitle, L"", true},
       {{L"tray", L"-tray", L"/trayx", L"C:\\note.rtf"}, kTitle, L"", false},
   };
-  for (const auto& test : cases) {
-    const CommandLine line = ParseCommandLine(test.words);
-    EXPECT_EQ(line.settings_title, test.title);
-    EXPECT_EQ(line.program_folder, test.folder);
-    EXPECT_EQ(line.to_tray, test.to_tray);
+  for (const auto& [words, title, folder, to_tray] : cases) {
+    const CommandLine line = ParseCommandLine(words);
+    EXPECT_EQ(line.settings_title, title);
+    EXPECT_EQ(line.program_folder, folder);
+    EXPECT_EQ(line.to_tray, to_tray);
   }
 }
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/cases.h"
+
 namespace varnel {
 namespace {
 
@@ -9,10 +11,7 @@ constexpr Rect kTrack{10, 20, 18, 220};
 constexpr int kLeast = 24;
 
 TEST(ScrollThumb, LiesInTheTrackAsThePageLiesInTheList) {
-  const struct {
-    ScrollRange range;
-    Rect thumb;
-  } cases[] = {
+  const test::Cases<ScrollRange, Rect> cases = {
       {{0, 10, 40}, {10, 20, 18, 70}},       // a quarter of the track
       {{30, 10, 40}, {10, 170, 18, 220}},    // the end
       {{15, 10, 40}, {10, 95, 18, 145}},     // halfway
@@ -24,8 +23,8 @@ TEST(ScrollThumb, LiesInTheTrackAsThePageLiesInTheList) {
       {{0, 0, 40}, {}},
       {{0, 10, 0}, {}},
   };
-  for (const auto& test : cases) {
-    EXPECT_EQ(ThumbIn(kTrack, test.range, kLeast), test.thumb) << test.range.first;
+  for (const auto& [range, thumb] : cases) {
+    EXPECT_EQ(ThumbIn(kTrack, range, kLeast), thumb) << range.first;
   }
   EXPECT_EQ(ThumbIn({0, 0, 8, 12}, {3, 1, 9}, kLeast), (Rect{0, 0, 8, 12}));
   EXPECT_EQ(ThumbIn({0, 0, 8, 0}, {0, 1, 9}, kLeast), Rect{});

@@ -5,6 +5,7 @@
 #include <limits>
 #include <random>
 
+#include "tests/support/cases.h"
 #include "tests/support/fixed_system_colours.h"
 #include "tests/support/memory_settings.h"
 #include "theme/chrome_colours.h"
@@ -68,20 +69,18 @@ TEST(Blend, AgreesWithALongerArithmetic) {
 }
 
 TEST(Theme, WeightsFollowTheContrast) {
-  const struct {
-    std::int32_t contrast;
-    long long load, chrome, panel;
-  } cases[] = {{44, 98, 113, 133},
-               {0, 120, 135, 155},
-               {255, -8, 8, 28},
-               {1, 120, 134, 154},
-               {3, 118, 134, 154},
-               {-2, 121, 136, 156},
-               {std::numeric_limits<std::int32_t>::min(), 1073741944, 1073741959, 1073741979}};
-  for (const auto& test : cases) {
-    EXPECT_EQ(ContrastWeight(120, test.contrast), test.load) << test.contrast;
-    EXPECT_EQ(ContrastWeight(135, test.contrast), test.chrome) << test.contrast;
-    EXPECT_EQ(ContrastWeight(155, test.contrast), test.panel) << test.contrast;
+  const test::Cases<std::int32_t, long long, long long, long long> cases = {
+      {44, 98, 113, 133},
+      {0, 120, 135, 155},
+      {255, -8, 8, 28},
+      {1, 120, 134, 154},
+      {3, 118, 134, 154},
+      {-2, 121, 136, 156},
+      {std::numeric_limits<std::int32_t>::min(), 1073741944, 1073741959, 1073741979}};
+  for (const auto& [contrast, load, chrome, panel] : cases) {
+    EXPECT_EQ(ContrastWeight(120, contrast), load) << contrast;
+    EXPECT_EQ(ContrastWeight(135, contrast), chrome) << contrast;
+    EXPECT_EQ(ContrastWeight(155, contrast), panel) << contrast;
   }
 }
 

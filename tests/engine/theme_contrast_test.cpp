@@ -3,6 +3,7 @@
 #include <limits>
 #include <random>
 
+#include "tests/support/cases.h"
 #include "tests/support/fixed_system_colours.h"
 #include "tests/support/memory_files.h"
 #include "theme/chrome_colours.h"
@@ -94,17 +95,15 @@ TEST(Halo, EveryGeneratedPresetIsReadable) {
 TEST(Gradient, RunsFromTheFirstColourToTheSecond) {
   const std::uint32_t black = OpaquePixel(kBlack);
   const std::uint32_t white = OpaquePixel(kWhite);
-  const struct {
-    double degrees;
-    Point first, last;  // where the two colours are whole
-  } cases[] = {{0, {0, 3}, {19, 5}},   {180, {19, 0}, {0, 9}}, {90, {7, 9}, {2, 0}},
-               {270, {3, 0}, {4, 9}},  {-90, {3, 0}, {4, 9}},  {45, {0, 9}, {19, 0}},
-               {225, {19, 0}, {0, 9}}, {720, {0, 3}, {19, 5}}};
-  for (const auto& test : cases) {
+  const test::Cases<double, Point, Point> cases = {{0, {0, 3}, {19, 5}},   {180, {19, 0}, {0, 9}},
+                                                   {90, {7, 9}, {2, 0}},   {270, {3, 0}, {4, 9}},
+                                                   {-90, {3, 0}, {4, 9}},  {45, {0, 9}, {19, 0}},
+                                                   {225, {19, 0}, {0, 9}}, {720, {0, 3}, {19, 5}}};
+  for (const auto& [degrees, first, last] : cases) {
     Image image(20, 10);
-    FillGradient(image, kBlack, kWhite, test.degrees, kSystem);
-    EXPECT_EQ(image.At(test.first.x, test.first.y), black) << test.degrees;
-    EXPECT_EQ(image.At(test.last.x, test.last.y), white) << test.degrees;
+    FillGradient(image, kBlack, kWhite, degrees, kSystem);
+    EXPECT_EQ(image.At(first.x, first.y), black) << degrees;
+    EXPECT_EQ(image.At(last.x, last.y), white) << degrees;
     for (const std::uint32_t pixel : image.All()) {
       ASSERT_EQ(pixel >> 24, 0xFFu);
       ASSERT_EQ(pixel & 0xFF, pixel >> 16 & 0xFF);  // grey all the way

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "tests/support/cases.h"
 #include "theme/ini_text.h"
 
 namespace varnel {
@@ -24,10 +25,7 @@ IniText Parsed(std::string_view bytes) {
 }
 
 TEST(IniText, LooksUpAsThePlatformDoes) {
-  const struct {
-    std::string_view bytes;
-    const wchar_t* value;  // of "> Key" in "Text"
-  } cases[] = {
+  const test::Cases<std::string_view, const wchar_t*> cases = {
       {"[Text]\r\n> Key=7\r\n", L"7"},
       {"[TEXT]\n> kEY=7", L"7"},
       {"\r\r  [ text ]\r\t> Key \t=\t 7 \r", L"7"},
@@ -48,11 +46,11 @@ TEST(IniText, LooksUpAsThePlatformDoes) {
       {"[]", L""},
       {"=", L""},
   };
-  for (const auto& test : cases) {
-    EXPECT_EQ(Parsed(test.bytes).Value(L"Text", L"> Key"), test.value) << test.bytes;
-    const bool ascii = !test.bytes.starts_with("\xEF");
+  for (const auto& [bytes, value] : cases) {
+    EXPECT_EQ(Parsed(bytes).Value(L"Text", L"> Key"), value) << bytes;
+    const bool ascii = !bytes.starts_with("\xEF");
     if (ascii) {
-      EXPECT_EQ(Parsed(Utf16(test.bytes)).Value(L"Text", L"> Key"), test.value) << test.bytes;
+      EXPECT_EQ(Parsed(Utf16(bytes)).Value(L"Text", L"> Key"), value) << bytes;
     }
   }
 }
@@ -67,10 +65,7 @@ TEST(IniText, LongValuesAreCut) {
 }
 
 TEST(IniText, SetsInPlaceAndLeavesTheRest) {
-  const struct {
-    std::string_view before;
-    std::string_view after;  // key "k" of section "s" set to "1"
-  } cases[] = {
+  const test::Cases<std::string_view, std::string_view> cases = {
       {"", "[s]\r\nk=1\r\n"},
       {"; note\n\n[S]\n K = 0 ; x\n\n[t]\nk=2\n", "; note\n\n[S]\n K =1\n\n[t]\nk=2\n"},
       {"[s]\r\na=2\r\n\r\n[t]\r\n", "[s]\r\na=2\r\nk=1\r\n\r\n[t]\r\n"},
@@ -83,11 +78,11 @@ TEST(IniText, SetsInPlaceAndLeavesTheRest) {
       {"\xEF\xBB\xBF\xEF\xBB\xBF", "\xEF\xBB\xBF\xEF\xBB\xBF\r\n[s]\r\nk=1\r\n"},
       {"\xE9t\xE9\n[s]\n\xFF=\xC0\n", "\xE9t\xE9\n[s]\n\xFF=\xC0\nk=1\r\n"},  // Latin-1
   };
-  for (const auto& test : cases) {
-    IniText ini = Parsed(test.before);
-    EXPECT_EQ(ini.Bytes(), test.before);
+  for (const auto& [before, after] : cases) {
+    IniText ini = Parsed(before);
+    EXPECT_EQ(ini.Bytes(), before);
     ini.SetValue(L"s", L"k", L"1");
-    EXPECT_EQ(ini.Bytes(), test.after);
+    EXPECT_EQ(ini.Bytes(), after);
   }
 }
 

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "base/text.h"
+#include "tests/support/cases.h"
 #include "tests/support/fixed_system_colours.h"
 #include "tests/support/garbage_values.h"
 #include "tests/support/memory_files.h"
@@ -61,13 +62,7 @@ TEST(Presets, TheExactTextOfAGeneratedOne) {
 
 // Main colour, opacity, contrast, bar text and panel text, worked out by hand from the palette.
 TEST(Presets, StylesChangeTheBaseColours) {
-  const struct {
-    const wchar_t* style;
-    const wchar_t* name;
-    Colour main;
-    int opacity, contrast;
-    Colour bar, panel;
-  } cases[] = {
+  const test::Cases<const wchar_t*, const wchar_t*, Colour, int, int, Colour, Colour> cases = {
       {L"Bright", L"Forest", 4293120, 240, 90, kWhite, kWhite},
       {L"Dark", L"Gray", 0x616161, 240, 30, 3092271, 3092271},
       {L"Flat", L"White", kWhite, 255, 255, 3092271, 3092271},
@@ -82,15 +77,15 @@ TEST(Presets, StylesChangeTheBaseColours) {
   };
   test::MemoryFiles files;
   EnsureThemeFolders(files, L"C:\\", kSystem);
-  for (const auto& test : cases) {
+  for (const auto& [style, name, main, opacity, contrast, bar, panel] : cases) {
     ThemeRecord theme = OtherTheme();
-    LoadPreset(files, StyleFolderPath(L"C:\\", test.style), test.name, theme);
-    const auto label = std::wstring(test.style) + L" " + test.name;
-    EXPECT_EQ(theme.lngTHEMECOLOR, test.main) << label;
-    EXPECT_EQ(theme.bytTHEMEOPACITY, test.opacity) << label;
-    EXPECT_EQ(theme.lngTHEMECONTRAST, test.contrast) << label;
-    EXPECT_EQ(theme.lngTHEMEBARFONTCOLOR, test.bar) << label;
-    EXPECT_EQ(theme.lngTHEMEPANELFONTCOLOR, test.panel) << label;
+    LoadPreset(files, StyleFolderPath(L"C:\\", style), name, theme);
+    const auto label = std::wstring(style) + L" " + name;
+    EXPECT_EQ(theme.lngTHEMECOLOR, main) << label;
+    EXPECT_EQ(theme.bytTHEMEOPACITY, opacity) << label;
+    EXPECT_EQ(theme.lngTHEMECONTRAST, contrast) << label;
+    EXPECT_EQ(theme.lngTHEMEBARFONTCOLOR, bar) << label;
+    EXPECT_EQ(theme.lngTHEMEPANELFONTCOLOR, panel) << label;
     EXPECT_EQ(theme.lngTHEMEBARFONTANGLE, 188) << label;
     EXPECT_EQ(theme.strTHEMEPANELFONTNAME, L"Tahoma") << label;
   }

@@ -5,6 +5,7 @@
 #include <random>
 #include <vector>
 
+#include "tests/support/cases.h"
 #include "tests/support/memory_settings.h"
 #include "widgets/time/alarms.h"
 
@@ -18,15 +19,13 @@ LocalTime At(int hour, int minute, int second) {
 }
 
 TEST(Alarms, TimeTextsInCommonSpellings) {
-  const struct {
-    const wchar_t* text;
-    const wchar_t* time;
-  } cases[] = {{L"07:30:00", L"07:30:00"}, {L"7:30", L"07:30:00"},       {L" 7:5:9 ", L"07:05:09"},
-               {L"7:30 pm", L"19:30:00"},  {L"7:30PM", L"19:30:00"},     {L"12:00 am", L"00:00:00"},
-               {L"12:15 pm", L"12:15:00"}, {L"12:00:01 a", L"00:00:01"}, {L"7 pm", L"19:00:00"},
-               {L"19:30 pm", L"19:30:00"}, {L"7.30", L"07:30:00"},       {L"23:59:59", L"23:59:59"},
-               {L"0:0", L"00:00:00"},      {L"8.05.10 p", L"20:05:10"}};
-  for (const auto& test : cases) EXPECT_EQ(AlarmTimeText(test.text), test.time) << test.text;
+  const test::Cases<const wchar_t*, const wchar_t*> cases = {
+      {L"07:30:00", L"07:30:00"}, {L"7:30", L"07:30:00"},       {L" 7:5:9 ", L"07:05:09"},
+      {L"7:30 pm", L"19:30:00"},  {L"7:30PM", L"19:30:00"},     {L"12:00 am", L"00:00:00"},
+      {L"12:15 pm", L"12:15:00"}, {L"12:00:01 a", L"00:00:01"}, {L"7 pm", L"19:00:00"},
+      {L"19:30 pm", L"19:30:00"}, {L"7.30", L"07:30:00"},       {L"23:59:59", L"23:59:59"},
+      {L"0:0", L"00:00:00"},      {L"8.05.10 p", L"20:05:10"}};
+  for (const auto& [text, time] : cases) EXPECT_EQ(AlarmTimeText(text), time) << text;
 }
 
 TEST(Alarms, OtherTextsStayAsTheyAre) {

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "tests/support/cases.h"
 #include "tests/support/memory_settings.h"
 #include "tests/support/plain_formatter.h"
 #include "widgets/time/clock_engine.h"
@@ -14,15 +15,12 @@ LocalTime At(int hour, int minute, int second = 0) {
 }
 
 TEST(Clock, HourAfterMidnightIsTwelve) {
-  const struct {
-    int hour;
-    const wchar_t* of_24;
-    const wchar_t* of_12;
-  } cases[] = {{0, L"12", L"12"},  {1, L"01", L"1"},  {9, L"09", L"9"},   {11, L"11", L"11"},
-               {12, L"12", L"12"}, {13, L"13", L"1"}, {22, L"22", L"10"}, {23, L"23", L"11"}};
-  for (const auto& test : cases) {
-    EXPECT_EQ(HourText(At(test.hour, 0), true), test.of_24);
-    EXPECT_EQ(HourText(At(test.hour, 0), false), test.of_12);
+  const test::Cases<int, const wchar_t*, const wchar_t*> cases = {
+      {0, L"12", L"12"},  {1, L"01", L"1"},  {9, L"09", L"9"},   {11, L"11", L"11"},
+      {12, L"12", L"12"}, {13, L"13", L"1"}, {22, L"22", L"10"}, {23, L"23", L"11"}};
+  for (const auto& [hour, of_24, of_12] : cases) {
+    EXPECT_EQ(HourText(At(hour, 0), true), of_24);
+    EXPECT_EQ(HourText(At(hour, 0), false), of_12);
   }
 }
 
@@ -45,19 +43,15 @@ TEST(Clock, ModernStyleFillsThreeLabels) {
 }
 
 TEST(Clock, ClassicStyleIsOneLine) {
-  const struct {
-    bool seconds;
-    bool marker;
-    const wchar_t* text;
-  } cases[] = {{true, true, L"12:30:07 AM"},
-               {true, false, L"12:30:07"},
-               {false, true, L"12:30 AM"},
-               {false, false, L"12:30"}};
-  for (const auto& test : cases) {
+  const test::Cases<bool, bool, const wchar_t*> cases = {{true, true, L"12:30:07 AM"},
+                                                         {true, false, L"12:30:07"},
+                                                         {false, true, L"12:30 AM"},
+                                                         {false, false, L"12:30"}};
+  for (const auto& [seconds, marker, text] : cases) {
     const ClockSettings settings{
-        .modern = false, .seconds = test.seconds, .marker = test.marker, .hours_24 = false};
+        .modern = false, .seconds = seconds, .marker = marker, .hours_24 = false};
     const ClockDisplay display = ReadDisplay(settings, At(0, 30, 7), test::PlainFormatter());
-    EXPECT_EQ(display.time, test.text);
+    EXPECT_EQ(display.time, text);
     EXPECT_TRUE(display.seconds.empty() && display.marker.empty());
     EXPECT_FALSE(display.seconds_shown || display.marker_shown);
   }

@@ -3,6 +3,7 @@
 #include <random>
 
 #include "base/number_text.h"
+#include "tests/support/cases.h"
 #include "tests/support/memory_settings.h"
 #include "widgets/time/countdown_engine.h"
 
@@ -38,19 +39,17 @@ TEST(Countdown, FreshOneCountsTwoMinutes) {
 }
 
 TEST(Countdown, EditsAreStoredAndShown) {
-  const struct {
-    const wchar_t* text;
-    const wchar_t* field;
-  } cases[] = {{L"5", L"05"},  {L"", L"00"},    {L"abc", L"00"},  {L"7x", L"07"},
-               {L"75", L"75"}, {L"-5", L"00"},  {L"123", L"123"}, {L"12345", L"999"},
-               {L" 8", L"08"}, {L"010", L"10"}, {L"1.9", L"02"}};
+  const test::Cases<const wchar_t*, const wchar_t*> cases = {
+      {L"5", L"05"},  {L"", L"00"},    {L"abc", L"00"},  {L"7x", L"07"},
+      {L"75", L"75"}, {L"-5", L"00"},  {L"123", L"123"}, {L"12345", L"999"},
+      {L" 8", L"08"}, {L"010", L"10"}, {L"1.9", L"02"}};
   test::MemorySettings store;
   CountdownEngine countdown(store);
-  for (const auto& test : cases) {
-    countdown.Edit(kMinutes, test.text);
-    EXPECT_EQ(countdown.DisplayText(kMinutes), test.field) << test.text;
-    EXPECT_EQ(countdown.IntervalText(kMinutes), test.field);
-    EXPECT_EQ(store.Read(L"frmCDNwg\\Details", L"Timer-Interval-mins", L""), test.field);
+  for (const auto& [text, field] : cases) {
+    countdown.Edit(kMinutes, text);
+    EXPECT_EQ(countdown.DisplayText(kMinutes), field) << text;
+    EXPECT_EQ(countdown.IntervalText(kMinutes), field);
+    EXPECT_EQ(store.Read(L"frmCDNwg\\Details", L"Timer-Interval-mins", L""), field);
   }
   EXPECT_EQ(store.Read(L"frmCDNwg\\Details", L"Timer-Interval-hrs", L""), L"00");
   EXPECT_EQ(store.Read(L"frmCDNwg\\Details", L"Timer-Interval-secs", L""), L"00");

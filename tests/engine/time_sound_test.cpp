@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/cases.h"
 #include "widgets/time/sound_commands.h"
 
 namespace varnel {
@@ -32,31 +33,26 @@ std::vector<std::wstring> Commands(const std::wstring& open, const std::wstring&
 }
 
 TEST(Sound, SendsTheCommandsInOrder) {
-  const struct {
-    const wchar_t* path;
-    const wchar_t* open;
-  } cases[] = {
+  const test::Cases<const wchar_t*, const wchar_t*> cases = {
       {L"C:\\My Music\\a.mp3", L"open \"C:\\My Music\\a.mp3\" type MpegVideo alias myfile"},
       {L"C:\\A.WAV", L"open \"C:\\A.WAV\" alias myfile"},
       {L"b.wav", L"open \"b.wav\" alias myfile"},
       {L"b.wave", L"open \"b.wave\" type MpegVideo alias myfile"}};
-  for (const auto& test : cases) {
+  for (const auto& [path, open] : cases) {
     FakePlayer player;
-    PlayFile(player, test.path);
-    EXPECT_EQ(player.sent, Commands(test.open, L"0"));
+    PlayFile(player, path);
+    EXPECT_EQ(player.sent, Commands(open, L"0"));
   }
 }
 
 TEST(Sound, PlaysFromTheAnsweredPosition) {
-  const struct {
-    const wchar_t* answer;
-    const wchar_t* from;
-  } cases[] = {{L"1250", L"1250"}, {L"", L"0"}, {L"no device", L"0"}, {L" 7 ", L"7"}};
-  for (const auto& test : cases) {
+  const test::Cases<const wchar_t*, const wchar_t*> cases = {
+      {L"1250", L"1250"}, {L"", L"0"}, {L"no device", L"0"}, {L" 7 ", L"7"}};
+  for (const auto& [answer, from] : cases) {
     FakePlayer player;
-    player.position = test.answer;
+    player.position = answer;
     PlayFile(player, L"b.wav");
-    EXPECT_EQ(player.sent.back(), std::wstring(L"play myfile from ") + test.from);
+    EXPECT_EQ(player.sent.back(), std::wstring(L"play myfile from ") + from);
   }
 }
 

@@ -3,6 +3,7 @@
 #include <random>
 
 #include "base/number_text.h"
+#include "tests/support/cases.h"
 #include "widgets/time/stopwatch_engine.h"
 
 namespace varnel {
@@ -13,19 +14,17 @@ void Tick(StopwatchEngine& watch, int times) {
 }
 
 TEST(Stopwatch, CountsInTenthsShownAsSixtieths) {
-  const struct {
-    int ticks;
-    const wchar_t* shown;
-  } cases[] = {{0, L"00:00.00"},    {1, L"00:00.06"},     {9, L"00:00.54"},
-               {10, L"00:01.00"},   {599, L"00:59.54"},   {600, L"01:00.00"},
-               {5999, L"09:59.54"}, {59999, L"99:59.54"}, {60000, L"100:00.00"}};
+  const test::Cases<int, const wchar_t*> cases = {
+      {0, L"00:00.00"},    {1, L"00:00.06"},     {9, L"00:00.54"},
+      {10, L"00:01.00"},   {599, L"00:59.54"},   {600, L"01:00.00"},
+      {5999, L"09:59.54"}, {59999, L"99:59.54"}, {60000, L"100:00.00"}};
   StopwatchEngine watch;
   watch.PressLeft();
-  int ticks = 0;
-  for (const auto& test : cases) {
-    Tick(watch, test.ticks - ticks);
-    ticks = test.ticks;
-    EXPECT_EQ(watch.shown(), test.shown);
+  int ticked = 0;
+  for (const auto& [ticks, shown] : cases) {
+    Tick(watch, ticks - ticked);
+    ticked = ticks;
+    EXPECT_EQ(watch.shown(), shown);
   }
 }
 

@@ -4,6 +4,7 @@
 
 #include <random>
 
+#include "tests/support/cases.h"
 #include "tests/support/weather_samples.h"
 #include "widgets/weather/feed_text.h"
 
@@ -30,10 +31,7 @@ Reading ReadSample(const FeedSample& sample, bool fahrenheit = false, double ear
 }
 
 TEST(FeedFields, EveryCommaAndLineEndEndsAField) {
-  const struct {
-    const wchar_t* response;
-    const wchar_t* text;
-  } cases[] = {
+  const test::Cases<const wchar_t*, const wchar_t*> cases = {
       {L"", L""},
       {L"a", L"a\r\n"},
       {L"London, United Kingdom", L"London\r\nUnited Kingdom\r\n"},
@@ -47,7 +45,7 @@ TEST(FeedFields, EveryCommaAndLineEndEndsAField) {
       {L"\"a,b\"", L"\"a\r\nb\"\r\n"},
       {L"<a b=\"c\">", L"<a b=\"c\">\r\n"},
   };
-  for (const auto& test : cases) EXPECT_EQ(NormaliseFeed(test.response), test.text);
+  for (const auto& [response, text] : cases) EXPECT_EQ(NormaliseFeed(response), text);
 }
 
 TEST(FeedFields, NothingIsReadBeyondTheLimit) {
@@ -87,19 +85,16 @@ TEST(WeatherFeed, AnEmptyTextChangesNothing) {
 }
 
 TEST(WeatherFeed, OnlyAWholeTemperatureAboveZeroIsTakenOver) {
-  const struct {
-    const wchar_t* temperature;
-    double kept;
-    const wchar_t* label;
-  } cases[] = {{L"1", 1, L"1F "},          {L"0", 59, L"59F "},   {L"-4", 59, L"59F "},
-               {L"57.5", 59, L"59F "},     {L"N/A", 59, L"59F "}, {L"101", 101, L"101F "},
-               {L"57\u00B0", 59, L"59F "}, {L"", 59, L"-"}};
-  for (const auto& test : cases) {
+  const test::Cases<const wchar_t*, double, const wchar_t*> cases = {
+      {L"1", 1, L"1F "},          {L"0", 59, L"59F "},   {L"-4", 59, L"59F "},
+      {L"57.5", 59, L"59F "},     {L"N/A", 59, L"59F "}, {L"101", 101, L"101F "},
+      {L"57\u00B0", 59, L"59F "}, {L"", 59, L"-"}};
+  for (const auto& [temperature, kept, label] : cases) {
     FeedSample sample;
-    sample.temperature = test.temperature;
+    sample.temperature = temperature;
     const Reading reading = ReadSample(sample, true, 59);
-    EXPECT_EQ(reading.data.TemperatureF, test.kept) << test.temperature;
-    EXPECT_EQ(reading.labels.temperature, test.label) << test.temperature;
+    EXPECT_EQ(reading.data.TemperatureF, kept) << temperature;
+    EXPECT_EQ(reading.labels.temperature, label) << temperature;
   }
   FeedSample cold;
   cold.temperature = L"-4";
@@ -116,42 +111,36 @@ TEST(WeatherFeed, AMissingTemperatureIsTold) {
 }
 
 TEST(WeatherFeed, ConditionFixUpsInTheirOrder) {
-  const struct {
-    const wchar_t* condition;
-    const wchar_t* image;
-    const wchar_t* shown;
-    int icon;
-  } cases[] = {{L"", L"28.gif", L"None", 28},
-               {L"Fair", L"44.gif", L"No Description", 25},
-               {L"Fair", L"25.gif", L"None", 25},
-               {L"", L"44.gif", L"No Description", 25},
-               {L"No Description", L"27.gif", L"Partly Cloudy", 0},
-               {L"No Description", L"29.gif", L"No Description", 27},
-               {L"Fair", L"27.gif", L"Fair", 0},
-               {L"25.gif 44.gif", L"27.gif", L"Partly Cloudy", 0}};
-  for (const auto& test : cases) {
+  const test::Cases<const wchar_t*, const wchar_t*, const wchar_t*, int> cases = {
+      {L"", L"28.gif", L"None", 28},
+      {L"Fair", L"44.gif", L"No Description", 25},
+      {L"Fair", L"25.gif", L"None", 25},
+      {L"", L"44.gif", L"No Description", 25},
+      {L"No Description", L"27.gif", L"Partly Cloudy", 0},
+      {L"No Description", L"29.gif", L"No Description", 27},
+      {L"Fair", L"27.gif", L"Fair", 0},
+      {L"25.gif 44.gif", L"27.gif", L"Partly Cloudy", 0}};
+  for (const auto& [condition, image, shown, icon] : cases) {
     FeedSample sample;
-    sample.condition = test.condition;
-    sample.image = std::wstring(L"http://feed.example/icons/") + test.image;
+    sample.condition = condition;
+    sample.image = std::wstring(L"http://feed.example/icons/") + image;
     const Reading reading = ReadSample(sample);
-    EXPECT_EQ(reading.labels.condition, test.shown) << test.condition << test.image;
-    EXPECT_EQ(reading.data.ConditionText, test.shown);
-    EXPECT_EQ(reading.labels.symbol, test.icon) << test.image;
+    EXPECT_EQ(reading.labels.condition, shown) << condition << image;
+    EXPECT_EQ(reading.data.ConditionText, shown);
+    EXPECT_EQ(reading.labels.symbol, icon) << image;
   }
 }
 
 TEST(WeatherFeed, TheIconIsTheNumberOfTheImagesFile) {
-  const struct {
-    const wchar_t* image;
-    int icon;
-  } cases[] = {{L"http://h/31/4.gif", 3},   {L"4.gif", 3},       {L"c:\\a/b\\32.gif", 32},
-               {L"http://h/a\\17.gif", 17}, {L"/x/123.gif", 12}, {L"/x/na.gif", 25},
-               {L"/x/-1.gif", 25},          {L"", 25},           {L"/x/", 25},
-               {L"/x/99.gif", 99}};
-  for (const auto& test : cases) {
+  const test::Cases<const wchar_t*, int> cases = {
+      {L"http://h/31/4.gif", 3},   {L"4.gif", 3},       {L"c:\\a/b\\32.gif", 32},
+      {L"http://h/a\\17.gif", 17}, {L"/x/123.gif", 12}, {L"/x/na.gif", 25},
+      {L"/x/-1.gif", 25},          {L"", 25},           {L"/x/", 25},
+      {L"/x/99.gif", 99}};
+  for (const auto& [image, icon] : cases) {
     FeedSample sample;
-    sample.image = test.image;
-    EXPECT_EQ(ReadSample(sample).labels.symbol, test.icon) << test.image;
+    sample.image = image;
+    EXPECT_EQ(ReadSample(sample).labels.symbol, icon) << image;
   }
 }
 
@@ -164,17 +153,15 @@ TEST(WeatherFeed, IconsAreReducedInOneStep) {
 }
 
 TEST(WeatherFeed, TheLocationLabelHasTwoFields) {
-  const struct {
-    const wchar_t* title;
-    const wchar_t* label;
-  } cases[] = {{L"New York, New York", L"New York, New York"},
-               {L"Kralendijk, Bonaire, Saba", L"Kralendijk, Bonaire"},
-               {L"Nowhere", L"Nowhere, "},
-               {L"A,B", L"A, B"}};
-  for (const auto& test : cases) {
+  const test::Cases<const wchar_t*, const wchar_t*> cases = {
+      {L"New York, New York", L"New York, New York"},
+      {L"Kralendijk, Bonaire, Saba", L"Kralendijk, Bonaire"},
+      {L"Nowhere", L"Nowhere, "},
+      {L"A,B", L"A, B"}};
+  for (const auto& [title, label] : cases) {
     FeedSample sample;
-    sample.title = test.title;
-    EXPECT_EQ(ReadSample(sample).labels.location, test.label);
+    sample.title = title;
+    EXPECT_EQ(ReadSample(sample).labels.location, label);
   }
 }
 
@@ -206,11 +193,10 @@ TEST(WeatherFeed, AnItemEndsAfterAThousandCharacters) {
 }
 
 TEST(WeatherFeed, CelsiusIsCutToHundredthsAndRoundedToTenths) {
-  const struct {
-    double f, c;
-  } cases[] = {{50, 10},   {33, 0.6},  {32, 0},     {31, -0.6}, {212, 100},
-               {-40, -40}, {1, -17.2}, {100, 37.8}, {34, 1.1},  {32.09, 0.1}};
-  for (const auto& test : cases) EXPECT_DOUBLE_EQ(FahrenheitToCelsius(test.f), test.c) << test.f;
+  const test::Cases<double, double> cases = {{50, 10},   {33, 0.6},   {32, 0},    {31, -0.6},
+                                             {212, 100}, {-40, -40},  {1, -17.2}, {100, 37.8},
+                                             {34, 1.1},  {32.09, 0.1}};
+  for (const auto& [f, c] : cases) EXPECT_DOUBLE_EQ(FahrenheitToCelsius(f), c) << f;
   EXPECT_EQ(TemperatureLabel(33, false), L"1C");
   EXPECT_EQ(TemperatureLabel(31, false), L"-1C");
   EXPECT_EQ(TemperatureLabel(31.9, false), L"0C");
@@ -218,29 +204,25 @@ TEST(WeatherFeed, CelsiusIsCutToHundredthsAndRoundedToTenths) {
 }
 
 TEST(Forecast, WordsAreSearchedInTheirOrder) {
-  const struct {
-    const wchar_t* words;
-    int icon;
-  } cases[] = {{L"Mostly Sunny", 28},
-               {L"Sunny", 32},
-               {L"Scattered Thunderstorms", 3},
-               {L"Cloudy", 19},
-               {L"PARTLY CLOUDY", 28},
-               {L"Fair and Windy", 28},
-               {L"Clear", 31},
-               {L"Rain / Snow", 9},
-               {L"Snow Showers", 5},
-               {L"Thundershowers", 9},
-               {L"Isolated Storms", 3},
-               {L"Mist", 19},
-               {L"Windy", 24},
-               {L"Haze", 25},
-               {L"", 25},
-               {L"Mostly Clear", 31},
-               {L"Sunny then Showers", 9}};
-  for (const auto& test : cases) {
-    EXPECT_EQ(ForecastIcon(test::EntryText({L"Sat", test.words, L"72", L"55"})), test.icon)
-        << test.words;
+  const test::Cases<const wchar_t*, int> cases = {{L"Mostly Sunny", 28},
+                                                  {L"Sunny", 32},
+                                                  {L"Scattered Thunderstorms", 3},
+                                                  {L"Cloudy", 19},
+                                                  {L"PARTLY CLOUDY", 28},
+                                                  {L"Fair and Windy", 28},
+                                                  {L"Clear", 31},
+                                                  {L"Rain / Snow", 9},
+                                                  {L"Snow Showers", 5},
+                                                  {L"Thundershowers", 9},
+                                                  {L"Isolated Storms", 3},
+                                                  {L"Mist", 19},
+                                                  {L"Windy", 24},
+                                                  {L"Haze", 25},
+                                                  {L"", 25},
+                                                  {L"Mostly Clear", 31},
+                                                  {L"Sunny then Showers", 9}};
+  for (const auto& [words, icon] : cases) {
+    EXPECT_EQ(ForecastIcon(test::EntryText({L"Sat", words, L"72", L"55"})), icon) << words;
   }
   EXPECT_EQ(ForecastIcon(L"Rain before the colon: / High 72&"), 25);
   EXPECT_EQ(ForecastIcon(L"Sat: Low 40 after a clear night"), 31);
@@ -248,19 +230,17 @@ TEST(Forecast, WordsAreSearchedInTheirOrder) {
 }
 
 TEST(Forecast, TemperaturesOfAnEntry) {
-  const struct {
-    const wchar_t* entry;
-    const wchar_t* temps;
-  } cases[] = {{L"Sat: Fair / High 72&deg; F / Low 55&deg; F", L"72/55"},
-               {L"Sat: Fair / High  72 &deg; F / Low -5 &deg; F", L"72/-5"},
-               {L"Sat: Fair / High 72 AM &deg; F / Low PM 55&deg; F", L"72/5"},
-               {L"Sat: Fair / High 72 PM &deg; F / Low 55&deg; F", L"72/55"},
-               {L"Sat: Fair / Low 55&deg; F / High 72&deg; F", L"72/"},
-               {L"Sat: Fair / Low 55&deg; F", L"/55"},
-               {L"Sat: Fair / High 72", L"/"},
-               {L"High", L"/"},
-               {L"", L"/"}};
-  for (const auto& test : cases) EXPECT_EQ(ForecastTemps(test.entry), test.temps) << test.entry;
+  const test::Cases<const wchar_t*, const wchar_t*> cases = {
+      {L"Sat: Fair / High 72&deg; F / Low 55&deg; F", L"72/55"},
+      {L"Sat: Fair / High  72 &deg; F / Low -5 &deg; F", L"72/-5"},
+      {L"Sat: Fair / High 72 AM &deg; F / Low PM 55&deg; F", L"72/5"},
+      {L"Sat: Fair / High 72 PM &deg; F / Low 55&deg; F", L"72/55"},
+      {L"Sat: Fair / Low 55&deg; F / High 72&deg; F", L"72/"},
+      {L"Sat: Fair / Low 55&deg; F", L"/55"},
+      {L"Sat: Fair / High 72", L"/"},
+      {L"High", L"/"},
+      {L"", L"/"}};
+  for (const auto& [entry, temps] : cases) EXPECT_EQ(ForecastTemps(entry), temps) << entry;
 }
 
 TEST(Forecast, SlotsAreFilledInTurn) {

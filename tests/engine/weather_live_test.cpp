@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/cases.h"
 #include "tests/support/weather_samples.h"
 #include "widgets/weather/feed_text.h"
 #include "widgets/weather/weather_feed.h"
@@ -48,18 +49,15 @@ TEST(LiveSource, AnAnswerReadsAsAFeed) {
 }
 
 TEST(LiveSource, ColdThatTheFeedCannotCarryIsSaid) {
-  const struct {
-    const char* degrees;
-    const wchar_t* label;
-    const wchar_t* words;
-  } cases[] = {{"1", L"1F ", L"Partly Cloudy"},
-               {"0.6", L"1F ", L"Partly Cloudy"},
-               {"0.4", L"-", L"Partly Cloudy at 0F (-18C)"},
-               {"-13", L"-", L"Partly Cloudy at -13F (-25C)"}};
-  for (const auto& test : cases) {
-    const WeatherLabels labels = Shown(Changed("57.3", test.degrees), true);
-    EXPECT_EQ(labels.temperature, test.label) << test.degrees;
-    EXPECT_EQ(labels.condition, test.words) << test.degrees;
+  const test::Cases<const char*, const wchar_t*, const wchar_t*> cases = {
+      {"1", L"1F ", L"Partly Cloudy"},
+      {"0.6", L"1F ", L"Partly Cloudy"},
+      {"0.4", L"-", L"Partly Cloudy at 0F (-18C)"},
+      {"-13", L"-", L"Partly Cloudy at -13F (-25C)"}};
+  for (const auto& [degrees, label, words] : cases) {
+    const WeatherLabels labels = Shown(Changed("57.3", degrees), true);
+    EXPECT_EQ(labels.temperature, label) << degrees;
+    EXPECT_EQ(labels.condition, words) << degrees;
   }
 }
 
@@ -71,21 +69,20 @@ TEST(LiveSource, NightHasItsOwnWordsAndPicture) {
 }
 
 TEST(LiveSource, EveryCodeShowsWordsAndTheRightPictures) {
-  const struct {
-    int first, last, icon, forecast_icon;
-  } groups[] = {{0, 0, 32, 32},  {1, 2, 28, 28}, {3, 3, 26, 19},  {45, 48, 19, 19}, {51, 55, 9, 9},
-                {56, 57, 5, 9},  {61, 61, 9, 9}, {63, 63, 12, 9}, {65, 65, 40, 9},  {66, 67, 5, 9},
-                {71, 77, 13, 5}, {80, 81, 9, 9}, {82, 82, 40, 9}, {85, 86, 13, 5},  {95, 99, 3, 3}};
-  for (const auto& group : groups) {
-    for (int code = group.first; code <= group.last; ++code) {
+  const test::Cases<int, int, int, int> groups = {
+      {0, 0, 32, 32},  {1, 2, 28, 28}, {3, 3, 26, 19},  {45, 48, 19, 19}, {51, 55, 9, 9},
+      {56, 57, 5, 9},  {61, 61, 9, 9}, {63, 63, 12, 9}, {65, 65, 40, 9},  {66, 67, 5, 9},
+      {71, 77, 13, 5}, {80, 81, 9, 9}, {82, 82, 40, 9}, {85, 86, 13, 5},  {95, 99, 3, 3}};
+  for (const auto& [first, last, icon, forecast_icon] : groups) {
+    for (int code = first; code <= last; ++code) {
       if (WeatherKindOf(code).words.empty()) continue;  // a gap within the group
       const std::string text = "\"weather_code\":" + std::to_string(code);
       const std::string answer = test::With<std::string>(
           Changed("\"weather_code\":2", text), "[1,61,3]", "[" + std::to_string(code) + ",0,0]");
       const WeatherLabels labels = Shown(answer);
       EXPECT_EQ(labels.condition, WeatherKindOf(code).words);
-      EXPECT_EQ(labels.symbol, group.icon) << code;
-      EXPECT_EQ(labels.forecast[0].icon, group.forecast_icon) << code;
+      EXPECT_EQ(labels.symbol, icon) << code;
+      EXPECT_EQ(labels.forecast[0].icon, forecast_icon) << code;
     }
   }
   const WeatherLabels unknown = Shown(Changed("\"weather_code\":2", "\"weather_code\":42"));
@@ -109,10 +106,7 @@ TEST(LiveSource, PlaceNamesCannotBreakTheFeed) {
 }
 
 TEST(LiveSource, WhatIsWrongIsSaidInPlainWords) {
-  const struct {
-    std::string answer;
-    const wchar_t* complaint;
-  } cases[] = {
+  const test::Cases<std::string, const wchar_t*> cases = {
       {"", L"The weather answer cannot be read."},
       {"<html>", L"The weather answer cannot be read."},
       {Changed("57.3", "NaN"), L"The weather answer cannot be read."},
@@ -143,9 +137,9 @@ TEST(LiveSource, WhatIsWrongIsSaidInPlainWords) {
       {Changed("\"2026-11-22\"", "20261122"), L"The weather answer has a wrong value in \"time\"."},
       {Changed("32.0", "[]"), L"The weather answer has a wrong value in \"temperature_2m_min\"."},
   };
-  for (const auto& test : cases) {
-    const LiveFeed feed = FeedFromLiveAnswer(test.answer, kLondon, false);
-    EXPECT_EQ(feed.complaint, test.complaint);
+  for (const auto& [answer, complaint] : cases) {
+    const LiveFeed feed = FeedFromLiveAnswer(answer, kLondon, false);
+    EXPECT_EQ(feed.complaint, complaint);
     EXPECT_EQ(feed.text, L"");
   }
   const LiveFeed scolded =

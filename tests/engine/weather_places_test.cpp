@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/cases.h"
 #include "tests/support/memory_settings.h"
 #include "widgets/weather/feed_address.h"
 #include "widgets/weather/type_ahead.h"
@@ -50,24 +51,21 @@ TEST(Places, CitiesOfEveryAreaWithinTheChosenOne) {
 }
 
 TEST(Places, TheFirstLineWithinTheChosenNamesIsThePlace) {
-  const struct {
-    const wchar_t* area;
-    const wchar_t* city;
-    const wchar_t* code;  // empty: none
-  } cases[] = {{L"United Kingdom", L"London", L"15"},
-               {L"United Kingdom", L"Londonderry", L"15"},  // the shorter name stands above
-               {L"United Kingdom", L"Bathgate", L"13"},     // the longer one does
-               {L"United Kingdom", L"Bath", L"14"},
-               {L"United Kingdom", L"Greater London area", L"15"},
-               {L"Canada", L"Twin", L"17"},
-               {L"Nigeria", L"Niamey", L"12"},
-               {L"Niger", L"Lagos", L""},
-               {L"United Kingdom", L"london", L""},
-               {L"United Kingdom", L"", L""},
-               {L"Canada", L"No Code No Area", L""}};
-  for (const auto& test : cases) {
-    const auto place = ResolvePlace(kPlaces, test.area, test.city);
-    EXPECT_EQ(place ? place->code : L"", test.code) << test.area << test.city;
+  const test::Cases<const wchar_t*, const wchar_t*, const wchar_t*> cases = {
+      {L"United Kingdom", L"London", L"15"},
+      {L"United Kingdom", L"Londonderry", L"15"},  // the shorter name stands above
+      {L"United Kingdom", L"Bathgate", L"13"},     // the longer one does
+      {L"United Kingdom", L"Bath", L"14"},
+      {L"United Kingdom", L"Greater London area", L"15"},
+      {L"Canada", L"Twin", L"17"},
+      {L"Nigeria", L"Niamey", L"12"},
+      {L"Niger", L"Lagos", L""},
+      {L"United Kingdom", L"london", L""},
+      {L"United Kingdom", L"", L""},
+      {L"Canada", L"No Code No Area", L""}};
+  for (const auto& [area, city, code] : cases) {
+    const auto place = ResolvePlace(kPlaces, area, city);
+    EXPECT_EQ(place ? place->code : L"", code) << area << city;
   }
   EXPECT_EQ(ResolvePlace(kPlaces, L"United Kingdom", L"Bathgate"),
             (WeatherPlace{L"13", L"Bathgate", L"United Kingdom"}));
@@ -86,19 +84,17 @@ TEST(Places, CoordinatesMustBeOnTheGlobe) {
 }
 
 TEST(TypeAhead, AccentsAndCaseDoNotMatter) {
-  const struct {
-    const wchar_t* text;
-    const wchar_t* folded;
-  } cases[] = {{L"S\u00C3O Paulo", L"sao paulo"},
-               {L"\u0141\u00F3d\u017A", L"lodz"},
-               {L"Stra\u00DFe \u00C6r\u00F8", L"strasse aero"},
-               {L"A\u030Angstro\u0308m", L"angstrom"},
-               {L"Guinea-Bissau", L"guinea bissau"},
-               {L"St. John's", L"st johns"},
-               {L"\u0218\u021B \u1EA0\u1EF9", L"st ay"},
-               {L"\u0130zm\u0131r", L"izmir"},
-               {L"\u6771\u4EAC 3\u00D74", L"\u6771\u4EAC 3\u00D74"}};
-  for (const auto& test : cases) EXPECT_EQ(FoldForSearch(test.text), test.folded);
+  const test::Cases<const wchar_t*, const wchar_t*> cases = {
+      {L"S\u00C3O Paulo", L"sao paulo"},
+      {L"\u0141\u00F3d\u017A", L"lodz"},
+      {L"Stra\u00DFe \u00C6r\u00F8", L"strasse aero"},
+      {L"A\u030Angstro\u0308m", L"angstrom"},
+      {L"Guinea-Bissau", L"guinea bissau"},
+      {L"St. John's", L"st johns"},
+      {L"\u0218\u021B \u1EA0\u1EF9", L"st ay"},
+      {L"\u0130zm\u0131r", L"izmir"},
+      {L"\u6771\u4EAC 3\u00D74", L"\u6771\u4EAC 3\u00D74"}};
+  for (const auto& [text, folded] : cases) EXPECT_EQ(FoldForSearch(text), folded);
 }
 
 TEST(TypeAhead, BeginningsBeforeLaterWords) {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "tests/support/cases.h"
 #include "tests/support/plain_measure.h"
 #include "widgets/weather/weather_status.h"
 
@@ -20,10 +21,7 @@ WeatherStrip Chosen(const WeatherStatus& status, int room) {
 }
 
 TEST(WeatherStatus, WordsForEveryState) {
-  const struct {
-    WeatherStatus status;
-    std::wstring words;
-  } kCases[] = {
+  const test::Cases<WeatherStatus, std::wstring> kCases = {
       {{}, L""},
       {{L"", true, L""}, L"Updating..."},
       {{L"", false, L"the server cannot be reached"}, L"The server cannot be reached"},
@@ -31,10 +29,10 @@ TEST(WeatherStatus, WordsForEveryState) {
       {{L"12:01", true, L"the server cannot be reached"}, L"Updated 12:01 \u00B7 updating..."},
       {{L"Sat 12:01", false, L"it broke"}, L"Updated Sat 12:01 \u00B7 it broke"},
   };
-  for (auto test : kCases) {
-    EXPECT_EQ(Chosen(test.status, 10'000), (WeatherStrip{test.words, L""}));
-    test.status.live = true;
-    EXPECT_EQ(Chosen(test.status, 10'000), (WeatherStrip{test.words, kLong}));
+  for (auto [status, words] : kCases) {
+    EXPECT_EQ(Chosen(status, 10'000), (WeatherStrip{words, L""}));
+    status.live = true;
+    EXPECT_EQ(Chosen(status, 10'000), (WeatherStrip{words, kLong}));
   }
 }
 

@@ -14,6 +14,7 @@
 #include "tests/rig/menus.h"
 #include "tests/rig/picture.h"
 #include "tests/rig/scene.h"
+#include "tests/support/cases.h"
 #include "win/clipboard.h"
 
 namespace varnel {
@@ -170,22 +171,19 @@ TEST_F(Calculator, StruckKeyIsSeenGoingDown) {
 
 TEST_F(Calculator, CopiesAndPastes) {
   Start(kThreeSums);
-  const struct {
-    const wchar_t* pasted;
-    const wchar_t* shown;
-  } cases[] = {{L" 1,234.50\r\n", L"1234.5"},
-               {L"1.234.567,25", L"1234567.25"},
-               {L"\u2212 12 345", L"-12345"},
-               {L"no number", L"-12345"},
-               {L"", L"-12345"}};
+  const test::Cases<const wchar_t*, const wchar_t*> cases = {{L" 1,234.50\r\n", L"1234.5"},
+                                                             {L"1.234.567,25", L"1234567.25"},
+                                                             {L"\u2212 12 345", L"-12345"},
+                                                             {L"no number", L"-12345"},
+                                                             {L"", L"-12345"}};
   HWND owner =
       ::CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
   // By a click, and not by Activate: right after that a modifier may go unnoticed here.
   Press({lblCLEAR});
-  for (const auto& test : cases) {
-    ASSERT_TRUE(CopyText(owner, test.pasted));
+  for (const auto& [pasted, shown] : cases) {
+    ASSERT_TRUE(CopyText(owner, pasted));
     Chord({VK_CONTROL, 'V'});
-    EXPECT_EQ(Shown(test.shown), test.shown);
+    EXPECT_EQ(Shown(shown), shown);
   }
   const auto copied = [&](std::wstring_view expected) {
     Chord({VK_CONTROL, 'C'});

@@ -8,6 +8,7 @@
 #include "tests/rig/menus.h"
 #include "tests/rig/picture.h"
 #include "tests/rig/scene.h"
+#include "tests/support/cases.h"
 
 namespace varnel {
 namespace {
@@ -87,17 +88,14 @@ TEST_F(Frame, GripSizesOnTheGridDownToTheSmallestSize) {
 }
 
 TEST_F(Frame, SizeCommands) {
-  const struct {
-    const wchar_t* name;
-    int index;
-    Size size;
-  } cases[] = {{L"mnuWIDGRESETA", 0, {500, 350}}, {L"mnuWIDGRESETA", 1, {330, 233}},
-               {L"mnuWIDGRESETA", 2, {160, 107}}, {L"mnuWIDGRESET", 1, {640, 400}},
-               {L"mnuWIDGRESET", 2, {320, 200}},  {L"mnuWIDGRESET", 3, {160, 100}},
-               {L"mnuWIDGRESET", 0, {1280, 800}}};
-  for (const auto& test : cases) {
-    Choose(clock_, test.name, test.index);
-    EXPECT_EQ(WaitFor([&] { return SizeOf(clock_); }, test.size), test.size) << test.name;
+  const test::Cases<const wchar_t*, int, Size> cases = {
+      {L"mnuWIDGRESETA", 0, {500, 350}}, {L"mnuWIDGRESETA", 1, {330, 233}},
+      {L"mnuWIDGRESETA", 2, {160, 107}}, {L"mnuWIDGRESET", 1, {640, 400}},
+      {L"mnuWIDGRESET", 2, {320, 200}},  {L"mnuWIDGRESET", 3, {160, 100}},
+      {L"mnuWIDGRESET", 0, {1280, 800}}};
+  for (const auto& [name, index, size] : cases) {
+    Choose(clock_, name, index);
+    EXPECT_EQ(WaitFor([&] { return SizeOf(clock_); }, size), size) << name;
   }
   Choose(clock_, L"mnuWIDGRESETD");
   EXPECT_EQ(WaitFor([&] { return SizeOf(clock_); }, Size{393, 231}), (Size{393, 231}));

@@ -15,6 +15,7 @@
 #include "tests/rig/menus.h"
 #include "tests/rig/picture.h"
 #include "tests/rig/scene.h"
+#include "tests/support/cases.h"
 #include "theme/chrome_colours.h"
 #include "theme/system_colours_win.h"
 
@@ -293,22 +294,18 @@ TEST_F(ThemeDialogScene, EverySharedMenuItemCanBeChosen) {
 }
 
 TEST_F(ThemeDialogScene, EveryWidgetsOwnMenuItemsCanBeChosen) {
-  const struct {
-    int index;
-    const wchar_t* form;
-    std::vector<const wchar_t*> commands;
-  } widgets[] = {
+  const test::Cases<int, const wchar_t*, std::vector<const wchar_t*>> widgets = {
       {0, L"frmCLKwg", {L"mnuCLOCKPROPS", L"mnuCLOCKALARMSET", L"mnuCLOCKTOP"}},
       {1,
        L"frmCLCwg",
        {L"mnuCALCSHOWHIST", L"mnuCALCDELETESELECTED", L"mnuCALCCLEARHISTORY", L"mnuCALCTOP"}},
       {7, L"frmWTHwg", {L"mnuWEATHERPROPS", L"mnuWEATHERREFRESH", L"mnuWEATHERTOP"}}};
-  for (const auto& widget : widgets) {
-    if (!FindForm(program(), widget.form)) ChooseShared(program(), L"mnuDCWIDGETS", widget.index);
-    HWND form = WaitForForm(program(), widget.form);
+  for (const auto& [index, name, commands] : widgets) {
+    if (!FindForm(program(), name)) ChooseShared(program(), L"mnuDCWIDGETS", index);
+    HWND form = WaitForForm(program(), name);
     ASSERT_TRUE(form);
     EXPECT_FALSE(IsTopmost(form));
-    for (const wchar_t* command : widget.commands) RunCommand(program(), form, CommandId(command));
+    for (const wchar_t* command : commands) RunCommand(program(), form, CommandId(command));
     EXPECT_TRUE(IsTopmost(form));
   }
 }

@@ -11,6 +11,7 @@
 #include "tests/rig/input.h"
 #include "tests/rig/menus.h"
 #include "tests/rig/scene.h"
+#include "tests/support/cases.h"
 #include "tests/support/weather_samples.h"
 #include "widgets/weather/weather_glyphs.h"
 
@@ -221,11 +222,7 @@ TEST_F(Weather, FailingServerKeepsTheDataAndSaysWhy) {
   EXPECT_EQ(WaitForLabel(lblTEMPERATURE, L"10C"), L"10C");
   const auto shown = Shown();
   const std::string junk(5'000, '\xE9');
-  const struct {
-    std::string body;
-    Manner manner;
-    std::wstring reason;
-  } kCases[] = {
+  const test::Cases<std::string, Manner, std::wstring> kCases = {
       {good, Manner::kNotFound, L"the server answered with status 404"},
       {good, Manner::kServerError, L"the server answered with status 500"},
       {"", Manner::kEndless, L"the answer was too large"},
@@ -237,11 +234,11 @@ TEST_F(Weather, FailingServerKeepsTheDataAndSaysWhy) {
       {junk, Manner::kGood, L"the answer holds no weather"},
       {"", Manner::kGood, L"the answer holds no weather"},
   };
-  for (const auto& test : kCases) {
-    SCOPED_TRACE(static_cast<int>(test.manner));
-    server_.Answer(test.body, test.manner);
+  for (const auto& [body, manner, reason] : kCases) {
+    SCOPED_TRACE(static_cast<int>(manner));
+    server_.Answer(body, manner);
     Choose(widget_, L"mnuWEATHERREFRESH");
-    EXPECT_TRUE(WaitForStatus(L" \u00B7 " + test.reason)) << Label(lblUPDATED);
+    EXPECT_TRUE(WaitForStatus(L" \u00B7 " + reason)) << Label(lblUPDATED);
     EXPECT_EQ(Shown(), shown);
     EXPECT_FALSE(FileExists(root().folder() + L"\\web.txt"));
     server_.Answer(good);

@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "core/settings_store.h"
+#include "tests/support/cases.h"
 #include "win/clipboard.h"
 #include "win/disk_files.h"
 #include "win/local_time.h"
@@ -153,12 +154,9 @@ TEST(SystemRegistry, KeepsTheRulesOfTheStoreOnTheRealRegistry) {
 TEST(SystemTimeFormatter, SpeaksThePatternLanguageOfTheClock) {
   const SystemTimeFormatter formatter;
   const LocalTime time{2010, 9, 7, 2, 0, 5, 9};
-  const struct {
-    const wchar_t* pattern;
-    const wchar_t* text;
-  } cases[] = {
+  const test::Cases<const wchar_t*, const wchar_t*> cases = {
       {L"HH", L"00"}, {L":nn", L":05"}, {L"ss", L"09"}, {L":nn:ss", L":05:09"}, {L"d", L"7"}};
-  for (const auto& test : cases) EXPECT_EQ(formatter.Format(time, test.pattern), test.text);
+  for (const auto& [pattern, text] : cases) EXPECT_EQ(formatter.Format(time, pattern), text);
   const std::wstring date = formatter.Format(time, L"dddd, d mmmm");
   EXPECT_NE(date.find(L", 7 "), std::wstring::npos) << "weekday, day and month";
   EXPECT_FALSE(formatter.Format(time, L"Long Date").empty());
