@@ -22,7 +22,7 @@ WeatherStrip Chosen(const WeatherStatus& status, int room) {
 
 TEST(WeatherStatus, WordsForEveryState) {
   const test::Cases<WeatherStatus, std::wstring> kCases = {
-      {{}, L""},
+      {WeatherStatus{}, L""},
       {{L"", true, L""}, L"Updating..."},
       {{L"", false, L"the server cannot be reached"}, L"The server cannot be reached"},
       {{L"12:01", false, L""}, L"Updated 12:01"},
