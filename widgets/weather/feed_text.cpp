@@ -21,14 +21,18 @@ std::wstring_view Bare(std::wstring_view field) {
 
 std::wstring NormaliseFeed(std::wstring_view response) {
   response = response.substr(0, kMostFeedText);
-  std::wstring text;
-  text.reserve(response.size() + response.size() / 8);
+  // Where each comma becomes a line end the text doubles; the last field may get an end besides.
+  std::wstring text(2 * response.size() + 2, L'\0');
+  auto end_of_text = text.begin();
   for (std::size_t start = 0; start < response.size();) {
     std::size_t end = start;
     while (end < response.size() && !EndsField(response[end])) ++end;
-    text.append(Bare(response.substr(start, end - start))).append(L"\r\n");
+    end_of_text = std::ranges::copy(Bare(response.substr(start, end - start)), end_of_text).out;
+    *end_of_text++ = L'\r';
+    *end_of_text++ = L'\n';
     start = end + (response.substr(end, 2) == L"\r\n" ? 2 : 1);
   }
+  text.erase(end_of_text, text.end());
   return text;
 }
 
