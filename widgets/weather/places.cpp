@@ -25,7 +25,7 @@ class LineReader {
     line = rest_.substr(0, end);
     rest_.remove_prefix(std::min(end + 1, rest_.size()));
     if (line.ends_with(L'\r')) line.remove_suffix(1);
-    if (Within(L"\"", line)) {
+    if (line.find(L'"') != std::wstring_view::npos) {
       unquoted_ = line;
       std::erase(unquoted_, L'"');
       line = unquoted_;
@@ -50,10 +50,11 @@ class PlaceReader {
   bool Next() {
     std::wstring_view line;
     while (lines_.Next(line)) {
+      area = Field(line, 3, kSeparator);
+      if (area.empty() || !Within(area, area_)) continue;  // most lines end here
       code = Field(line, 1, kSeparator);
       city = Field(line, 2, kSeparator);
-      area = Field(line, 3, kSeparator);
-      if (!code.empty() && !city.empty() && !area.empty() && Within(area, area_)) return true;
+      if (!code.empty() && !city.empty()) return true;
     }
     return false;
   }
