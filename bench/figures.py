@@ -96,6 +96,7 @@ LIMITS = (
     Limit("stopwatch, click to painted button", most=16),
     Limit("calculator, key to painted digit", most=16),
     Limit("feed reader", least=100),
+    Limit("weather, longest block while 1 MB comes", most=50),
     Limit("calculator log, a line added, 10,000 lines", most=1.2,
           ratio_to="calculator log, a line added, empty"),
 )

@@ -1,11 +1,10 @@
 // latency times how long a press takes until its effect is painted on the screen, in the program
 // that VARNEL_EXE names. Prints one line for each figure: its name, a tab, the median, a tab, the
 // unit.
-#include <algorithm>
-#include <cstdio>
 #include <optional>
 #include <vector>
 
+#include "bench/timing.h"
 #include "resources/control_ids.h"
 #include "tests/rig/controls.h"
 #include "tests/rig/input.h"
@@ -34,13 +33,6 @@ constexpr Press kFigures[] = {
     {"calculator, key to painted digit", L"Start-Load-Calc", L"frmCLCwg", lbl01234567890, 0, '7'},
 };
 
-double Milliseconds() {
-  LARGE_INTEGER ticks = {}, frequency = {};
-  ::QueryPerformanceCounter(&ticks);
-  ::QueryPerformanceFrequency(&frequency);
-  return 1000.0 * static_cast<double>(ticks.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
-
 // Presses the button under the pointer or the key, or releases it, and does not wait for anything.
 void SendPress(const Press& press, bool down) {
   INPUT event = {};
@@ -58,13 +50,13 @@ void SendPress(const Press& press, bool down) {
 // The time of one press, or nothing when the picture did not change.
 std::optional<double> TimeOf(const Press& press, HWND watched) {
   const Picture before = StillPictureOf(watched);
-  const double start = Milliseconds();
+  const double start = bench::Milliseconds();
   SendPress(press, true);
   double now = start;
   bool changed = false;
   while (!changed && now - start < kPatienceMs) {
     changed = PictureOf(watched) != before;
-    now = Milliseconds();
+    now = bench::Milliseconds();
   }
   SendPress(press, false);
   if (!changed) return std::nullopt;
@@ -87,8 +79,7 @@ void Measure(const Press& press) {
     if (const auto time = TimeOf(press, watched)) times.push_back(*time);
   }
   if (times.size() < kPresses / 2) return;
-  std::ranges::sort(times);
-  std::printf("%s\t%.1f\tms\n", press.name, times[times.size() / 2]);
+  bench::PrintMedian(press.name, times);
 }
 
 }  // namespace

@@ -107,7 +107,7 @@ def main():
 
     samples = measure_all(chosen, runs, idle)
     values = {figures.EXE_SIZE: (PROGRAM.stat().st_size / 1e6, "MB")}
-    for probe in ("bench_latency", "bench_theme", "bench_micro"):
+    for probe in ("bench_latency", "bench_theme", "bench_weather", "bench_micro"):
         values |= probe_values("wine", str(WINDOWS_BUILD / f"bench/{probe}.exe"))
     print_table(figures.rows(samples, values))
 

@@ -10,6 +10,7 @@
 #include <functional>
 #include <vector>
 
+#include "bench/timing.h"
 #include "resources/control_ids.h"
 #include "tests/rig/controls.h"
 #include "tests/rig/files.h"
@@ -22,26 +23,18 @@ namespace {
 
 constexpr int kRounds = 15;
 
-double Milliseconds() {
-  LARGE_INTEGER ticks = {}, frequency = {};
-  ::QueryPerformanceCounter(&ticks);
-  ::QueryPerformanceFrequency(&frequency);
-  return 1000.0 * static_cast<double>(ticks.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
-
 // Prints the median time from the start of `act` until `done`.
 void Print(const char* name, const std::function<void(int)>& act,
            const std::function<bool()>& done) {
   std::vector<double> times;
   for (int i = 0; i < kRounds; ++i) {
-    const double start = Milliseconds();
+    const double start = bench::Milliseconds();
     act(i);
-    while (!done() && Milliseconds() - start < kPatience) {
+    while (!done() && bench::Milliseconds() - start < kPatience) {
     }
-    times.push_back(Milliseconds() - start);
+    times.push_back(bench::Milliseconds() - start);
   }
-  std::ranges::sort(times);
-  std::printf("%s\t%.1f\tms\n", name, times[kRounds / 2]);
+  bench::PrintMedian(name, times);
 }
 
 // Puts every preset of the styles into the user's own folder too.
