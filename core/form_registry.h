@@ -23,7 +23,8 @@ class LiveForm {
   virtual void WidgetRefresh() = 0;
   // Applies the chrome of the form's theme: always-on-top, derived colours, opacity.
   virtual void ApplyChrome() = 0;
-  // Gives the form a new size, in twips; it is brought on screen but not snapped to the grid.
+  // Gives the form a new size, in twips. It is brought on screen but not snapped to the grid, and
+  // goes back to its corner when a later size lets it.
   virtual void SetSize(int width, int height) = 0;
   // Its window's place, in pixels of the screen.
   virtual Rect Bounds() const = 0;

@@ -71,30 +71,22 @@ int DpiAt(Point pixel, const Screens& screens) {
   return monitor == nullptr ? screens.system_dpi : monitor->dpi;
 }
 
-Rect MovedInside(const Rect& rect, const Rect& area) {
-  return RectAt({std::max(std::min(rect.left, area.right - rect.width()), area.left),
-                 std::max(std::min(rect.top, area.bottom - rect.height()), area.top)},
-                {rect.width(), rect.height()});
-}
-
-// The twips of a length that was `old_twips` and `old_pixels`: only a changed one is converted, so
-// that what stays does not drift by the rounding.
-int TwipsOf(int pixels, int old_pixels, int old_twips, int dpi) {
-  return pixels == old_pixels ? old_twips : TwipsFromPixels(pixels, dpi);
+// `place` with a window of `size` pixels, moved into the monitor's work area.
+Place MovedInside(const Place& place, Size size, const Monitor& monitor, const Screens& screens) {
+  const Rect& area = monitor.work_area;
+  const Point corner = PixelCorner(place, screens);
+  const Point inside = {std::max(std::min(corner.x, area.right - size.width), area.left),
+                        std::max(std::min(corner.y, area.bottom - size.height), area.top)};
+  return PlaceFromPixels(RectAt(inside, size), place, screens);
 }
 
 Place FittedTo(const Monitor& monitor, const Place& place, const Screens& screens) {
   const Rect& area = monitor.work_area;
-  const Point corner = PixelCorner(place, screens);
   const Size size = PixelSize(place.size, monitor.dpi);
   const Size smallest = PixelSize(kSmallestSize, monitor.dpi);
   const Size fitted = {std::min(size.width, std::max(area.width(), smallest.width)),
                        std::min(size.height, std::max(area.height(), smallest.height))};
-  const Rect inside = MovedInside(RectAt(corner, fitted), area);
-  return {{TwipsOf(inside.left, corner.x, place.corner.x, screens.system_dpi),
-           TwipsOf(inside.top, corner.y, place.corner.y, screens.system_dpi)},
-          {TwipsOf(fitted.width, size.width, place.size.width, monitor.dpi),
-           TwipsOf(fitted.height, size.height, place.size.height, monitor.dpi)}};
+  return MovedInside(place, fitted, monitor, screens);
 }
 
 const Monitor* PrimaryMonitor(const Screens& screens) {
@@ -135,11 +127,17 @@ Rect PixelsFromPlace(const Place& place, const Screens& screens) {
   return RectAt(corner, PixelSize(place.size, DpiAt(corner, screens)));
 }
 
-Place PlaceFromPixels(const Rect& pixels, const Screens& screens) {
+Place PlaceFromPixels(const Rect& pixels, const Place& meant, const Screens& screens) {
+  const auto twips = [](int now, int then, int meant_twips, int dpi) {
+    return now == then ? meant_twips : TwipsFromPixels(now, dpi);
+  };
   const int dpi = DpiAt({pixels.left, pixels.top}, screens);
-  return {{TwipsFromPixels(pixels.left, screens.system_dpi),
-           TwipsFromPixels(pixels.top, screens.system_dpi)},
-          {TwipsFromPixels(pixels.width(), dpi), TwipsFromPixels(pixels.height(), dpi)}};
+  const Point corner = PixelCorner(meant, screens);
+  const Size size = PixelSize(meant.size, dpi);
+  return {{twips(pixels.left, corner.x, meant.corner.x, screens.system_dpi),
+           twips(pixels.top, corner.y, meant.corner.y, screens.system_dpi)},
+          {twips(pixels.width(), size.width, meant.size.width, dpi),
+           twips(pixels.height(), size.height, meant.size.height, dpi)}};
 }
 
 bool SnapToGrid(Point& corner, SnappedPosition& old) {
@@ -149,9 +147,10 @@ bool SnapToGrid(Point& corner, SnappedPosition& old) {
   return moved;
 }
 
-Rect KeepOnScreen(const Rect& pixels, const Screens& screens) {
-  const Monitor* monitor = NearestMonitor(pixels, screens);
-  return monitor == nullptr ? pixels : MovedInside(pixels, monitor->work_area);
+Place KeepOnScreen(const Place& place, const Screens& screens) {
+  const Monitor* monitor = NearestMonitor(PixelsFromPlace(place, screens), screens);
+  if (monitor == nullptr) return place;
+  return MovedInside(place, PixelSize(place.size, monitor->dpi), *monitor, screens);
 }
 
 Size SnapSize(const Place& place, const Screens& screens) {
@@ -194,8 +193,8 @@ void SavePosition(Settings& settings, std::wstring_view form_name, WindowState s
   section.Write(settings, kHeightName, place.size.height);
 }
 
-StoredPlace ReadPosition(const Settings& settings, std::wstring_view form_name,
-                         const Place& fallback, bool include_size) {
+Place ReadPosition(const Settings& settings, std::wstring_view form_name, const Place& fallback,
+                   bool include_size) {
   const WindowSection section(form_name);
   const auto coordinate = [&](std::wstring_view name, int otherwise) {
     return section.Read(settings, name, otherwise, -kFarthest, kFarthest);
@@ -203,18 +202,14 @@ StoredPlace ReadPosition(const Settings& settings, std::wstring_view form_name,
   const auto length = [&](std::wstring_view name, int otherwise) {
     return section.Read(settings, name, otherwise, kLeastStoredSize, kFarthest);
   };
-  StoredPlace stored{fallback};
-  stored.place.corner = {coordinate(kLeftName, fallback.corner.x),
-                         coordinate(kTopName, fallback.corner.y)};
+  Place place = fallback;
+  place.corner = {coordinate(kLeftName, fallback.corner.x),
+                  coordinate(kTopName, fallback.corner.y)};
   if (include_size) {
-    stored.place.size = {length(kWidthName, fallback.size.width),
-                         length(kHeightName, fallback.size.height)};
+    place.size = {length(kWidthName, fallback.size.width),
+                  length(kHeightName, fallback.size.height)};
   }
-  constexpr int kMaximised = static_cast<int>(WindowState::kMaximised);
-  if (section.Read(settings, kStateName, 0, 0, kMaximised) == kMaximised) {
-    stored.state = WindowState::kMaximised;
-  }
-  return stored;
+  return place;
 }
 
 }  // namespace varnel

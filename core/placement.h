@@ -32,7 +32,9 @@ struct Place {
 };
 
 Rect PixelsFromPlace(const Place& place, const Screens& screens);
-Place PlaceFromPixels(const Rect& pixels, const Screens& screens);
+// The place of a window that is seen at `pixels`. What `meant`, the place it was to have, gives the
+// same pixels for is taken from there, so that nothing drifts by the rounding.
+Place PlaceFromPixels(const Rect& pixels, const Place& meant, const Screens& screens);
 
 // Windows come to rest on multiples of this, in twips from the desktop's origin.
 inline constexpr int kGridStep = 150;
@@ -47,9 +49,9 @@ struct SnappedPosition {
 // another point than `old`, which is brought up to date.
 bool SnapToGrid(Point& corner, SnappedPosition& old);
 
-// `pixels` moved into the work area of the monitor that shows most of it, or else of the nearest
+// `place` moved into the work area of the monitor that shows most of it, or else of the nearest
 // one; a window that is larger than the area keeps its top left corner there.
-Rect KeepOnScreen(const Rect& pixels, const Screens& screens);
+Place KeepOnScreen(const Place& place, const Screens& screens);
 
 // The size that the size grip gives `place`: on the grid, but never beyond the work area, and never
 // smaller than kSmallestSize.
@@ -68,20 +70,16 @@ Place DefaultPlace(int index, const Screens& screens);
 // The numbers are those of the stored value "Window State".
 enum class WindowState { kNormal = 0, kMinimised = 1, kMaximised = 2 };
 
-struct StoredPlace {
-  Place place;
-  WindowState state = WindowState::kNormal;
-};
-
 // Writes the place of the form to its section "\Window"; of a minimised or maximised window only
 // the state, of a window whose size is fixed no size.
 void SavePosition(Settings& settings, std::wstring_view form_name, WindowState state,
                   const Place& place, bool include_size);
 
-// What SavePosition wrote, as the user wished it: it may lie on a monitor that is gone, so that the
-// window can return when the monitor does. Each unusable value gives that of `fallback`.
-// A minimised window comes back normal, for nothing on the desktop would show where it is.
-StoredPlace ReadPosition(const Settings& settings, std::wstring_view form_name,
-                         const Place& fallback, bool include_size);
+// The place that SavePosition wrote, as the user wished it: it may lie on a monitor that is gone,
+// so that the window can return when the monitor does. Each unusable value gives that of
+// `fallback`. The state is not read back: a window comes back normal, for nothing on a borderless
+// one would show that it is minimised or maximised, or undo it.
+Place ReadPosition(const Settings& settings, std::wstring_view form_name, const Place& fallback,
+                   bool include_size);
 
 }  // namespace varnel

@@ -37,8 +37,7 @@ void TextButtons::SetText(int id, std::wstring_view text) {
 void TextButtons::Place(int id, const Rect& box) {
   const TextButton* button = Find(id);
   if (!button) return;
-  ::SetWindowPos(button->handle, nullptr, box.left, box.top, box.width(), box.height(),
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+  PlaceWindow(button->handle, box);
   Repaint(id);
 }
 

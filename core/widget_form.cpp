@@ -39,8 +39,7 @@ WidgetForm::~WidgetForm() {
 
 bool WidgetForm::Load() {
   const Screens screens = CurrentScreens();
-  place_ =
-      ReadPosition(services_.settings, entry_.form_name, DefaultPlace(index_, screens), true).place;
+  place_ = ReadPosition(services_.settings, entry_.form_name, DefaultPlace(index_, screens), true);
   snapped_ = {place_.corner.x, place_.corner.y};
   theme_ = LoadTheme(services_.settings, entry_.form_name, services_.colours);
   Creation creation;
@@ -84,6 +83,8 @@ void WidgetForm::SaveState() {
 
 void WidgetForm::Show(bool shown) {
   const bool manager = index_ == kManagerIndex;
+  // What ticks rests while nobody sees it.
+  if (shown && !visible()) RefreshContent();
   ::ShowWindow(handle(), !shown ? SW_HIDE : manager ? SW_SHOWNORMAL : SW_SHOWNOACTIVATE);
   if (!shown) return;
   if (manager) ::SetForegroundWindow(handle());
@@ -214,7 +215,7 @@ LRESULT WidgetForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
       OnContextMenu(lparam);
       return 0;
     case WM_SETCURSOR:
-      OnMouseOver(reinterpret_cast<HWND>(wparam));
+      if (OnMouseOver(reinterpret_cast<HWND>(wparam))) return TRUE;
       break;
     case WM_LBUTTONDOWN:
       OnLeftButtonDown({static_cast<short>(LOWORD(lparam)), static_cast<short>(HIWORD(lparam))});

@@ -95,13 +95,16 @@ class WidgetForm : public PaintedWindow, public LiveForm {
   void RunCommand(int id);
   void ShowMenu(Point at);
   void OnContextMenu(LPARAM position);
-  void OnMouseOver(HWND control);
+  // True when the pointer has been given its shape.
+  bool OnMouseOver(HWND control);
   void HoverTick(Timer& timer);
   void OnLeftButtonDown(Point at);
-  void DragStart(int button);
+  void DragStart();
   void DragSize();
   bool OnArrow(WPARAM key, bool sizing);
+  // The first shows the form at its new place as far as the screens allow; the second saves, too.
   void MoveTo(const Place& place);
+  void Settle(const Place& place);
   void SnapAndKeep();
   void ReturnToScreen();
   void OnDpiChanged(const RECT& suggested);

@@ -11,8 +11,6 @@
 namespace varnel {
 namespace {
 
-constexpr int kLeftButton = 1;
-
 Point MousePosition() {
   POINT point = {};
   ::GetCursorPos(&point);
@@ -72,9 +70,14 @@ void WidgetForm::OnContextMenu(LPARAM position) {
   }
 }
 
-void WidgetForm::OnMouseOver(HWND control) {
-  if (services_.program.closing() || !buttons_.OnMouseOver(control)) return;
-  (buttons_.hovered()->on_bar ? tmrBARBTNS_ : tmrPANBTNS_).Start();
+bool WidgetForm::OnMouseOver(HWND control) {
+  if (!services_.program.closing() && buttons_.OnMouseOver(control)) {
+    (buttons_.hovered()->on_bar ? tmrBARBTNS_ : tmrPANBTNS_).Start();
+  }
+  const Rect grip = Within(screen_rect(), layout_.size_grip);
+  if (control != handle() || !grip.Contains(MousePosition())) return false;
+  ::SetCursor(::LoadCursorW(nullptr, MAKEINTRESOURCEW(32642)));  // the diagonal arrows
+  return true;
 }
 
 void WidgetForm::HoverTick(Timer& timer) {
@@ -83,15 +86,14 @@ void WidgetForm::HoverTick(Timer& timer) {
 
 void WidgetForm::OnLeftButtonDown(Point at) {
   if (layout_.pfrBAR.Contains(at)) {
-    DragStart(kLeftButton);
+    DragStart();
   } else if (layout_.size_grip.Contains(at)) {
     sizing_ = true;
     ::SetCapture(handle());
   }
 }
 
-void WidgetForm::DragStart(int button) {
-  if (button != kLeftButton) return;
+void WidgetForm::DragStart() {
   ::ReleaseCapture();
   ::SendMessageW(handle(), WM_NCLBUTTONDOWN, HTCAPTION, 0);
   if (handle()) SnapAndKeep();
@@ -99,21 +101,20 @@ void WidgetForm::DragStart(int button) {
 
 void WidgetForm::SnapAndKeep() {
   const Screens screens = CurrentScreens();
-  Place place = PlaceFromPixels(screen_rect(), screens);
+  Place place = {PlaceFromPixels(screen_rect(), place_, screens).corner, place_.size};
   SnapToGrid(place.corner, snapped_);
-  place.size = place_.size;
-  const Rect kept = KeepOnScreen(PixelsFromPlace(place, screens), screens);
-  if (kept != PixelsFromPlace(place, screens)) place.corner = PlaceFromPixels(kept, screens).corner;
-  MoveTo(place);
-  SaveState();
+  Settle(KeepOnScreen(place, screens));
 }
 
 void WidgetForm::MoveTo(const Place& place) {
   place_ = place;
   const Screens screens = CurrentScreens();
-  const Rect pixels = PixelsFromPlace(FitPlace(place_, screens), screens);
-  ::SetWindowPos(handle(), nullptr, pixels.left, pixels.top, pixels.width(), pixels.height(),
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+  PlaceWindow(handle(), PixelsFromPlace(FitPlace(place_, screens), screens));
+}
+
+void WidgetForm::Settle(const Place& place) {
+  MoveTo(place);
+  SaveState();
 }
 
 void WidgetForm::DragSize() {
@@ -123,20 +124,16 @@ void WidgetForm::DragSize() {
   // The grip's corner follows the mouse.
   const Rect wanted{window.left, window.top, mouse.x + Scaled(4, dpi()),
                     mouse.y + Scaled(4, dpi())};
-  Place place = place_;
-  place.size = SnapSize({place_.corner, PlaceFromPixels(wanted, screens).size}, screens);
-  if (place.size != place_.size) MoveTo(place);
+  Place place = PlaceFromPixels(wanted, place_, screens);
+  place.size = SnapSize(place, screens);
+  if (place != place_) MoveTo(place);
 }
 
 void WidgetForm::SetSize(int width, int height) {
+  place_.size = {width, height};
+  // Exactly as large as asked for, even where that is more than the work area.
   const Screens screens = CurrentScreens();
-  const Place place{place_.corner, {width, height}};
-  const Rect kept = KeepOnScreen(PixelsFromPlace(place, screens), screens);
-  place_ = {PlaceFromPixels(kept, screens).corner, place.size};
-  if (kept == PixelsFromPlace(place, screens)) place_.corner = place.corner;
-  const Rect pixels = PixelsFromPlace(place_, screens);
-  ::SetWindowPos(handle(), nullptr, pixels.left, pixels.top, pixels.width(), pixels.height(),
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+  PlaceWindow(handle(), PixelsFromPlace(KeepOnScreen(place_, screens), screens));
   SaveState();
 }
 
@@ -151,24 +148,22 @@ bool WidgetForm::OnArrow(WPARAM key, bool sizing) {
   const int across = key == VK_LEFT ? -kGridStep : key == VK_RIGHT ? kGridStep : 0;
   const int down = key == VK_UP ? -kGridStep : key == VK_DOWN ? kGridStep : 0;
   const Screens screens = CurrentScreens();
-  Place place = place_;
+  Place place = PlaceFromPixels(screen_rect(), place_, screens);
   if (sizing) {
-    place.size =
-        SnapSize({place_.corner, {place_.size.width + across, place_.size.height + down}}, screens);
+    place.size = {place.size.width + across, place.size.height + down};
+    place.size = SnapSize(place, screens);
   } else {
-    place.corner = {place_.corner.x + across, place_.corner.y + down};
+    place.corner = {place.corner.x + across, place.corner.y + down};
     SnapToGrid(place.corner, snapped_);
     place = FitPlace(place, screens);
   }
-  MoveTo(place);
-  SaveState();
+  Settle(place);
   return true;
 }
 
 void WidgetForm::MoveToDefaultPlace() {
-  MoveTo(DefaultPlace(index_, CurrentScreens()));
+  Settle(DefaultPlace(index_, CurrentScreens()));
   snapped_ = {place_.corner.x, place_.corner.y};
-  SaveState();
 }
 
 void WidgetForm::ReturnToScreen() {
@@ -176,8 +171,7 @@ void WidgetForm::ReturnToScreen() {
 }
 
 void WidgetForm::OnDpiChanged(const RECT& suggested) {
-  ::SetWindowPos(handle(), nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
-                 suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
+  PlaceWindow(handle(), FromSystem(suggested));
   Form_Resize();
   WidgetRefresh();
 }

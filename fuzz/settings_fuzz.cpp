@@ -76,9 +76,9 @@ class CountedWindows : public WidgetWindows {
 void CheckPlace(const Settings& settings) {
   const Screens screens{{{{0, 0, 1280, 770}, 96}, {{-2560, -300, 0, 1140}, 144}}, 96};
   const Place place =
-      FitPlace(ReadPosition(settings, L"frmCLKwg", DefaultPlace(0, screens), true).place, screens);
+      FitPlace(ReadPosition(settings, L"frmCLKwg", DefaultPlace(0, screens), true), screens);
   const Rect pixels = PixelsFromPlace(place, screens);
-  Require(KeepOnScreen(pixels, screens) == pixels);
+  Require(KeepOnScreen(place, screens) == place);
   Require(pixels.width() > 0 && pixels.height() > 0);
   Require(FitPlace(place, screens) == place);
   const Size gripped = SnapSize(place, screens);

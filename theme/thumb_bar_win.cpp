@@ -21,8 +21,7 @@ bool ThumbBar::Load(HWND parent) {
 void ThumbBar::Place(const Rect& place, Colour ground, Colour thumb) {
   ground_ = ground;
   thumb_ = thumb;
-  ::SetWindowPos(handle(), nullptr, place.left, place.top, place.width(), place.height(),
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+  PlaceWindow(handle(), place);
   ::ShowWindow(handle(), place.empty() ? SW_HIDE : SW_SHOWNA);
   ::InvalidateRect(handle(), nullptr, FALSE);
 }

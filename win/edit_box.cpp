@@ -1,5 +1,6 @@
 #include "win/edit_box.h"
 
+#include "win/window.h"
 #include "win/window_text.h"
 
 namespace varnel {
@@ -17,8 +18,7 @@ HWND CreateEditBox(HWND parent, int id, DWORD style, int most) {
 }
 
 void PlaceEditBox(HWND box, const Rect& place, HFONT font) {
-  ::SetWindowPos(box, nullptr, place.left, place.top, place.width(), place.height(),
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+  PlaceWindow(box, place);
   ::SendMessageW(box, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
 }
 

@@ -106,6 +106,11 @@ void Window::OnTimer(UINT_PTR id) {
   if (found != timers_.end()) (*found)->Tick();
 }
 
+void PlaceWindow(HWND window, const Rect& place) {
+  ::SetWindowPos(window, nullptr, place.left, place.top, place.width(), place.height(),
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 int RunMessageLoop() {
   MSG message;
   while (::GetMessageW(&message, nullptr, 0, 0) > 0) {

@@ -72,6 +72,10 @@ class Window {
   std::vector<Timer*> timers_;
 };
 
+// Moves and sizes a window (pixels of the screen, of the parent for a child) and leaves its order
+// among the others and the focus alone.
+void PlaceWindow(HWND window, const Rect& place);
+
 // Runs messages until the program posts its quit message; gives that message's exit code. Keys go
 // first to the top-level window's OnKey, then to the system's keyboard handling for dialogs.
 int RunMessageLoop();

@@ -61,7 +61,7 @@ class Dice {
 
 Place Restored(const Settings& settings, std::wstring_view form, const Place& fallback,
                const Screens& screens) {
-  return FitPlace(ReadPosition(settings, form, fallback, true).place, screens);
+  return FitPlace(ReadPosition(settings, form, fallback, true), screens);
 }
 
 bool Inside(const Rect& rect, const Rect& area) {
@@ -122,9 +122,11 @@ TEST(KeepOnScreen, BringsWindowsInsideTheNearestWorkArea) {
       {Screens{}, {-3000, 2000, -2700, 2200}, {-3000, 2000}},
   };
   for (const auto& [screens, from, to] : cases) {
-    const Rect kept = KeepOnScreen(from, screens);
-    EXPECT_EQ((Point{kept.left, kept.top}), to);
-    EXPECT_EQ((Size{kept.width(), kept.height()}), (Size{from.width(), from.height()}));
+    const Place place = PlaceFromPixels(from, {}, screens);
+    const Place kept = KeepOnScreen(place, screens);
+    const Rect pixels = PixelsFromPlace(kept, screens);
+    EXPECT_EQ((Point{pixels.left, pixels.top}), to);
+    EXPECT_EQ(kept.size, place.size);
   }
 }
 
@@ -132,10 +134,10 @@ TEST(KeepOnScreen, AnyWindowOnAnyMonitors) {
   Dice dice(1);
   for (int i = 0; i < 2000; ++i) {
     const Screens screens = dice.AnyScreens();
-    const Rect window = RectAt({dice.Any(-20'000, 20'000), dice.Any(-20'000, 20'000)},
-                               {dice.Any(1, 600), dice.Any(1, 440)});
-    const Rect kept = KeepOnScreen(window, screens);
-    ASSERT_TRUE(OnSomeMonitor(kept, screens));
+    const Place window{{dice.Any(-300'000, 300'000), dice.Any(-300'000, 300'000)},
+                       {dice.Any(15, 3600), dice.Any(15, 2640)}};
+    const Place kept = KeepOnScreen(window, screens);
+    ASSERT_TRUE(OnSomeMonitor(PixelsFromPlace(kept, screens), screens));
     ASSERT_EQ(KeepOnScreen(kept, screens), kept);
   }
 }
@@ -144,13 +146,15 @@ TEST(FitPlace, ConvertsSizesByTheMonitorAndPositionsByTheSystem) {
   const Place on_left{{-15'000, 1500}, {2400, 1600}};
   const Rect pixels = PixelsFromPlace(on_left, kThree);
   EXPECT_EQ(pixels, RectAt({-1000, 100}, {240, 160}));
-  EXPECT_EQ(PlaceFromPixels(pixels, kThree), on_left);
+  EXPECT_EQ(PlaceFromPixels(pixels, {}, kThree), on_left);
   EXPECT_EQ(FitPlace(on_left, kThree), on_left);
 }
 
 TEST(FitPlace, LeavesWhatFitsToTheTwip) {
   const Place odd{{157, 1003}, {5903, 3471}};  // no multiples of a pixel
   EXPECT_EQ(FitPlace(odd, kOne), odd);
+  EXPECT_EQ(KeepOnScreen(odd, kOne), odd);
+  EXPECT_EQ(PlaceFromPixels(PixelsFromPlace(odd, kOne), odd, kOne), odd);
   const Place too_far{{18'000, 1003}, {5903, 3471}};
   EXPECT_EQ(FitPlace(too_far, kOne), (Place{{(1280 - 394) * 15, 1003}, {5903, 3471}}));
   const Place too_large{{0, 0}, {30'000, 3471}};
@@ -214,7 +218,7 @@ TEST(WindowMemory, KeepsPlaceAndSize) {
   EXPECT_EQ(settings.Read(L"frmCLKwg\\Window", L"Height", L""), L"3508");
   EXPECT_EQ(Restored(settings, L"frmCLKwg", kFallback, kThree), place);
   EXPECT_EQ(Restored(settings, L"frmCLCwg", kFallback, kThree), kFallback);
-  EXPECT_EQ(ReadPosition(settings, L"frmCLKwg", kFallback, false).place.size, kFallback.size);
+  EXPECT_EQ(ReadPosition(settings, L"frmCLKwg", kFallback, false).size, kFallback.size);
 }
 
 TEST(WindowMemory, KeepsOnlyTheStateOfAWindowThatIsNotNormal) {
@@ -224,12 +228,9 @@ TEST(WindowMemory, KeepsOnlyTheStateOfAWindowThatIsNotNormal) {
   EXPECT_EQ(settings.values.size(), 3u);
   SavePosition(settings, L"frmCLKwg", WindowState::kMinimised, {}, true);
   EXPECT_EQ(settings.values.size(), 3u);
-  StoredPlace restored = ReadPosition(settings, L"frmCLKwg", kFallback, true);
-  EXPECT_EQ(restored.place, (Place{place.corner, kFallback.size}));
-  EXPECT_EQ(restored.state, WindowState::kNormal);
-  SavePosition(settings, L"frmCLKwg", WindowState::kMaximised, {}, true);
-  restored = ReadPosition(settings, L"frmCLKwg", kFallback, true);
-  EXPECT_EQ(restored.state, WindowState::kMaximised);
+  EXPECT_EQ(settings.Read(L"frmCLKwg\\Window", L"Window State", L""), L"1");
+  EXPECT_EQ(ReadPosition(settings, L"frmCLKwg", kFallback, true),
+            (Place{place.corner, kFallback.size}));
 }
 
 TEST(WindowMemory, AWindowReturnsWithItsMonitor) {
@@ -238,9 +239,9 @@ TEST(WindowMemory, AWindowReturnsWithItsMonitor) {
   SavePosition(settings, L"frmNOTwg", WindowState::kNormal, place, true);
   Screens unplugged = kThree;
   unplugged.monitors.erase(unplugged.monitors.begin() + 1);
-  const StoredPlace wish = ReadPosition(settings, L"frmNOTwg", kFallback, true);
-  EXPECT_EQ(FitPlace(wish.place, unplugged), (Place{{0, 3000}, {4950, 3500}}));
-  EXPECT_EQ(FitPlace(wish.place, kThree), place);
+  const Place wish = ReadPosition(settings, L"frmNOTwg", kFallback, true);
+  EXPECT_EQ(FitPlace(wish, unplugged), (Place{{0, 3000}, {4950, 3500}}));
+  EXPECT_EQ(FitPlace(wish, kThree), place);
 }
 
 TEST(WindowMemory, EveryGarbageValueLeavesTheWindowReachable) {
