@@ -1,4 +1,6 @@
 // The part of the application that answers the shared menu commands.
+#include <optional>
+
 #include "core/application_win.h"
 #include "core/core_settings.h"
 #include "core/screens_win.h"
@@ -10,14 +12,14 @@ namespace varnel {
 namespace {
 
 constexpr wchar_t kHelpText[] =
-    L"Drag a widget by its title bar; it comes to rest on a grid. Drag its lower right corner to "
-    L"size it.\n\n"
-    L"Tab and Shift+Tab\tgo from button to button\n"
-    L"Space or Enter\tpresses a button\n"
-    L"Ctrl+arrow\tmoves the widget by one step of the grid\n"
-    L"Ctrl+Shift+arrow\tsizes it by one step\n"
-    L"Shift+F10\topens the widget's menu\n"
-    L"Alt+F4\tcloses the widget\n\n"
+    L"Drag a widget by its title bar: it comes to rest on a grid.\n"
+    L"Drag its lower right corner to size it.\n\n"
+    L"Tab, Shift+Tab: go from button to button\n"
+    L"Space, Enter: press the button\n"
+    L"Ctrl+arrow: move the widget by one step of the grid\n"
+    L"Ctrl+Shift+arrow: size it by one step\n"
+    L"Shift+F10: open the widget's menu\n"
+    L"Alt+F4: close the widget\n\n"
     L"Double-click the icon beside the system's clock to bring back the manager.";
 
 }  // namespace
@@ -61,7 +63,7 @@ std::vector<MenuItem> Application::SharedMenu() const {
   SharedMenuState state;
   for (int i = 0; i < kWidgetCount; ++i) {
     state.available[i] = Available(i);
-    state.open[i] = manager_ && manager_->IsOpen(i);
+    state.open[i] = manager_.IsOpen(i);
   }
   const LiveForm* current = CurrentForm();
   state.has_widget = current != nullptr;
@@ -74,31 +76,18 @@ std::vector<MenuItem> Application::SharedMenu() const {
   return BuildSharedMenu(state);
 }
 
-void Application::ResizeCurrent(Size twips) {
+void Application::RunSizeCommand(int id) {
   LiveForm* form = WidgetNamed(current_widget_) ? CurrentForm() : nullptr;
   if (!form) return;
-  form->SetSize(twips.width, twips.height);
+  std::optional<Size> twips = FixedSize(ArrayCommandIndex(L"mnuWIDGRESETA", 3, id));
+  if (id == CommandId(L"mnuWIDGRESETD")) twips = DefaultSize();
+  if (const int part = ArrayCommandIndex(L"mnuWIDGRESET", 4, id); part >= 0) {
+    twips = ScreenPartSize(ScreenSizeAt(form->Bounds()), part);
+  }
+  if (!twips) return;
+  form->SetSize(twips->width, twips->height);
   form->Form_Resize();
-  manager_->WidgetRefresh();
-}
-
-bool Application::RunSizeCommand(int id) {
-  if (id == CommandId(L"mnuWIDGRESETD")) {
-    ResizeCurrent(DefaultSize());
-    return true;
-  }
-  if (const auto size = FixedSize(ArrayCommandIndex(L"mnuWIDGRESETA", 3, id))) {
-    ResizeCurrent(*size);
-    return true;
-  }
-  const int part = ArrayCommandIndex(L"mnuWIDGRESET", 4, id);
-  const int widget =
-      part < 0 || !WidgetNamed(current_widget_) ? -1 : WidgetNamed(current_widget_)->index;
-  if (widget < 0 || !widgets_[widget]) return part >= 0;
-  if (const auto size = ScreenPartSize(ScreenSizeAt(widgets_[widget]->screen_rect()), part)) {
-    ResizeCurrent(*size);
-  }
-  return true;
+  manager_.WidgetRefresh();
 }
 
 void Application::ShowHelp() {
@@ -111,8 +100,8 @@ void Application::RunCommand(int id) {
     void (*run)(Application&);
   };
   static constexpr Handler kHandlers[] = {
-      {L"mnuDCSHOWALL", [](Application& self) { self.manager_->WidgetSel(2); }},
-      {L"mnuDCHIDEALL", [](Application& self) { self.manager_->WidgetSel(1); }},
+      {L"mnuDCSHOWALL", [](Application& self) { self.manager_.WidgetSel(2); }},
+      {L"mnuDCHIDEALL", [](Application& self) { self.manager_.WidgetSel(1); }},
       {L"mnuDCMANAGER", [](Application& self) { self.ShowManager(); }},
       {L"mnuDCMANAGERHIDE", [](Application& self) { self.HideToTray(); }},
       {L"mnuDCTOP",
@@ -130,7 +119,8 @@ void Application::RunCommand(int id) {
       {L"mnuDCDONATE", [](Application& self) { self.OpenDialog(L"frmDONATE"); }},
       {L"mnuDCMORE", [](Application& self) { self.OpenDialog(L"frmMORE"); }},
       {L"mnuDCEXIT", [](Application& self) { self.ExitProgram(); }}};
-  if (id == 0 || closing_ || !manager_ || RunSizeCommand(id)) return;
+  if (id == 0 || closing_) return;
+  RunSizeCommand(id);
   const int widget = ArrayCommandIndex(L"mnuDCWIDGETS", kWidgetCount, id);
   if (widget >= 0) WidgetCheck(widget);
   for (const Handler& handler : kHandlers) {

@@ -40,7 +40,8 @@ Application::Application(HINSTANCE instance, const CommandLine& command_line,
                 colours_, forms_,    *this,  sound_, ProgramFolder(command_line),
                 {}},
       menus_(ui_, *this, [this] { SaveEverything(); }),
-      tray_(ui_, *this) {}
+      tray_(ui_, *this),
+      manager_(services_, *this) {}
 
 std::wstring Application::InstanceName(const CommandLine& command_line) {
   return command_line.settings_title + L" menus";
@@ -79,10 +80,8 @@ void Application::Main() {
   Guarded(L"theme folders",
           [this] { EnsureThemeFolders(files_, services_.program_folder, colours_); });
   Guarded(L"manager", [this] {
-    WidgetHost& host = *this;
-    manager_ = std::make_unique<ManagerForm>(services_, host);
     // The manager opens the widgets that were open last time.
-    if (manager_->WidgetForm::Load()) manager_->StartUp();
+    if (manager_.WidgetForm::Load()) manager_.StartUp();
   });
   Guarded(L"menus", [this] {
     LoadResidents();
@@ -112,20 +111,19 @@ void Application::ShowStartupWindow() {
   if (command_line_.to_tray || ReadCheck(settings_, kMinimizeOnStart)) {
     HideToTray();
   } else {
-    manager_->WidgetForm::Show(true);
+    manager_.WidgetForm::Show(true);
   }
 }
 
 void Application::ShowManager() {
-  if (closing_ || !manager_) return;
-  manager_->WidgetForm::Show(true);
-  manager_->ThemeRefresh();
+  if (closing_) return;
+  manager_.WidgetForm::Show(true);
+  manager_.ThemeRefresh();
 }
 
 void Application::HideToTray() {
-  if (!manager_) return;
-  manager_->WidgetForm::Show(false);
-  manager_->ThemeRefresh();
+  manager_.WidgetForm::Show(false);
+  manager_.ThemeRefresh();
 }
 
 void Application::RegisterRunAtLogon() {
@@ -156,7 +154,7 @@ void Application::UpdateCheckDone(const HttpResult& page) {
 
 void Application::SaveEverything() {
   Guarded(L"saving", [this] {
-    if (manager_) manager_->SaveState();
+    manager_.SaveState();
     for (const auto& widget : widgets_) {
       if (widget) widget->SaveState();
     }
@@ -166,7 +164,7 @@ void Application::SaveEverything() {
 void Application::ExitProgram() {
   if (std::exchange(closing_, true)) return;
   Guarded(L"tray icon", [this] { tray_.Unload(); });
-  Guarded(L"manager", [this] { manager_->WidgetForm::Unload(); });
+  Guarded(L"manager", [this] { manager_.WidgetForm::Unload(); });
   for (const auto& widget : widgets_) {
     Guarded(L"widget", [&] {
       if (widget) widget->Unload();

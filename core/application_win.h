@@ -39,7 +39,7 @@ class Application : public Program, private WidgetHost {
   void HideToTray() override;
   void RegisterRunAtLogon() override;
   void CheckForUpdate(int mode) override;
-  void WidgetCheck(int index) override { manager_->WidgetCheck(index); }
+  void WidgetCheck(int index) override { manager_.WidgetCheck(index); }
   Dialog* FindDialog(std::wstring_view form) override;
   void OpenDialog(std::wstring_view form) override;
   bool HasDialog(std::wstring_view form) const override;
@@ -68,8 +68,7 @@ class Application : public Program, private WidgetHost {
   void UpdateCheckDone(const HttpResult& page);
   void SaveEverything();
   LiveForm* CurrentForm() const { return services_.forms.Find(current_widget_); }
-  void ResizeCurrent(Size twips);
-  bool RunSizeCommand(int id);
+  void RunSizeCommand(int id);
   void OpenPage(const std::wstring& address);
   void ShowHelp();
 
@@ -92,7 +91,7 @@ class Application : public Program, private WidgetHost {
   std::wstring current_widget_;
   MenusForm menus_;
   TrayForm tray_;
-  std::unique_ptr<ManagerForm> manager_;
+  ManagerForm manager_;
   std::array<std::unique_ptr<WidgetForm>, kWidgetCount> widgets_;
   std::vector<std::unique_ptr<WidgetForm>> retired_;  // unloaded, but perhaps still at work
   std::map<std::wstring, std::unique_ptr<Dialog>, std::less<>> dialogs_;

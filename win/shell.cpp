@@ -82,7 +82,7 @@ std::wstring BrowseForFile(HWND owner, const wchar_t* title, const wchar_t* filt
 }
 
 void ShowInformation(HWND owner, const std::wstring& text, const std::wstring& title) {
-  ::MessageBoxW(owner, text.c_str(), title.c_str(), MB_OK | MB_ICONINFORMATION);
+  ::MessageBoxW(owner, text.c_str(), title.c_str(), MB_OK | MB_ICONINFORMATION | MB_TOPMOST);
 }
 
 bool AskYesNo(HWND owner, const std::wstring& text, const std::wstring& title) {
