@@ -27,11 +27,6 @@ int BestColumns(const Rect& panel) {
   return best;
 }
 
-// The start of part `index` of `count` equal parts of `length` with `gap` between them.
-int PartStart(int index, int count, int length, int gap) {
-  return index * (length + gap) / count;
-}
-
 }  // namespace
 
 ManagerLayout LayOutManager(const Rect& panel, int dpi) {
@@ -41,13 +36,16 @@ ManagerLayout LayOutManager(const Rect& panel, int dpi) {
   const int gap = Scaled(tiny ? 2 : kGap, dpi);
   const int columns = BestColumns(panel);
   const int rows = kTileCount / columns;
+  const Size tile{std::max(0, (area.width() - (columns - 1) * gap) / columns),
+                  std::max(0, (area.height() - (rows - 1) * gap) / rows)};
+  const Point step{tile.width + gap, tile.height + gap};
+  // The few pixels that remain are left at both sides: tiles that differ would differ in their
+  // letters, too.
+  const Point first{area.left + (area.width() - columns * step.x + gap) / 2,
+                    area.top + (area.height() - rows * step.y + gap) / 2};
   for (int i = 0; i < kTileCount; ++i) {
-    const int column = i % columns;
-    const int row = i / columns;
-    layout.tiles[i] = {area.left + PartStart(column, columns, area.width(), gap),
-                       area.top + PartStart(row, rows, area.height(), gap),
-                       area.left + PartStart(column + 1, columns, area.width(), gap) - gap,
-                       area.top + PartStart(row + 1, rows, area.height(), gap) - gap};
+    layout.tiles[i] =
+        RectAt({first.x + i % columns * step.x, first.y + i / columns * step.y}, tile);
   }
   return layout;
 }
@@ -59,20 +57,22 @@ TileLayout LayOutTile(Size tile, int dpi) {
   const int caption = std::clamp(std::min(tile.height / 5, tile.width / 6), least_caption,
                                  std::max(least_caption, Scaled(28, dpi)));
   const int caption_line = caption * 3 / 2;
-  const bool captioned =
-      tile.height >= caption_line + Scaled(26, dpi) && tile.width >= Scaled(68, dpi);
+  const bool low = tile.height < caption_line + Scaled(26, dpi);
+  const bool captioned = !low && tile.width >= Scaled(68, dpi);
+  const int star = std::clamp(std::min(tile.height, tile.width) / 5, Scaled(9, dpi),
+                              std::max(Scaled(9, dpi), Scaled(28, dpi)));
+  layout.star_height = star;
+  layout.star = {tile.width - star - pad, pad - pad / 4, tile.width - pad, pad - pad / 4 + star};
   const int glyph_bottom = tile.height - (captioned ? caption_line + pad / 2 : 0);
-  layout.glyph = {0, captioned ? pad : 0, tile.width, glyph_bottom};
+  // On a low tile the star would touch a glyph in the middle.
+  layout.glyph = {0, captioned ? pad : 0, low ? std::max(0, layout.star.left) : tile.width,
+                  glyph_bottom};
   layout.glyph_height =
       std::max(8, std::min(layout.glyph.height() * (captioned ? 78 : 62) / 100, tile.width / 2));
   if (captioned) {
     layout.caption = {pad / 2, glyph_bottom, tile.width - pad / 2, tile.height - pad / 2};
     layout.caption_height = caption;
   }
-  const int star = std::clamp(std::min(tile.height, tile.width) / 5, Scaled(9, dpi),
-                              std::max(Scaled(9, dpi), Scaled(28, dpi)));
-  layout.star_height = star;
-  layout.star = {tile.width - star - pad, pad - pad / 4, tile.width - pad, pad - pad / 4 + star};
   return layout;
 }
 

@@ -66,6 +66,7 @@ TEST(ManagerLayout, TilesFillThePanelWithoutTouching) {
         area += static_cast<long long>(tile.width()) * tile.height();
         for (int j = 0; j < i; ++j) EXPECT_FALSE(Overlap(tile, layout.tiles[j]));
         const Size tile_size{tile.width(), tile.height()};
+        EXPECT_EQ(tile_size, (Size{layout.tiles[0].width(), layout.tiles[0].height()}));
         const TileLayout inside = LayOutTile(tile_size, dpi);
         const Rect bounds{0, 0, tile_size.width, tile_size.height};
         EXPECT_TRUE(IsInside(inside.caption, bounds));
