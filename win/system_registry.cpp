@@ -41,8 +41,10 @@ bool SystemRegistry::WriteText(Hive hive, const std::wstring& path, const std::w
     return false;
   }
   const UniqueKey key(opened);
+  // The system looks one unit past the text for a terminator: the copy has one.
+  const std::wstring terminated(text);
   return ::RegSetValueExW(key.get(), name.c_str(), 0, REG_SZ,
-                          reinterpret_cast<const BYTE*>(text.data()),
+                          reinterpret_cast<const BYTE*>(terminated.data()),
                           static_cast<DWORD>(text.size() * sizeof(wchar_t))) == ERROR_SUCCESS;
 }
 
