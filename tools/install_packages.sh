@@ -20,7 +20,8 @@ as_root() {
 mapfile -t missing < <(missing_packages)
 if [ ${#missing[@]} -gt 0 ]; then
   echo "Installing: ${missing[*]}"
-  as_root apt-get update -q
+  # A source of the machine's own that cannot be reached need not matter: the installation decides.
+  as_root apt-get update -q || echo "Warning: not every package list could be updated" >&2
   as_root env DEBIAN_FRONTEND=noninteractive apt-get install -q -y --no-install-recommends \
     -o DPkg::Lock::Timeout=600 "${missing[@]}"
 fi
