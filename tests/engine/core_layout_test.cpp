@@ -6,19 +6,12 @@
 #include "base/rounded_box.h"
 #include "core/frame_layout.h"
 #include "core/manager_layout.h"
+#include "tests/support/boxes.h"
 
 namespace varnel {
 namespace {
 
-bool IsInside(const Rect& inner, const Rect& outer) {
-  return inner.empty() || (inner.left >= outer.left && inner.top >= outer.top &&
-                           inner.right <= outer.right && inner.bottom <= outer.bottom);
-}
-
-bool Overlap(const Rect& a, const Rect& b) {
-  return !a.empty() && !b.empty() && a.left < b.right && b.left < a.right && a.top < b.bottom &&
-         b.top < a.bottom;
-}
+using test::ExpectApart;
 
 const Size kSizes[] = {{160, 107}, {240, 161}, {393, 231},  {330, 233},
                        {500, 350}, {231, 600}, {1280, 800}, {3840, 2160}};
@@ -27,15 +20,12 @@ TEST(FrameLayout, PartsStayInsideAndApartAtEverySize) {
   for (const int dpi : {96, 120, 144, 192}) {
     for (const Size size : kSizes) {
       const FrameLayout frame = LayOutFrame(size, dpi);
-      const Rect window{0, 0, size.width, size.height};
-      const std::vector<Rect> parts = {frame.pfrBAR, frame.pfrPANEL, frame.picBOTTOMSTRIP};
-      for (const Rect& part : parts) EXPECT_TRUE(IsInside(part, window));
-      EXPECT_FALSE(Overlap(frame.pfrBAR, frame.pfrPANEL));
-      EXPECT_FALSE(Overlap(frame.pfrPANEL, frame.picBOTTOMSTRIP));
-      EXPECT_FALSE(Overlap(frame.status_text, frame.size_grip));
-      EXPECT_FALSE(Overlap(frame.title_text, frame.bar_buttons[0]));
+      ExpectApart({frame.pfrBAR, frame.pfrPANEL, frame.picBOTTOMSTRIP}, RectAt({0, 0}, size));
+      ExpectApart({frame.status_text, frame.size_grip}, frame.picBOTTOMSTRIP);
+      std::vector<Rect> bar(frame.bar_buttons.begin(), frame.bar_buttons.end());
+      bar.push_back(frame.title_text);
+      ExpectApart(bar, frame.pfrBAR);
       for (const Rect& button : frame.bar_buttons) {
-        EXPECT_TRUE(IsInside(button, frame.pfrBAR));
         EXPECT_GE(button.width(), 24);
         EXPECT_GE(button.height(), 24);
       }
@@ -59,19 +49,14 @@ TEST(ManagerLayout, TilesFillThePanelWithoutTouching) {
       if (panel.height() < 30) continue;  // nothing to spread at this size and resolution
       const ManagerLayout layout = LayOutManager(panel, dpi);
       long long area = 0;
-      for (int i = 0; i < kTileCount; ++i) {
-        const Rect& tile = layout.tiles[i];
-        EXPECT_TRUE(IsInside(tile, panel));
+      ExpectApart({layout.tiles.begin(), layout.tiles.end()}, panel);
+      for (const Rect& tile : layout.tiles) {
         EXPECT_FALSE(tile.empty());
         area += static_cast<long long>(tile.width()) * tile.height();
-        for (int j = 0; j < i; ++j) EXPECT_FALSE(Overlap(tile, layout.tiles[j]));
         const Size tile_size{tile.width(), tile.height()};
         EXPECT_EQ(tile_size, (Size{layout.tiles[0].width(), layout.tiles[0].height()}));
         const TileLayout inside = LayOutTile(tile_size, dpi);
-        const Rect bounds{0, 0, tile_size.width, tile_size.height};
-        EXPECT_TRUE(IsInside(inside.caption, bounds));
-        EXPECT_TRUE(IsInside(inside.glyph, bounds));
-        EXPECT_FALSE(Overlap(inside.caption, inside.glyph));
+        ExpectApart({inside.caption, inside.glyph}, RectAt({0, 0}, tile_size));
         EXPECT_LE(inside.glyph_height, std::max(8, inside.glyph.height()));
       }
       EXPECT_GT(area * 2, static_cast<long long>(panel.width()) * panel.height());

@@ -11,12 +11,15 @@
 #include "core/placement.h"
 #include "core/sizes.h"
 #include "core/widget_index.h"
+#include "tests/support/boxes.h"
 #include "tests/support/cases.h"
 #include "tests/support/garbage_values.h"
 #include "tests/support/memory_settings.h"
 
 namespace varnel {
 namespace {
+
+using test::Inside;
 
 const Screens kOne{{{{0, 0, 1280, 770}, 96}}, 96};
 // The primary one in the middle, a sharper one on its left, one above it.
@@ -62,11 +65,6 @@ class Dice {
 Place Restored(const Settings& settings, std::wstring_view form, const Place& fallback,
                const Screens& screens) {
   return FitPlace(ReadPosition(settings, form, fallback, true), screens);
-}
-
-bool Inside(const Rect& rect, const Rect& area) {
-  return rect.left >= area.left && rect.top >= area.top && rect.right <= area.right &&
-         rect.bottom <= area.bottom;
 }
 
 bool OnSomeMonitor(const Rect& pixels, const Screens& screens) {
@@ -188,14 +186,9 @@ TEST(DefaultPlace, TilesThePrimaryMonitor) {
     const Place place = DefaultPlace(index, kThree);
     EXPECT_EQ(place.corner.x % kGridStep, 0);
     EXPECT_EQ(place.corner.y % kGridStep, 0);
-    const Rect pixels = PixelsFromPlace(place, kThree);
-    EXPECT_TRUE(Inside(pixels, kThree.monitors[0].work_area));
-    for (const Rect& other : taken) {
-      EXPECT_TRUE(pixels.left >= other.right || pixels.right <= other.left ||
-                  pixels.top >= other.bottom || pixels.bottom <= other.top);
-    }
-    taken.push_back(pixels);
+    taken.push_back(PixelsFromPlace(place, kThree));
   }
+  test::ExpectApart(taken, kThree.monitors[0].work_area);
 }
 
 TEST(DefaultPlace, IsOnThePrimaryMonitorWhateverItsSize) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "tests/support/boxes.h"
 #include "tests/support/plain_measure.h"
 #include "widgets/time/clock_layout.h"
 
@@ -19,25 +20,21 @@ ClockDisplay Classic() {
   return {L"12:58:48 AM", L"", L"", std::wstring(kDate), false, false};
 }
 
-std::vector<LabelPlace> Shown(const ClockLayout& layout) {
-  std::vector<LabelPlace> places;
+std::vector<Rect> Shown(const ClockLayout& layout) {
+  std::vector<Rect> boxes;
   for (const LabelPlace& place : {layout.time, layout.seconds, layout.marker, layout.date}) {
-    if (place.shown()) places.push_back(place);
+    if (place.shown()) boxes.push_back(place.box);
   }
-  return places;
+  return boxes;
 }
 
 Rect Bounds(const ClockLayout& layout) {
   Rect bounds = layout.time.box;
-  for (const LabelPlace& place : Shown(layout)) {
-    bounds = {std::min(bounds.left, place.box.left), std::min(bounds.top, place.box.top),
-              std::max(bounds.right, place.box.right), std::max(bounds.bottom, place.box.bottom)};
+  for (const Rect& box : Shown(layout)) {
+    bounds = {std::min(bounds.left, box.left), std::min(bounds.top, box.top),
+              std::max(bounds.right, box.right), std::max(bounds.bottom, box.bottom)};
   }
   return bounds;
-}
-
-bool Overlap(const Rect& a, const Rect& b) {
-  return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
 }
 
 // Whatever the display, the panel and its resolution.
@@ -53,15 +50,8 @@ void CheckLayout(Size panel, int dpi, const ClockDisplay& display, const ClockLa
     EXPECT_GE(all[i]->box.width(), needed.width);
     EXPECT_GE(all[i]->box.height(), needed.height);
   }
-  const std::vector<LabelPlace> shown = Shown(layout);
-  for (std::size_t i = 0; i < shown.size(); ++i) {
-    for (std::size_t j = 0; j < i; ++j) EXPECT_FALSE(Overlap(shown[i].box, shown[j].box));
-  }
+  test::ExpectApart(Shown(layout), area);
   const Rect bounds = Bounds(layout);
-  EXPECT_GE(bounds.left, area.left);
-  EXPECT_GE(bounds.top, area.top);
-  EXPECT_LE(bounds.right, area.right);
-  EXPECT_LE(bounds.bottom, area.bottom);
   EXPECT_NEAR(bounds.left - area.left, area.right - bounds.right, 1);
   EXPECT_NEAR(bounds.top - area.top, area.bottom - bounds.bottom, 1);
   const bool bounded = layout.time.font_height == Scaled(960, dpi);

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <vector>
 
+#include "tests/support/boxes.h"
 #include "tests/support/plain_measure.h"
 #include "widgets/weather/weather_layout.h"
 
@@ -18,23 +18,17 @@ WeatherLabels Usual() {
   return labels;
 }
 
-std::vector<LabelPlace> Shown(const WeatherLayout& layout) {
+std::vector<Rect> Shown(const WeatherLayout& layout) {
   std::vector<LabelPlace> places{layout.location, layout.symbol, layout.temperature,
                                  layout.condition};
   for (const ForecastPlace& day : layout.forecast) {
     places.insert(places.end(), {day.date, day.icon, day.temps});
   }
-  std::erase_if(places, [](const LabelPlace& place) { return !place.shown(); });
-  return places;
-}
-
-bool Inside(const Rect& inner, const Rect& outer) {
-  return inner.left >= outer.left && inner.top >= outer.top && inner.right <= outer.right &&
-         inner.bottom <= outer.bottom;
-}
-
-bool Overlap(const Rect& a, const Rect& b) {
-  return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
+  std::vector<Rect> boxes;
+  for (const LabelPlace& place : places) {
+    if (place.shown()) boxes.push_back(place.box);
+  }
+  return boxes;
 }
 
 void CheckText(const LabelPlace& place, const std::wstring& text, int least, int dpi) {
@@ -46,11 +40,7 @@ void CheckText(const LabelPlace& place, const std::wstring& text, int least, int
 // Whatever the panel and its resolution.
 void CheckLayout(Size panel, int dpi, const WeatherLabels& labels, const WeatherLayout& layout) {
   const Rect area = Inset({0, 0, panel.width, panel.height}, Scaled(4, dpi));
-  const std::vector<LabelPlace> shown = Shown(layout);
-  for (std::size_t i = 0; i < shown.size(); ++i) {
-    EXPECT_TRUE(Inside(shown[i].box, area));
-    for (std::size_t j = 0; j < i; ++j) EXPECT_FALSE(Overlap(shown[i].box, shown[j].box));
-  }
+  test::ExpectApart(Shown(layout), area);
   CheckText(layout.location, labels.location, 11, dpi);
   CheckText(layout.temperature, labels.temperature, 18, dpi);
   CheckText(layout.condition, labels.condition, 11, dpi);
@@ -61,7 +51,7 @@ void CheckLayout(Size panel, int dpi, const WeatherLabels& labels, const Weather
     CheckText(day.date, labels.forecast[i].date, 10, dpi);
     CheckText(day.temps, labels.forecast[i].temps, 10, dpi);
     for (const LabelPlace& place : {day.date, day.icon, day.temps}) {
-      EXPECT_TRUE(Inside(place.box, layout.pfrFORECAST));
+      EXPECT_TRUE(test::Inside(place.box, layout.pfrFORECAST));
     }
   }
 }
