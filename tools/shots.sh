@@ -1,6 +1,6 @@
 #!/bin/bash
 # Writes pictures of every window into build/shots, and sheets of them into build/shots/sheets.
-# Arguments choose subjects by how their names begin (see tests/shots/subjects.cpp).
+# Arguments choose subjects by how their names begin (see tools/shots/subjects.cpp).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -11,7 +11,7 @@ shots=$PWD/build/shots
 rm -rf "$shots"
 mkdir -p "$shots/sheets"
 VARNEL_EXE=$PWD/build/windows/WidgetVarnel.exe VARNEL_ARTIFACTS=$shots \
-  tools/with_session.sh wine build/windows/tests/shots/shots.exe "$@"
+  tools/with_session.sh wine build/windows/tools/shots/shots.exe "$@"
 
 # Debian's own name first: another program may stand under the plain one.
 imagemagick() { "$(command -v "$1-im6.q16" || command -v "$1")" "${@:2}"; }

@@ -29,6 +29,12 @@ HWND ShownForm(const Program& program, std::wstring_view name) {
   return shown == forms.end() ? nullptr : *shown;
 }
 
+// A frame around other controls, which the mouse goes through.
+bool IsGroupBox(HWND window) {
+  return ClassOf(window) == L"Button" &&
+         (::GetWindowLongPtrW(window, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
+}
+
 }  // namespace
 
 std::vector<HWND> FindForms(const Program& program, std::wstring_view name) {
@@ -66,13 +72,6 @@ Rect RectOf(HWND window) {
   return {rect.left, rect.top, rect.right, rect.bottom};
 }
 
-Rect ClientRectOf(HWND window) {
-  RECT rect = {};
-  ::GetClientRect(window, &rect);
-  ::MapWindowPoints(window, nullptr, reinterpret_cast<POINT*>(&rect), 2);
-  return {rect.left, rect.top, rect.right, rect.bottom};
-}
-
 Point CentreOf(HWND window) {
   const Rect rect = RectOf(window);
   return {rect.left + rect.width() / 2, rect.top + rect.height() / 2};
@@ -87,15 +86,7 @@ bool IsEnabled(HWND window) {
 }
 
 bool IsTopmost(HWND window) {
-  return HasExStyle(window, WS_EX_TOPMOST);
-}
-
-bool HasStyle(HWND window, DWORD bits) {
-  return (static_cast<DWORD>(::GetWindowLongPtrW(window, GWL_STYLE)) & bits) == bits;
-}
-
-bool HasExStyle(HWND window, DWORD bits) {
-  return (static_cast<DWORD>(::GetWindowLongPtrW(window, GWL_EXSTYLE)) & bits) == bits;
+  return (::GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
 }
 
 std::optional<int> AlphaOf(HWND window) {
@@ -105,11 +96,6 @@ std::optional<int> AlphaOf(HWND window) {
     return std::nullopt;
   }
   return alpha;
-}
-
-bool IsGroupBox(HWND window) {
-  return ClassOf(window) == L"Button" &&
-         (::GetWindowLongPtrW(window, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
 }
 
 bool Activate(HWND window) {

@@ -30,16 +30,12 @@ bool WaitForNoForm(const Program& program, std::wstring_view name, int deadline 
 
 std::wstring ClassOf(HWND window);
 Rect RectOf(HWND window);
-// The part inside the window's borders.
-Rect ClientRectOf(HWND window);
 Point CentreOf(HWND window);
 
 // Shown itself, and so is every window around it.
 bool IsShown(HWND window);
 bool IsEnabled(HWND window);
 bool IsTopmost(HWND window);
-bool HasStyle(HWND window, DWORD bits);    // all of the bits
-bool HasExStyle(HWND window, DWORD bits);  // all of the bits
 // 0 to 255, or nothing for a window that is not layered with one opacity.
 std::optional<int> AlphaOf(HWND window);
 
@@ -47,9 +43,6 @@ std::optional<int> AlphaOf(HWND window);
 bool Activate(HWND window);
 // The window that gets what is typed, when it belongs to the foreground window's thread; else null.
 HWND FocusedWindow();
-
-// A frame around other controls, which the mouse goes through.
-bool IsGroupBox(HWND window);
 
 // The window that a click at the point would reach; null for a bare part of a dialog.
 HWND WindowAt(Point point);

@@ -1,8 +1,8 @@
 #include "tests/rig/input.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <iterator>
-#include <utility>
 
 #include "tests/rig/forms.h"
 
@@ -63,43 +63,19 @@ void LetDoubleClickPass(Point at) {
   if (since <= ::GetDoubleClickTime()) ::Sleep(::GetDoubleClickTime() - since + kPace);
 }
 
-struct ButtonFlags {
+// In the order of MouseButton.
+constexpr struct {
+  int key;
   DWORD down, up;
-};
-
-constexpr ButtonFlags FlagsOf(MouseButton button) {
-  switch (button) {
-    case MouseButton::kRight:
-      return {MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP};
-    case MouseButton::kMiddle:
-      return {MOUSEEVENTF_MIDDLEDOWN, MOUSEEVENTF_MIDDLEUP};
-    case MouseButton::kLeft:
-      break;
-  }
-  return {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP};
-}
+} kButtons[] = {{VK_LBUTTON, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP},
+                {VK_RBUTTON, MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP}};
 
 // Keys that a number pad has too; the flag says that these are not those.
 bool IsExtended(WORD key) {
-  switch (key) {
-    case VK_LEFT:
-    case VK_RIGHT:
-    case VK_UP:
-    case VK_DOWN:
-    case VK_HOME:
-    case VK_END:
-    case VK_PRIOR:
-    case VK_NEXT:
-    case VK_INSERT:
-    case VK_DELETE:
-    case VK_DIVIDE:
-    case VK_APPS:
-    case VK_RCONTROL:
-    case VK_RMENU:
-      return true;
-    default:
-      return false;
-  }
+  constexpr WORD kKeys[] = {VK_LEFT,   VK_RIGHT, VK_UP,       VK_DOWN,   VK_HOME,
+                            VK_END,    VK_PRIOR, VK_NEXT,     VK_INSERT, VK_DELETE,
+                            VK_DIVIDE, VK_APPS,  VK_RCONTROL, VK_RMENU};
+  return std::ranges::find(kKeys, key) != std::end(kKeys);
 }
 
 void SendKey(WORD key, DWORD flags) {
@@ -126,11 +102,11 @@ void MoveMouse(Point to) {
 }
 
 void PressMouse(Point at, MouseButton button) {
-  SendMouse(at, FlagsOf(button).down);
+  SendMouse(at, kButtons[static_cast<int>(button)].down);
 }
 
 void ReleaseMouse(Point at, MouseButton button) {
-  SendMouse(at, FlagsOf(button).up);
+  SendMouse(at, kButtons[static_cast<int>(button)].up);
 }
 
 void TurnWheel(Point at, int notches) {
@@ -192,11 +168,8 @@ void ResetInput() {
     if (::GetAsyncKeyState(key) < 0) SendKey(key, KEYEVENTF_KEYUP);
   }
   const Point rest = {::GetSystemMetrics(SM_CXSCREEN) / 2, ::GetSystemMetrics(SM_CYSCREEN) - 1};
-  const std::pair<int, MouseButton> buttons[] = {{VK_LBUTTON, MouseButton::kLeft},
-                                                 {VK_RBUTTON, MouseButton::kRight},
-                                                 {VK_MBUTTON, MouseButton::kMiddle}};
-  for (const auto& [key, button] : buttons) {
-    if (::GetAsyncKeyState(key) < 0) ReleaseMouse(rest, button);
+  for (const auto& [key, down, up] : kButtons) {
+    if (::GetAsyncKeyState(key) < 0) SendMouse(rest, up);
   }
   MoveMouse(rest);
 }

@@ -12,7 +12,7 @@
 
 namespace varnel::rig {
 
-enum class MouseButton { kLeft, kRight, kMiddle };
+enum class MouseButton { kLeft, kRight };
 
 void MoveMouse(Point to);
 void PressMouse(Point at, MouseButton button = MouseButton::kLeft);

@@ -10,10 +10,10 @@ namespace {
 constexpr std::wstring_view kMenuClass = L"#32768";
 constexpr std::wstring_view kMenusForm = L"frmSTRmn";
 
-std::vector<HWND> ShownMenus(const Program& program) {
-  std::vector<HWND> menus = FindForms(program, kMenuClass);
-  std::erase_if(menus, [](HWND menu) { return !IsShown(menu); });
-  return menus;
+// How many menus the program has open, submenus counted.
+int OpenMenus(const Program& program) {
+  const std::vector<HWND> menus = FindForms(program, kMenuClass);
+  return static_cast<int>(std::count_if(menus.begin(), menus.end(), IsShown));
 }
 
 // Menus are shown before the program takes mouse and keys for them.
@@ -55,15 +55,6 @@ bool ChooseShared(const Program& program, std::wstring_view array, int index) {
 std::optional<DWORD> LeaveByMenu(const Program& program, int deadline) {
   if (!ChooseShared(program, L"mnuDCEXIT")) return std::nullopt;
   return program.WaitForExit(deadline);
-}
-
-int OpenMenus(const Program& program) {
-  return static_cast<int>(ShownMenus(program).size());
-}
-
-HWND FindMenu(const Program& program) {
-  const std::vector<HWND> menus = ShownMenus(program);
-  return menus.empty() ? nullptr : menus.front();
 }
 
 bool WaitForMenus(const Program& program, int count, int deadline) {

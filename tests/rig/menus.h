@@ -23,13 +23,9 @@ bool ChooseShared(const Program& program, std::wstring_view array, int index);
 // deadline.
 std::optional<DWORD> LeaveByMenu(const Program& program, int deadline = kPatience);
 
-// How many menus the program has open, submenus counted.
-int OpenMenus(const Program& program);
-// The menu opened last (the innermost submenu), or null. Its captions cannot be read from outside.
-HWND FindMenu(const Program& program);
-// Waits until so many menus are open and take mouse and keys. False when they do not come or do not
-// go. A menu that was opened by mouse has the pointer on it, which may choose an item just like
-// that: choose by mnemonic or click, or move the mouse away before the arrow keys.
+// Waits until so many menus are open, submenus counted, and take mouse and keys. False when they do
+// not come or do not go. A menu that was opened by mouse has the pointer on it, which may choose an
+// item just like that: choose by mnemonic or click, or move the mouse away before the arrow keys.
 bool WaitForMenus(const Program& program, int count, int deadline = kPatience);
 
 }  // namespace varnel::rig

@@ -1,7 +1,6 @@
 #include "tests/rig/picture.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <string_view>
 
 #include "tests/rig/files.h"
@@ -14,15 +13,6 @@ namespace {
 
 COLORREF ColourOf(std::uint32_t pixel) {
   return RGB(pixel >> 16 & 0xFF, pixel >> 8 & 0xFF, pixel & 0xFF);
-}
-
-bool IsNear(COLORREF one, COLORREF other, int tolerance) {
-  for (int shift = 0; shift < 24; shift += 8) {
-    const int difference =
-        static_cast<int>(one >> shift & 0xFF) - static_cast<int>(other >> shift & 0xFF);
-    if (std::abs(difference) > tolerance) return false;
-  }
-  return true;
 }
 
 // 32 bits a pixel, rows from the top down.
@@ -65,19 +55,6 @@ Picture::Picture(const Rect& part) {
   ::ReleaseDC(nullptr, screen);
 }
 
-COLORREF Picture::At(Point point) const {
-  if (!RectAt({0, 0}, size_).Contains(point)) return 0;
-  return ColourOf(
-      pixels_[static_cast<std::size_t>(point.y) * static_cast<std::size_t>(size_.width) +
-              static_cast<std::size_t>(point.x)]);
-}
-
-int Picture::Count(COLORREF colour, int tolerance) const {
-  return static_cast<int>(std::count_if(pixels_.begin(), pixels_.end(), [=](std::uint32_t pixel) {
-    return IsNear(ColourOf(pixel), colour, tolerance);
-  }));
-}
-
 std::map<COLORREF, int> Picture::Colours() const {
   std::map<COLORREF, int> counts;
   for (const std::uint32_t pixel : pixels_) ++counts[ColourOf(pixel)];
@@ -90,19 +67,6 @@ COLORREF Picture::MainColour() const {
       counts.begin(), counts.end(),
       [](const auto& one, const auto& other) { return one.second < other.second; });
   return most == counts.end() ? 0 : most->first;
-}
-
-Picture Picture::Part(const Rect& part) const {
-  const Rect cut = {std::max(part.left, 0), std::max(part.top, 0),
-                    std::min(part.right, size_.width), std::min(part.bottom, size_.height)};
-  Picture result;
-  if (cut.empty()) return result;
-  result.size_ = {cut.width(), cut.height()};
-  for (int y = cut.top; y < cut.bottom; ++y) {
-    const auto row = pixels_.begin() + static_cast<std::ptrdiff_t>(y) * size_.width;
-    result.pixels_.insert(result.pixels_.end(), row + cut.left, row + cut.right);
-  }
-  return result;
 }
 
 bool Picture::Save(const std::wstring& path) const {
@@ -128,20 +92,6 @@ Picture PictureOf(HWND window) {
 
 Picture StillPictureOf(HWND window, int still) {
   return WaitUntilStill([window] { return PictureOf(window); }, still);
-}
-
-int Differences(const Picture& one, const Picture& other) {
-  const auto pixels = [](const Picture& picture) {
-    return picture.size().width * picture.size().height;
-  };
-  if (!(one.size() == other.size())) return std::max(pixels(one), pixels(other));
-  int count = 0;
-  for (int y = 0; y < one.size().height; ++y) {
-    for (int x = 0; x < one.size().width; ++x) {
-      if (one.At({x, y}) != other.At({x, y})) ++count;
-    }
-  }
-  return count;
 }
 
 }  // namespace varnel::rig

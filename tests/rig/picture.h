@@ -12,8 +12,8 @@
 
 namespace varnel::rig {
 
-// A true-colour picture of a part of the screen. Points count from its own top left corner; a
-// colour is a COLORREF: red in the low byte, then green, then blue.
+// A true-colour picture of a part of the screen. A colour is a COLORREF: red in the low
+// byte, then green, then blue.
 class Picture {
  public:
   Picture() = default;
@@ -21,16 +21,10 @@ class Picture {
   explicit Picture(const Rect& part);
 
   Size size() const { return size_; }
-  // Black outside the picture.
-  COLORREF At(Point point) const;
-  // How many pixels have that colour, each channel off by `tolerance` at most.
-  int Count(COLORREF colour, int tolerance = 0) const;
   // Every colour with the number of its pixels.
   std::map<COLORREF, int> Colours() const;
   // The colour of most pixels; black for an empty picture.
   COLORREF MainColour() const;
-  // A part of the picture, cut to its edges.
-  Picture Part(const Rect& part) const;
 
   // Writes a BMP file, with the folders above it. False when that fails.
   bool Save(const std::wstring& path) const;
@@ -47,8 +41,5 @@ Picture PictureOf(HWND window);
 
 // Waits until the window's picture has not changed for `still` milliseconds, and gives it.
 Picture StillPictureOf(HWND window, int still = 200);
-
-// In how many pixels the two differ; all of the larger one's when their sizes differ.
-int Differences(const Picture& one, const Picture& other);
 
 }  // namespace varnel::rig

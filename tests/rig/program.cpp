@@ -16,21 +16,15 @@ UniqueKernelHandle EndingJob() {
 
 }  // namespace
 
-void Program::SetVariable(const std::wstring& name, const std::wstring& value) {
-  variables_[name] = value;
-}
-
 bool Program::Start(const std::wstring& more) {
   if (running()) return false;
   const std::wstring exe = PathFromEnvironment(L"VARNEL_EXE");
   std::wstring command = L"\"" + exe + L"\" " + root_.Arguments() + L" " + more;
-  std::wstring environment = Environment();
   STARTUPINFOW startup = {};
   startup.cb = sizeof startup;
   PROCESS_INFORMATION process = {};
-  if (!::CreateProcessW(exe.c_str(), command.data(), nullptr, nullptr, FALSE,
-                        CREATE_SUSPENDED | CREATE_UNICODE_ENVIRONMENT, environment.data(), nullptr,
-                        &startup, &process)) {
+  if (!::CreateProcessW(exe.c_str(), command.data(), nullptr, nullptr, FALSE, CREATE_SUSPENDED,
+                        nullptr, nullptr, &startup, &process)) {
     return false;
   }
   const UniqueKernelHandle thread(process.hThread);
@@ -65,21 +59,6 @@ void Program::Kill() {
   killed_ = true;
   ::TerminateProcess(process_.get(), 1);
   ::WaitForSingleObject(process_.get(), kPatience);
-}
-
-std::wstring Program::Environment() const {
-  std::map<std::wstring, std::wstring> all = variables_;
-  wchar_t* block = ::GetEnvironmentStringsW();
-  for (std::wstring_view line(block); !line.empty();
-       line = std::wstring_view(line.data() + line.size() + 1)) {
-    // A name may begin with "=", so the one that ends it is looked for behind the first unit.
-    const std::size_t end = line.find(L'=', 1);
-    all.emplace(line.substr(0, end), end == line.npos ? L"" : line.substr(end + 1));
-  }
-  ::FreeEnvironmentStringsW(block);
-  std::wstring text;
-  for (const auto& [name, value] : all) text += name + L"=" + value + L'\0';
-  return text + L'\0';
 }
 
 }  // namespace varnel::rig

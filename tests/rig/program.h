@@ -3,7 +3,6 @@
 
 #include <windows.h>
 
-#include <map>
 #include <optional>
 #include <string>
 
@@ -22,9 +21,6 @@ class Program {
   Program& operator=(const Program&) = delete;
   // Ends the process if it is still there.
   ~Program() { Kill(); }
-
-  // Sets a variable of the environment that later starts get.
-  void SetVariable(const std::wstring& name, const std::wstring& value);
 
   // Starts the program in its root, with `more` at the end of its command line. Comes back at once;
   // the windows come later. False when it cannot be started or the one before is still there.
@@ -48,10 +44,7 @@ class Program {
   bool killed() const { return killed_; }
 
  private:
-  std::wstring Environment() const;
-
   const Root& root_;
-  std::map<std::wstring, std::wstring> variables_;
   UniqueKernelHandle job_;
   UniqueKernelHandle process_;
   DWORD id_ = 0;

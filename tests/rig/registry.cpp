@@ -21,84 +21,44 @@ UniqueKey Create(HKEY hive, const std::wstring& path) {
   return UniqueKey(key);
 }
 
-// All that `next` (an enumeration of names by index) gives for the key.
-template <class Next>
-std::vector<std::wstring> Names(const UniqueKey& key, Next next) {
-  std::vector<std::wstring> names;
-  std::wstring buffer(kNameUnits, L'\0');
-  for (DWORD i = 0; key; ++i) {
-    DWORD length = kNameUnits;
-    if (next(key.get(), i, buffer.data(), &length) != ERROR_SUCCESS) break;
-    names.push_back(buffer.substr(0, length));
-  }
-  std::sort(names.begin(), names.end());
-  return names;
-}
-
-void AddSections(HKEY hive, const std::wstring& root, const std::wstring& below,
-                 std::vector<std::wstring>& sections) {
-  const std::wstring path = below.empty() ? root : root + L"\\" + below;
-  const auto next = [](HKEY key, DWORD index, wchar_t* name, DWORD* length) {
-    return ::RegEnumKeyExW(key, index, name, length, nullptr, nullptr, nullptr, nullptr);
-  };
-  for (const std::wstring& name : Names(Open(hive, path), next)) {
-    sections.push_back(below.empty() ? name : below + L"\\" + name);
-    AddSections(hive, root, std::wstring(sections.back()), sections);
-  }
-}
-
 }  // namespace
-
-std::optional<RawValue> Registry::Raw(const std::wstring& section, const std::wstring& name) const {
-  const UniqueKey key = Open(hive_, PathOf(section));
-  RawValue value;
-  DWORD size = 0;
-  if (!key || ::RegQueryValueExW(key.get(), name.c_str(), nullptr, nullptr, nullptr, &size) !=
-                  ERROR_SUCCESS) {
-    return std::nullopt;
-  }
-  size += sizeof(wchar_t);  // room for the zero that some systems add to a text stored without
-  value.bytes.resize(size);
-  if (::RegQueryValueExW(key.get(), name.c_str(), nullptr, &value.type,
-                         reinterpret_cast<BYTE*>(value.bytes.data()), &size) != ERROR_SUCCESS) {
-    return std::nullopt;
-  }
-  value.bytes.resize(size);
-  return value;
-}
 
 std::optional<std::wstring> Registry::Text(const std::wstring& section,
                                            const std::wstring& name) const {
-  const std::optional<RawValue> raw = Raw(section, name);
-  if (!raw || (raw->type != REG_SZ && raw->type != REG_EXPAND_SZ)) return std::nullopt;
-  std::wstring text(raw->bytes.size() / sizeof(wchar_t), L'\0');
-  raw->bytes.copy(reinterpret_cast<char*>(text.data()), text.size() * sizeof(wchar_t));
+  const UniqueKey key = Open(hive_, PathOf(section));
+  DWORD type = REG_NONE;
+  DWORD size = 0;
+  if (!key ||
+      ::RegQueryValueExW(key.get(), name.c_str(), nullptr, &type, nullptr, &size) !=
+          ERROR_SUCCESS ||
+      (type != REG_SZ && type != REG_EXPAND_SZ)) {
+    return std::nullopt;
+  }
+  size += sizeof(wchar_t);  // room for the zero that some systems add to a text stored without
+  std::wstring text(size / sizeof(wchar_t), L'\0');
+  if (::RegQueryValueExW(key.get(), name.c_str(), nullptr, nullptr,
+                         reinterpret_cast<BYTE*>(text.data()), &size) != ERROR_SUCCESS) {
+    return std::nullopt;
+  }
+  text.resize(size / sizeof(wchar_t));
   while (text.ends_with(L'\0')) text.pop_back();
   return text;
 }
 
 std::vector<std::wstring> Registry::ValueNames(const std::wstring& section) const {
-  return Names(
-      Open(hive_, PathOf(section)), [](HKEY key, DWORD index, wchar_t* name, DWORD* length) {
-        return ::RegEnumValueW(key, index, name, length, nullptr, nullptr, nullptr, nullptr);
-      });
-}
-
-std::vector<std::wstring> Registry::Sections() const {
-  std::vector<std::wstring> sections;
-  AddSections(hive_, key_, L"", sections);
-  std::sort(sections.begin(), sections.end());
-  return sections;
-}
-
-std::map<std::wstring, std::wstring> Registry::AllTexts() const {
-  std::map<std::wstring, std::wstring> texts;
-  for (const std::wstring& section : Sections()) {
-    for (const std::wstring& name : ValueNames(section)) {
-      if (const auto text = Text(section, name)) texts[section + L"\\" + name] = *text;
+  const UniqueKey key = Open(hive_, PathOf(section));
+  std::vector<std::wstring> names;
+  std::wstring buffer(kNameUnits, L'\0');
+  for (DWORD i = 0; key; ++i) {
+    DWORD length = kNameUnits;
+    if (::RegEnumValueW(key.get(), i, buffer.data(), &length, nullptr, nullptr, nullptr, nullptr) !=
+        ERROR_SUCCESS) {
+      break;
     }
+    names.push_back(buffer.substr(0, length));
   }
-  return texts;
+  std::sort(names.begin(), names.end());
+  return names;
 }
 
 bool Registry::SetText(const std::wstring& section, const std::wstring& name,
@@ -125,11 +85,6 @@ void Registry::RemoveAll() const {
 
 std::wstring Registry::PathOf(const std::wstring& section) const {
   return section.empty() ? key_ : key_ + L"\\" + section;
-}
-
-std::optional<std::wstring> RunAtLogon(HKEY hive, const std::wstring& name) {
-  const Registry version(hive, L"Software\\Microsoft\\Windows\\CurrentVersion");
-  return version.Text(L"Run", name);
 }
 
 }  // namespace varnel::rig

@@ -3,7 +3,6 @@
 
 #include <windows.h>
 
-#include <map>
 #include <optional>
 #include <string>
 #include <utility>
@@ -13,9 +12,8 @@ namespace varnel::rig {
 
 // A value as it is stored, whatever its type.
 struct RawValue {
-  DWORD type = REG_NONE;
+  DWORD type;
   std::string bytes;
-  bool operator==(const RawValue&) const = default;
 };
 
 // A key and everything below it. A `section` is the path below that key, empty for the key itself;
@@ -26,11 +24,7 @@ class Registry {
 
   // The text of a text value without its final zeros; nothing when it is missing or no text.
   std::optional<std::wstring> Text(const std::wstring& section, const std::wstring& name) const;
-  std::optional<RawValue> Raw(const std::wstring& section, const std::wstring& name) const;
   std::vector<std::wstring> ValueNames(const std::wstring& section) const;  // sorted
-  std::vector<std::wstring> Sections() const;  // every key below, at any depth, sorted
-  // Every text value below: "section\name" to text.
-  std::map<std::wstring, std::wstring> AllTexts() const;
 
   // Each creates the keys that are missing; false when the value could not be stored. The text is
   // stored with its final zero; what is stored raw is stored as it stands, sensible or not.
@@ -47,9 +41,5 @@ class Registry {
   HKEY hive_;
   std::wstring key_;
 };
-
-// The command that the system runs at logon under the value `name`, for every user of the machine
-// (HKEY_LOCAL_MACHINE) or for this one (HKEY_CURRENT_USER); nothing when there is no such value.
-std::optional<std::wstring> RunAtLogon(HKEY hive, const std::wstring& name);
 
 }  // namespace varnel::rig

@@ -7,13 +7,20 @@
 #include "tests/rig/input.h"
 #include "tests/rig/menus.h"
 #include "tests/rig/picture.h"
-#include "tests/rig/tray.h"
 
 namespace varnel::rig {
 namespace {
 
 // A scene before this one may have killed its program: the shell takes 2 s to remove such an icon.
 constexpr int kTrayPatience = 3'000;  // milliseconds
+
+// Icons are drawn on the taskbar itself, from its right end on; it is plain where there is none.
+bool TrayIsEmpty() {
+  HWND taskbar = ::FindWindowW(L"Shell_TrayWnd", nullptr);
+  if (!taskbar || !IsShown(taskbar)) return true;
+  const Rect bar = RectOf(taskbar);
+  return Picture({bar.right - bar.height(), bar.top, bar.right, bar.bottom}).Colours().size() < 2;
+}
 
 }  // namespace
 
@@ -29,7 +36,7 @@ std::wstring Scene::artifacts() const {
 void Scene::SetUp() {
   if (!artifacts().empty()) RemoveAll(artifacts());
   ResetInput();
-  WaitForEmptyTray(kTrayPatience);
+  WaitUntil(TrayIsEmpty, kTrayPatience);
 }
 
 void Scene::TearDown() {

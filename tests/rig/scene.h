@@ -1,12 +1,23 @@
-// A test that starts the built program and works it from outside.
+// A test that starts the built program and works it from outside, and all that it needs for that.
 #pragma once
 
 #include <gtest/gtest.h>
 
 #include <string>
 
+#include "tests/rig/controls.h"
+#include "tests/rig/dialogs.h"
+#include "tests/rig/files.h"
+#include "tests/rig/input.h"
+#include "tests/rig/menus.h"
+#include "tests/rig/picture.h"
 #include "tests/rig/program.h"
-#include "tests/rig/root.h"
+
+// What the expression becomes within kPatience: true, or a value.
+#define EXPECT_SOON(condition) EXPECT_TRUE(WaitUntil([&] { return condition; }))
+#define ASSERT_SOON(condition) ASSERT_TRUE(WaitUntil([&] { return condition; }))
+#define EXPECT_SOON_EQ(expression, value) \
+  EXPECT_EQ(WaitFor([&] { return expression; }, value), value)
 
 namespace varnel::rig {
 

@@ -7,12 +7,6 @@
 #include <algorithm>
 
 #include "resources/control_ids.h"
-#include "tests/rig/controls.h"
-#include "tests/rig/dialogs.h"
-#include "tests/rig/files.h"
-#include "tests/rig/input.h"
-#include "tests/rig/menus.h"
-#include "tests/rig/picture.h"
 #include "tests/rig/scene.h"
 #include "tests/support/cases.h"
 #include "win/clipboard.h"
@@ -146,12 +140,12 @@ TEST_F(Calculator, KeysWorkWhereverTheFocusIs) {
   PressKey(VK_SPACE);
   EXPECT_EQ(Shown(L"757"), L"757");
   PressKey(VK_TAB);
-  EXPECT_TRUE(WaitUntil([&] { return FocusedWindow() == Part(lblNUMBER + 8); }));
+  EXPECT_SOON(FocusedWindow() == Part(lblNUMBER + 8));
   PressKey(VK_SPACE);
   EXPECT_EQ(Shown(L"7578"), L"7578");
   Chord({VK_SHIFT, VK_TAB});
   Chord({VK_SHIFT, VK_TAB});
-  EXPECT_TRUE(WaitUntil([&] { return FocusedWindow() == Part(lblDIVIDE); }));
+  EXPECT_SOON(FocusedWindow() == Part(lblDIVIDE));
 
   ClickLine(0);
   EXPECT_EQ(Shown(L"2.4"), L"2.4");
@@ -165,8 +159,8 @@ TEST_F(Calculator, StruckKeyIsSeenGoingDown) {
   ASSERT_TRUE(Activate(form_));
   const Picture released = StillPictureOf(Part(lblNUMBER + 6));
   PressKey('6');
-  EXPECT_TRUE(WaitUntil([&] { return PictureOf(Part(lblNUMBER + 6)) != released; }));
-  EXPECT_TRUE(WaitUntil([&] { return PictureOf(Part(lblNUMBER + 6)) == released; }));
+  EXPECT_SOON(PictureOf(Part(lblNUMBER + 6)) != released);
+  EXPECT_SOON(PictureOf(Part(lblNUMBER + 6)) == released);
 }
 
 TEST_F(Calculator, CopiesAndPastes) {
@@ -228,31 +222,31 @@ TEST_F(Calculator, LogIsShownAndHidden) {
   ClickLine(300 - page);
   const int narrow = RectOf(Part(lblEQUALS)).width();
   Choose(form_, L"mnuCALCSHOWHIST");
-  EXPECT_TRUE(WaitUntil([&] { return !IsShown(Part(lvwFILES)); }));
+  EXPECT_SOON(!IsShown(Part(lvwFILES)));
   EXPECT_TRUE(FocusedWindow() == Part(lblEQUALS)) << "not what is out of sight";
   EXPECT_GT(RectOf(Part(lblEQUALS)).width(), narrow) << "the keys take the room";
   Choose(form_, L"mnuCALCSHOWHIST");
-  EXPECT_TRUE(WaitUntil([&] { return IsShown(Part(lvwFILES)); }));
+  EXPECT_SOON(IsShown(Part(lvwFILES)));
   // A small widget has no room for it; it comes back by itself.
   Choose(form_, L"mnuWIDGRESETA", 2);
-  EXPECT_TRUE(WaitUntil([&] { return !IsShown(Part(lvwFILES)); }));
+  EXPECT_SOON(!IsShown(Part(lvwFILES)));
   Choose(form_, L"mnuWIDGRESETA", 0);
-  EXPECT_TRUE(WaitUntil([&] { return IsShown(Part(lvwFILES)); }));
+  EXPECT_SOON(IsShown(Part(lvwFILES)));
 
   // The wheel and the slim bar scroll it.
   const int last_top = WaitUntilStill([&] { return List(LVM_GETTOPINDEX); });
   TurnWheel(CentreOf(Part(lvwFILES)), 2);
-  EXPECT_TRUE(WaitUntil([&] { return List(LVM_GETTOPINDEX) == last_top - 6; }));
+  EXPECT_SOON(List(LVM_GETTOPINDEX) == last_top - 6);
   const Rect bar = RectOf(ChildOfClass(form_, L"VarnelThumbBar"));
   Drag({bar.left + 3, bar.bottom - 8}, {bar.left + 3, bar.top - 50});
-  EXPECT_EQ(WaitFor([&] { return List(LVM_GETTOPINDEX); }, 0), 0);
+  EXPECT_SOON_EQ(List(LVM_GETTOPINDEX), 0);
   // What is new is brought into sight.
   Press({lblADD, lblNUMBER + 1, lblEQUALS});
-  EXPECT_EQ(WaitFor([&] { return List(LVM_GETITEMCOUNT); }, 301), 301);
+  EXPECT_SOON_EQ(List(LVM_GETITEMCOUNT), 301);
   EXPECT_GT(List(LVM_GETTOPINDEX), last_top - 2);
 
   Choose(form_, L"mnuCALCSHOWHIST");
-  EXPECT_TRUE(WaitUntil([&] { return !IsShown(Part(lvwFILES)); }));
+  EXPECT_SOON(!IsShown(Part(lvwFILES)));
   Restart();
   EXPECT_TRUE(IsShown(Part(lvwFILES))) << "that it was hidden is not remembered";
   EXPECT_EQ(List(LVM_GETITEMCOUNT), 301);
@@ -277,7 +271,7 @@ TEST_F(Calculator, DeletedLineMakesTheNextSumClashUntilTheNextStart) {
   // Several lines at once.
   ClickLine(0);
   Chord({VK_SHIFT, VK_DOWN});
-  ASSERT_TRUE(WaitUntil([&] { return List(LVM_GETSELECTEDCOUNT) == 2; }));
+  ASSERT_SOON(List(LVM_GETSELECTEDCOUNT) == 2);
   Choose(form_, L"mnuCALCDELETESELECTED");
   EXPECT_EQ(Logged("\"4 + 5 = 9.0\"\r\n"), "\"4 + 5 = 9.0\"\r\n");
 }
@@ -307,10 +301,10 @@ TEST_F(Calculator, NumberOfAnyLengthStaysInItsBox) {
   HWND number = Part(lbl01234567890);
   const Picture start = StillPictureOf(number);
   TurnWheel(CentreOf(number), -4);
-  EXPECT_TRUE(WaitUntil([&] { return PictureOf(number) != start; })) << "it scrolls";
+  EXPECT_SOON(PictureOf(number) != start) << "it scrolls";
   EXPECT_EQ(Text(number), whole);
   PressKey('0');
-  EXPECT_TRUE(WaitUntil([&] { return PictureOf(number) == start; })) << "the first digits again";
+  EXPECT_SOON(PictureOf(number) == start) << "the first digits again";
 }
 
 TEST_F(Calculator, KilledWhileSavingItKeepsEveryLineThatWasSaved) {
@@ -332,7 +326,7 @@ TEST_F(Calculator, KilledWhileSavingItKeepsEveryLineThatWasSaved) {
     }
     const std::size_t some_sums =
         former.size() + line(1).size() * static_cast<std::size_t>(round % 3);
-    ASSERT_TRUE(WaitUntil([&] { return Log().size() > some_sums; })) << round;
+    ASSERT_SOON(Log().size() > some_sums) << round;
     program().Kill();
     const std::string now = Log();
     ASSERT_TRUE(now.starts_with(former)) << round;

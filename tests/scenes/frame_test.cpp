@@ -2,11 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "resources/control_ids.h"
-#include "tests/rig/controls.h"
-#include "tests/rig/dialogs.h"
-#include "tests/rig/input.h"
-#include "tests/rig/menus.h"
-#include "tests/rig/picture.h"
 #include "tests/rig/scene.h"
 #include "tests/support/cases.h"
 
@@ -53,8 +48,7 @@ TEST_F(Frame, DragSnapsToTheGridAndIsRemembered) {
   const Rect rest = RectOf(clock_);
   EXPECT_EQ(DragClockBy(4, -4), rest);
   EXPECT_EQ(rest.left % kGrid, 0);
-  EXPECT_EQ(WaitFor([&] { return Stored(L"Left"); }, std::to_wstring(rest.left * 15)),
-            std::to_wstring(rest.left * 15));
+  EXPECT_SOON_EQ(Stored(L"Left"), std::to_wstring(rest.left * 15));
   EXPECT_EQ(Stored(L"Top"), std::to_wstring(rest.top * 15));
   ASSERT_EQ(LeaveByMenu(program()), 0u);
   ASSERT_TRUE(program().Start());
@@ -80,8 +74,8 @@ TEST_F(Frame, GripSizesOnTheGridDownToTheSmallestSize) {
   EXPECT_EQ(larger.left, start.left);
   const Point again{larger.right - 5, larger.bottom - 5};
   Drag(again, {larger.left + 5, larger.top + 5});
-  EXPECT_EQ(WaitFor([&] { return SizeOf(clock_); }, Size{160, 107}), (Size{160, 107}));
-  EXPECT_TRUE(WaitUntil([&] { return Stored(L"Width") == L"2400"; }));
+  EXPECT_SOON_EQ(SizeOf(clock_), (Size{160, 107}));
+  EXPECT_SOON(Stored(L"Width") == L"2400");
   EXPECT_EQ(Stored(L"Height"), L"1600");
   EXPECT_TRUE(IsShown(Control(clock_, lblPANECLOCK)));
   EXPECT_FALSE(IsShown(Control(clock_, lbl7Sept2010)));
@@ -97,12 +91,12 @@ TEST_F(Frame, SizeCommands) {
       {L"mnuWIDGRESET", 0, {1280, 800}}};
   for (const auto& [name, index, size] : cases) {
     Choose(clock_, name, index);
-    EXPECT_EQ(WaitFor([&] { return SizeOf(clock_); }, size), size) << name;
+    EXPECT_SOON_EQ(SizeOf(clock_), size) << name;
   }
   Choose(clock_, L"mnuWIDGRESETD");
   // Where there is room again, it goes back to where the full screen took it from.
-  EXPECT_EQ(WaitFor([&] { return RectOf(clock_); }, start), start);
-  EXPECT_EQ(WaitFor([&] { return Stored(L"Width"); }, std::wstring(L"5900")), L"5900");
+  EXPECT_SOON_EQ(RectOf(clock_), start);
+  EXPECT_SOON_EQ(Stored(L"Width"), L"5900");
   EXPECT_EQ(Stored(L"Height"), L"3471");
 }
 
@@ -110,20 +104,20 @@ TEST_F(Frame, KeysMoveAndSizeTheWindowAndWalkTheButtons) {
   ASSERT_TRUE(Activate(clock_));
   const Rect start = RectOf(clock_);
   Chord({VK_CONTROL, VK_RIGHT});
-  EXPECT_EQ(WaitFor([&] { return RectOf(clock_).left; }, start.left + kGrid), start.left + kGrid);
+  EXPECT_SOON_EQ(RectOf(clock_).left, start.left + kGrid);
   Chord({VK_CONTROL, VK_DOWN});
-  EXPECT_EQ(WaitFor([&] { return RectOf(clock_).top; }, start.top + kGrid), start.top + kGrid);
+  EXPECT_SOON_EQ(RectOf(clock_).top, start.top + kGrid);
   Chord({VK_CONTROL, VK_SHIFT, VK_RIGHT});
-  EXPECT_TRUE(WaitUntil([&] { return RectOf(clock_).width() > start.width(); }));
+  EXPECT_SOON(RectOf(clock_).width() > start.width());
 
   const Picture before = StillPictureOf(Control(clock_, lablTBARTOP));
   PressKey(VK_TAB);
-  EXPECT_TRUE(WaitUntil([&] { return FocusedWindow() == Control(clock_, lablTBARTOP); }));
-  EXPECT_GT(Differences(before, StillPictureOf(Control(clock_, lablTBARTOP))), 0)
+  EXPECT_SOON(FocusedWindow() == Control(clock_, lablTBARTOP));
+  EXPECT_NE(StillPictureOf(Control(clock_, lablTBARTOP)), before)
       << "the focus is to be seen once a key was used";
   PressKey(VK_TAB);
   PressKey(VK_TAB);
-  EXPECT_TRUE(WaitUntil([&] { return FocusedWindow() == Control(clock_, lablTBARTOP + 2); }));
+  EXPECT_SOON(FocusedWindow() == Control(clock_, lablTBARTOP + 2));
   PressKey(VK_SPACE);
   EXPECT_TRUE(WaitForNoForm(program(), L"frmCLKwg"));
 }
@@ -153,18 +147,18 @@ TEST_F(Frame, HoverLightsAButtonUntilTheMouseLeaves) {
   HWND close = Control(clock_, lablTBARTOP + 2);
   const Picture normal = StillPictureOf(close);
   MoveMouse(CentreOf(close));
-  EXPECT_TRUE(WaitUntil([&] { return Differences(normal, PictureOf(close)) > 0; }));
+  EXPECT_SOON(PictureOf(close) != normal);
   MoveMouse(CentreOf(Control(clock_, lblPANECLOCK)));
-  EXPECT_TRUE(WaitUntil([&] { return Differences(normal, PictureOf(close)) == 0; }));
+  EXPECT_SOON(PictureOf(close) == normal);
 }
 
 TEST_F(Frame, OnTopOfOneWindowAlone) {
   EXPECT_FALSE(IsTopmost(clock_));
   Choose(clock_, L"mnuCLOCKTOP");
-  EXPECT_TRUE(WaitUntil([&] { return IsTopmost(clock_); }));
+  EXPECT_SOON(IsTopmost(clock_));
   EXPECT_FALSE(IsTopmost(manager_));
   Choose(clock_, L"mnuDCTOP");
-  EXPECT_TRUE(WaitUntil([&] { return !IsTopmost(clock_); }));
+  EXPECT_SOON(!IsTopmost(clock_));
 }
 
 TEST_F(Frame, OpacityIsKeptAboveTheFaintest) {
@@ -187,7 +181,7 @@ TEST_F(Frame, ManagerCommandsForAllWidgets) {
   const Rect first = RectOf(stopwatch);
   DragClockBy(50, 300);
   Choose(manager_, L"mnuVRNARRANGE");
-  EXPECT_EQ(WaitFor([&] { return RectOf(clock_).top; }, 10), 10);
+  EXPECT_SOON_EQ(RectOf(clock_).top, 10);
   EXPECT_EQ(RectOf(stopwatch), first);
   Choose(manager_, L"mnuVRNCLOSEALL");
   EXPECT_TRUE(WaitForNoForm(program(), L"frmSTWwg"));

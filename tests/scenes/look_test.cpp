@@ -5,8 +5,6 @@
 #include "base/text.h"
 #include "core/core_settings.h"
 #include "core/widget_index.h"
-#include "tests/rig/controls.h"
-#include "tests/rig/picture.h"
 #include "tests/rig/scene.h"
 
 namespace varnel {

@@ -2,11 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "resources/control_ids.h"
-#include "tests/rig/controls.h"
-#include "tests/rig/dialogs.h"
-#include "tests/rig/files.h"
-#include "tests/rig/input.h"
-#include "tests/rig/menus.h"
 #include "tests/rig/scene.h"
 
 namespace varnel {
@@ -67,7 +62,7 @@ TEST_F(Start, TileOpensAndClosesTheClockAndTheNextStartRemembers) {
   ASSERT_TRUE(ClickOn(tile));
   HWND clock = WaitForForm(program(), L"frmCLKwg");
   ASSERT_TRUE(clock);
-  EXPECT_EQ(WaitFor([&] { return Text(tile); }, std::wstring(L"Clock (open)")), L"Clock (open)");
+  EXPECT_SOON_EQ(Text(tile), L"Clock (open)");
   EXPECT_EQ(Flag(L"Start-Load-Clock"), L"True");
   Exit();
   EXPECT_EQ(Flag(L"Start-Load-Clock"), L"True");
@@ -90,8 +85,7 @@ TEST_F(Start, CloseButtonOfAWidgetEqualsItsTile) {
   HWND clock = WaitForForm(program(), L"frmCLKwg");
   ASSERT_TRUE(ClickOn(Control(clock, lablTBARTOP + 2)));
   EXPECT_TRUE(WaitForNoForm(program(), L"frmCLKwg"));
-  EXPECT_EQ(WaitFor([&] { return Text(Control(manager, lblNUMBER)); }, std::wstring(L"Clock")),
-            L"Clock");
+  EXPECT_SOON_EQ(Text(Control(manager, lblNUMBER)), L"Clock");
   EXPECT_EQ(Flag(L"Start-Load-Clock"), L"False");
   // The manager's own close button ends the program.
   ASSERT_TRUE(ClickOn(Control(manager, lablTBARTOP + 2)));
@@ -101,7 +95,7 @@ TEST_F(Start, CloseButtonOfAWidgetEqualsItsTile) {
 TEST_F(Start, HiddenStartShowsOnlyTheTrayIcon) {
   root().settings().SetText(kOptions, L"Program Minimize on Start", L"1");
   ASSERT_TRUE(program().Start());
-  ASSERT_TRUE(WaitUntil([&] { return FindForm(program(), L"frmSTRtr") != nullptr; }));
+  ASSERT_SOON(FindForm(program(), L"frmSTRtr") != nullptr);
   HWND manager = FindForm(program(), L"frmVRNwg");
   ASSERT_TRUE(manager);
   EXPECT_FALSE(IsShown(manager));
@@ -129,7 +123,7 @@ TEST_F(Start, HideAllAndShowAllLastOverARestart) {
   ASSERT_TRUE(ChooseShared(program(), L"mnuDCHIDEALL"));
   EXPECT_TRUE(WaitForNoForm(program(), L"frmCLKwg"));
   EXPECT_TRUE(WaitForNoForm(program(), L"frmSTWwg"));
-  EXPECT_TRUE(WaitUntil([&] { return Flag(L"Start-Show or Hide") == L"Hidden"; }));
+  EXPECT_SOON(Flag(L"Start-Show or Hide") == L"Hidden");
   Exit();
 
   StartWithManager();
@@ -138,7 +132,7 @@ TEST_F(Start, HideAllAndShowAllLastOverARestart) {
   EXPECT_FALSE(IsShown(clock));
   ASSERT_TRUE(ChooseShared(program(), L"mnuDCSHOWALL"));
   EXPECT_TRUE(WaitForForm(program(), L"frmCLKwg"));
-  EXPECT_TRUE(WaitUntil([&] { return Flag(L"Start-Show or Hide") == L"Show"; }));
+  EXPECT_SOON(Flag(L"Start-Show or Hide") == L"Show");
 }
 
 TEST_F(Start, OptionsDialogStoresAndApplies) {
@@ -165,8 +159,9 @@ TEST_F(Start, OptionsDialogStoresAndApplies) {
   EXPECT_EQ(Flag(L"Program Launch"), L"1");
   EXPECT_EQ(Flag(L"Program Minimize on Start"), L"1");
   EXPECT_EQ(Flag(L"On-Top"), L"1");
-  EXPECT_TRUE(WaitUntil([&] { return IsTopmost(clock); }));
-  const auto command = RunAtLogon(HKEY_LOCAL_MACHINE, L"Widget Varnel");
+  EXPECT_SOON(IsTopmost(clock));
+  const Registry at_logon(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion");
+  const auto command = at_logon.Text(L"Run", L"Widget Varnel");
   ASSERT_TRUE(command);
   EXPECT_TRUE(command->ends_with(L"\\WidgetVarnel.exe"));
 
@@ -175,7 +170,7 @@ TEST_F(Start, OptionsDialogStoresAndApplies) {
   ASSERT_TRUE(ClickOn(Control(dialog, chkSTARTUP)));
   ASSERT_TRUE(ClickOn(Control(dialog, IDOK)));
   EXPECT_TRUE(WaitForNoForm(program(), L"frmVRNpr"));
-  EXPECT_EQ(RunAtLogon(HKEY_LOCAL_MACHINE, L"Widget Varnel"), L"");
+  EXPECT_EQ(at_logon.Text(L"Run", L"Widget Varnel"), L"");
 }
 
 TEST_F(Start, SecondStartShowsTheFirstOnesManagerAndEnds) {

@@ -8,12 +8,6 @@
 
 #include "core/shared_menu.h"
 #include "resources/control_ids.h"
-#include "tests/rig/controls.h"
-#include "tests/rig/dialogs.h"
-#include "tests/rig/files.h"
-#include "tests/rig/input.h"
-#include "tests/rig/menus.h"
-#include "tests/rig/picture.h"
 #include "tests/rig/scene.h"
 #include "tests/support/cases.h"
 #include "theme/chrome_colours.h"
@@ -51,7 +45,7 @@ class ThemeDialogScene : public Scene {
   HWND Part(int id) { return Control(dialog_, id); }
   void ShowTab(int tab) {
     Send(Part(tabMAIN), TCM_SETCURFOCUS, tab);
-    EXPECT_TRUE(WaitUntil([&] { return IsShown(Part(tab == 1 ? cboBAR : cboPANEL)); }));
+    EXPECT_SOON(IsShown(Part(tab == 1 ? cboBAR : cboPANEL)));
   }
   void Slide(int slider, int place) {
     Send(Part(slider), TBM_SETPOS, TRUE, place);
@@ -105,16 +99,16 @@ TEST_F(ThemeDialogScene, ChangesShowAtOnceAndGoWhenClosed) {
   Slide(hsbCONTRAST, 0);
   PickColour(btnCOLORMAIN, RGB(120, 0, 40));
   const auto ground = static_cast<COLORREF>(GroundOf(RGB(120, 0, 40), 0));
-  EXPECT_EQ(WaitFor([&] { return PictureOf(stopwatch_).MainColour(); }, ground), ground);
+  EXPECT_SOON_EQ(PictureOf(stopwatch_).MainColour(), ground);
 
   HWND elapsed = Control(stopwatch_, lblELAPSED);
   const Picture tahoma = StillPictureOf(elapsed);
   ShowTab(2);
   ASSERT_TRUE(Select(Part(cboPANEL), L"Symbol"));
-  EXPECT_TRUE(WaitUntil([&] { return Differences(tahoma, PictureOf(elapsed)) > 50; }));
+  EXPECT_SOON(PictureOf(elapsed) != tahoma);
   const Picture white = StillPictureOf(elapsed);
   PickColour(btnCOLORPANEL, RGB(0, 0, 0));
-  EXPECT_TRUE(WaitUntil([&] { return Differences(white, PictureOf(elapsed)) > 50; }));
+  EXPECT_SOON(PictureOf(elapsed) != white);
   EXPECT_FALSE(IsShown(Part(icoREADPANEL)));
   ShowTab(1);
   ASSERT_TRUE(Select(Part(cboBAR), L"Symbol"));
@@ -124,7 +118,7 @@ TEST_F(ThemeDialogScene, ChangesShowAtOnceAndGoWhenClosed) {
   ASSERT_TRUE(CloseBy(btnCLOSEDLG));
   MoveMouse({1200, 700});
   EXPECT_EQ(AlphaOf(stopwatch_), 235);
-  EXPECT_EQ(WaitFor([&] { return Differences(before, PictureOf(stopwatch_)); }, 0), 0);
+  EXPECT_SOON(PictureOf(stopwatch_) == before);
   EXPECT_EQ(StoredNames(), std::vector<std::wstring>({L"Theme-folder"}));
 }
 
@@ -134,12 +128,12 @@ TEST_F(ThemeDialogScene, ApplyStoresAPresetForItsWidgetOnly) {
   // The first row, below the column titles.
   const Rect list = RectOf(Part(lvwTHEMES));
   Click({list.left + 30, list.top + 34});
-  EXPECT_EQ(WaitFor([&] { return Text(Part(txtPRESETNEW)); }, std::wstring(L"Black")), L"Black");
+  EXPECT_SOON_EQ(Text(Part(txtPRESETNEW)), L"Black");
   PressKey(VK_DOWN);
-  EXPECT_EQ(WaitFor([&] { return Text(Part(txtPRESETNEW)); }, std::wstring(L"Blue")), L"Blue");
+  EXPECT_SOON_EQ(Text(Part(txtPRESETNEW)), L"Blue");
   EXPECT_EQ(AlphaOf(stopwatch_), 220);
   ASSERT_TRUE(ClickOn(Part(btnAPPLY)));
-  ASSERT_TRUE(WaitUntil([&] { return IsShown(Part(cmdOKfrmTHEME)); }));
+  ASSERT_SOON(IsShown(Part(cmdOKfrmTHEME)));
   EXPECT_EQ(Stored(L"frmSTWwgTheme-Main-Opacity"), L"220");
   EXPECT_EQ(Stored(L"frmSTWwgTheme-Main-Contrast"), L"0");
   EXPECT_EQ(Stored(L"frmSTWwgTheme-Bar-Angle"), L"188");
@@ -174,13 +168,13 @@ TEST_F(ThemeDialogScene, PresetsAreMadeCompletedAndDeleted) {
   Slide(hsbOPACITY, 77);
   ASSERT_TRUE(ClickOn(Part(txtPRESETNEW)));
   Type(L"My blue\n");
-  EXPECT_TRUE(WaitUntil([&] { return FileExists(PresetPath(L"My blue")); }));
-  EXPECT_EQ(WaitFor([&] { return Items(Part(flbLIST)).size(); }, std::size_t{16}), 16u);
+  EXPECT_SOON(FileExists(PresetPath(L"My blue")));
+  EXPECT_SOON_EQ(Items(Part(flbLIST)).size(), 16u);
   Slide(hsbOPACITY, 200);
   ASSERT_TRUE(Select(Part(flbLIST), L"My blue.dcp"));
-  EXPECT_EQ(WaitFor([&] { return AlphaOf(clock_); }, std::optional(77)), 77);
+  EXPECT_SOON_EQ(AlphaOf(clock_), 77);
   ASSERT_TRUE(ClickOn(Part(btnDELETE)));
-  EXPECT_TRUE(WaitUntil([&] { return !FileExists(PresetPath(L"My blue")); }));
+  EXPECT_SOON(!FileExists(PresetPath(L"My blue")));
   EXPECT_FALSE(IsEnabled(Part(btnDELETE)));
 
   for (const int answer : {IDNO, IDYES}) {
@@ -189,7 +183,7 @@ TEST_F(ThemeDialogScene, PresetsAreMadeCompletedAndDeleted) {
     EXPECT_EQ(DialogText(question), L"Delete all 15 presets of the style \"Soft\"?");
     ASSERT_TRUE(CloseDialog(question, answer));
     const std::size_t left = answer == IDNO ? 15 : 0;
-    EXPECT_EQ(WaitFor([&] { return Items(Part(flbLIST)).size(); }, left), left);
+    EXPECT_SOON_EQ(Items(Part(flbLIST)).size(), left);
   }
   const std::wstring folder = root().folder() + L"\\themes\\Soft";
   EXPECT_TRUE(FilesBelow(folder).empty());
@@ -202,8 +196,7 @@ TEST_F(ThemeDialogScene, OutlivesItsWidgetAndTurnsToAnother) {
   OpenFrom(stopwatch_);
   Slide(hsbOPACITY, 50);
   Choose(clock_, L"mnuDCSETTINGS");
-  EXPECT_EQ(WaitFor([&] { return Text(dialog_); }, std::wstring(L"Alarm Clock Theme Settings")),
-            L"Alarm Clock Theme Settings");
+  EXPECT_SOON_EQ(Text(dialog_), L"Alarm Clock Theme Settings");
   EXPECT_EQ(AlphaOf(stopwatch_), 235);
   Slide(hsbOPACITY, 60);
   EXPECT_EQ(AlphaOf(clock_), 60);
@@ -214,7 +207,7 @@ TEST_F(ThemeDialogScene, OutlivesItsWidgetAndTurnsToAnother) {
   clock_ = WaitForForm(program(), L"frmCLKwg");
   EXPECT_EQ(AlphaOf(clock_), 235) << "nothing was applied";
   ASSERT_TRUE(ClickOn(Part(btnAPPLY)));
-  EXPECT_EQ(WaitFor([&] { return AlphaOf(clock_); }, std::optional(70)), 70);
+  EXPECT_SOON_EQ(AlphaOf(clock_), 70);
   PressKey(VK_ESCAPE);
   EXPECT_TRUE(WaitForNoForm(program(), L"frmTHEME"));
   EXPECT_EQ(AlphaOf(clock_), 70);

@@ -5,11 +5,6 @@
 
 #include "base/number_text.h"
 #include "resources/control_ids.h"
-#include "tests/rig/controls.h"
-#include "tests/rig/dialogs.h"
-#include "tests/rig/files.h"
-#include "tests/rig/input.h"
-#include "tests/rig/menus.h"
 #include "tests/rig/scene.h"
 #include "win/disk_files.h"
 
@@ -54,11 +49,11 @@ TEST_F(Time, ClockShowsTheTimeInBothStyles) {
   ASSERT_TRUE(ClickOn(Control(dialog, optSTYLECLASS)));
   ASSERT_TRUE(ClickOn(Control(dialog, chkAMPM)));
   ASSERT_TRUE(ClickOn(Control(dialog, optDATECUST)));
-  ASSERT_TRUE(WaitUntil([&] { return IsEnabled(Control(dialog, txtCUSTOM)); }));
+  ASSERT_SOON(IsEnabled(Control(dialog, txtCUSTOM)));
   SetText(Control(dialog, txtCUSTOM), L"\"Day\" d");
   ASSERT_TRUE(ClickOn(Control(dialog, IDOK)));
   EXPECT_TRUE(WaitForNoForm(program(), L"frmCLKpr"));
-  EXPECT_TRUE(WaitUntil([&] { return Text(Control(clock, lblPANECLOCK)).size() == 8; }));
+  EXPECT_SOON(Text(Control(clock, lblPANECLOCK)).size() == 8);
   EXPECT_FALSE(IsShown(Control(clock, lblSECS)));
   EXPECT_TRUE(Text(Control(clock, lbl7Sept2010)).starts_with(L"Day "));
   const Registry& settings = root().settings();
@@ -94,15 +89,13 @@ TEST_F(Time, AlarmRingsWithItsMessageWhileTheClockIsClosed) {
 
   HWND popup = WaitForForm(program(), L"frmCLKam");
   ASSERT_TRUE(popup);
-  EXPECT_EQ(WaitFor([&] { return Text(Control(popup, lablMESSAGE)); },
-                    std::wstring(L"Call home, & bring milk")),
-            L"Call home, & bring milk");
+  EXPECT_SOON_EQ(Text(Control(popup, lablMESSAGE)), L"Call home, & bring milk");
   EXPECT_EQ(Text(Control(popup, lablALARMC)), time);
   EXPECT_EQ(::GetForegroundWindow(), manager) << "the popup takes no focus";
   EXPECT_TRUE(IsTopmost(popup));
   EXPECT_EQ(FindForms(program(), L"frmCLKam").size(), 1u);
   // Within its second it would come again, so it is closed once that is over.
-  ASSERT_TRUE(WaitUntil([&] { return TimeIn(0) > time; }));
+  ASSERT_SOON(TimeIn(0) > time);
   ASSERT_TRUE(ClickOn(Control(popup, imgBUTCLOSE)));
   EXPECT_TRUE(WaitForNoForm(program(), L"frmCLKam"));
   EXPECT_EQ(root().settings().Text(L"frmCLKas\\Details", L"Alarm Preset Use_4"), L"1");
@@ -185,24 +178,24 @@ TEST_F(Time, StopwatchStartLapsePauseResumeReset) {
   EXPECT_EQ(Text(left), L" Start ");
   EXPECT_EQ(Text(right), L" Stop ");
   ASSERT_TRUE(ClickOn(left));
-  EXPECT_TRUE(WaitUntil([&] { return shown() > L"00:00.30"; }));
+  EXPECT_SOON(shown() > L"00:00.30");
   EXPECT_EQ(Text(left), L" Pause ");
   EXPECT_EQ(Text(right), L" Lapse ");
 
   ASSERT_TRUE(ClickOn(right));
   const std::wstring frozen = WaitUntilStill(shown, 400);
   ASSERT_TRUE(ClickOn(left));
-  EXPECT_TRUE(WaitUntil([&] { return Text(left) == L" Resume "; }));
+  EXPECT_SOON(Text(left) == L" Resume ");
   EXPECT_EQ(shown(), frozen);
   EXPECT_EQ(Text(right), L" Reset ");
   // By keyboard: Space on the focused button resumes.
   ASSERT_TRUE(Activate(form));
   PressKey(VK_SPACE);
-  EXPECT_TRUE(WaitUntil([&] { return Text(left) == L" Pause "; }));
-  EXPECT_TRUE(WaitUntil([&] { return shown() > frozen; }));
+  EXPECT_SOON(Text(left) == L" Pause ");
+  EXPECT_SOON(shown() > frozen);
 
   ASSERT_TRUE(ClickOn(left));
-  ASSERT_TRUE(WaitUntil([&] { return Text(right) == L" Reset "; }));
+  ASSERT_SOON(Text(right) == L" Reset ");
   Chord({VK_CONTROL, 'C'});
   ASSERT_TRUE(ClickOn(right));
   EXPECT_EQ(WaitFor(shown, std::wstring(L"00:00.00")), L"00:00.00");
@@ -220,21 +213,21 @@ TEST_F(Time, CountdownFromThreeSecondsToTheMessageAndBack) {
   EXPECT_EQ(Text(Control(form, txtMIN)), L"02");
   for (const int field : {txtSUBMIN, txtSUBSECS}) {
     ASSERT_TRUE(ClickOn(Control(form, field)));
-    ASSERT_TRUE(WaitUntil([&] { return SelectedUnits(Control(form, field)).second == 2; }));
+    ASSERT_SOON(SelectedUnits(Control(form, field)).second == 2);
     Type(field == txtSUBMIN ? L"0" : L"3");
   }
-  EXPECT_EQ(WaitFor([&] { return Text(Control(form, txtSECS)); }, std::wstring(L"03")), L"03");
+  EXPECT_SOON_EQ(Text(Control(form, txtSECS)), L"03");
   EXPECT_EQ(Text(Control(form, txtMIN)), L"00");
   EXPECT_EQ(root().settings().Text(L"frmCDNwg\\Details", L"Timer-Interval-secs"), L"03");
   ASSERT_TRUE(ClickOn(Control(form, lblStart)));
-  EXPECT_TRUE(WaitUntil([&] { return Text(Control(form, lblStart)) == L" Pause "; }));
-  EXPECT_TRUE(WaitUntil([&] { return Text(Control(form, txtSECS)) == L"00"; }));
+  EXPECT_SOON(Text(Control(form, lblStart)) == L" Pause ");
+  EXPECT_SOON(Text(Control(form, txtSECS)) == L"00");
   HWND box = WaitForDialog(program());
   ASSERT_TRUE(box);
   EXPECT_EQ(Text(box), L"Stopwatch Timer");
   EXPECT_NE(DialogText(box).find(L"Time Has Now Ended"), std::wstring::npos);
   EXPECT_TRUE(CloseDialog(box, IDOK));
-  EXPECT_TRUE(WaitUntil([&] { return Text(Control(form, lblStart)) == L" Start "; }));
+  EXPECT_SOON(Text(Control(form, lblStart)) == L" Start ");
   EXPECT_EQ(Text(Control(form, lblStop)), L" Stop ");
   EXPECT_EQ(Text(Control(form, txtSECS)), L"03");
   EXPECT_FALSE(FindDialog(program())) << "the end is announced once";
@@ -249,7 +242,7 @@ TEST_F(Time, CountdownClosedWhileItsEndIsAnnounced) {
   ASSERT_TRUE(WaitForDialog(program()));
   Choose(FindForm(program(), L"frmVRNwg"), L"mnuDCWIDGETS", 5);
   EXPECT_TRUE(WaitForNoForm(program(), L"frmCDNwg"));
-  EXPECT_TRUE(WaitUntil([&] { return !FindDialog(program()); }));
+  EXPECT_SOON(!FindDialog(program()));
   Choose(FindForm(program(), L"frmVRNwg"), L"mnuDCWIDGETS", 5);
   EXPECT_TRUE(WaitForForm(program(), L"frmCDNwg"));
 }

@@ -2,10 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "base/text.h"
-#include "tests/rig/dialogs.h"
-#include "tests/rig/files.h"
 #include "tests/rig/http_server.h"
-#include "tests/rig/menus.h"
 #include "tests/rig/scene.h"
 
 namespace varnel {
@@ -62,7 +59,7 @@ TEST_F(UpdateCheck, NewerVersionOpensItsPageInTheBrowser) {
   server_.Answer(" 1.5 is the newest");
   EXPECT_TRUE(program().Start());
   const std::string page = Utf8FromWide(server_.address()) + "/products/widget-varnel/update.html";
-  EXPECT_TRUE(WaitUntil([&] { return FileBytes(opened).value_or("").starts_with(page); }));
+  EXPECT_SOON(FileBytes(opened).value_or("").starts_with(page));
   EXPECT_FALSE(FindDialog(program()));
   opening.SetText(L"", L"", browser);
 }

@@ -5,11 +5,7 @@
 
 #include "base/text.h"
 #include "resources/control_ids.h"
-#include "tests/rig/controls.h"
-#include "tests/rig/files.h"
 #include "tests/rig/http_server.h"
-#include "tests/rig/input.h"
-#include "tests/rig/menus.h"
 #include "tests/rig/scene.h"
 #include "tests/support/cases.h"
 #include "tests/support/weather_samples.h"
@@ -177,8 +173,7 @@ TEST_F(Weather, PlaceIsChosenFromListsOrTyped) {
   ASSERT_TRUE(ClickOn(Control(dialog, cboCOUNTRY)));
   Chord({VK_CONTROL, 'A'});
   Type(L"SWITZ");
-  EXPECT_EQ(WaitFor([&] { return Text(Control(dialog, cboCOUNTRY)); }, L"Switzerland"s),
-            L"Switzerland");
+  EXPECT_SOON_EQ(Text(Control(dialog, cboCOUNTRY)), L"Switzerland");
   PressKey(VK_TAB);
   Type(L"z\u00FCr\n");
   EXPECT_TRUE(WaitForNoForm(program(), L"frmWTHpr"));
@@ -195,11 +190,11 @@ TEST_F(Weather, UnitedStatesAndFahrenheitAreChosen) {
   EXPECT_EQ(WaitForLabel(lblTEMPERATURE, L"20C"), L"20C");
   HWND dialog = OpenProperties();
   ASSERT_TRUE(ClickOn(Control(dialog, optLOCATIONS + 1)));
-  EXPECT_EQ(WaitFor([&] { return Items(Control(dialog, cboCOUNTRY)).size(); }, 51u), 51u);
+  EXPECT_SOON_EQ(Items(Control(dialog, cboCOUNTRY)).size(), 51u);
   EXPECT_EQ(Text(Control(dialog, lblCountry)), L"&State:");
   SetText(Control(dialog, cboCOUNTRY), L"California");
   ASSERT_TRUE(ClickOn(Control(dialog, btnSEARCH)));
-  EXPECT_TRUE(WaitUntil([&] { return Items(Control(dialog, cboCOUNTRYAREA)).size() > 100; }));
+  EXPECT_SOON(Items(Control(dialog, cboCOUNTRYAREA)).size() > 100);
   ASSERT_TRUE(Select(Control(dialog, cboCOUNTRYAREA), L"Los Angeles"));
   ASSERT_TRUE(ClickOn(Control(dialog, optTEMP + 1)));
   Leave(dialog, IDOK);
@@ -280,7 +275,7 @@ TEST_F(Weather, HangingServersBlockNothing) {
   Start();
   HWND other_widget = StartIn(other_root, other);
   ASSERT_TRUE(WaitForRequests(1));
-  ASSERT_TRUE(WaitUntil([&] { return !dripping.requests().empty(); }));
+  ASSERT_SOON(!dripping.requests().empty());
   EXPECT_GE(QuickAnswers(widget_), 30);
   EXPECT_GE(QuickAnswers(other_widget), 30);
   EXPECT_EQ(LeaveByMenu(other, 1'000), 0u) << "the exit waits for the fetch";

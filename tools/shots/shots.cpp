@@ -13,7 +13,7 @@
 #include "tests/rig/http_server.h"
 #include "tests/rig/input.h"
 #include "tests/rig/picture.h"
-#include "tests/shots/subjects.h"
+#include "tools/shots/subjects.h"
 #include "tests/support/weather_samples.h"
 #include "theme/preset.h"
 #include "theme/preset_generator.h"

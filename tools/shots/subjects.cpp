@@ -1,4 +1,4 @@
-#include "tests/shots/subjects.h"
+#include "tools/shots/subjects.h"
 
 #include "base/number_text.h"
 #include "resources/control_ids.h"
