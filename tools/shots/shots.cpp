@@ -13,12 +13,12 @@
 #include "tests/rig/http_server.h"
 #include "tests/rig/input.h"
 #include "tests/rig/picture.h"
-#include "tools/shots/subjects.h"
 #include "tests/support/weather_samples.h"
 #include "theme/preset.h"
 #include "theme/preset_generator.h"
 #include "theme/system_colours_win.h"
 #include "theme/theme_store.h"
+#include "tools/shots/subjects.h"
 #include "widgets/weather/weather_settings.h"
 #include "win/disk_files.h"
 
