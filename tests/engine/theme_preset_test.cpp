@@ -91,6 +91,21 @@ TEST(Presets, StylesChangeTheBaseColours) {
   }
 }
 
+TEST(Presets, BrightOnesHaveTheBaseColours) {
+  const test::Cases<const wchar_t*, Colour> cases = {
+      {L"Black", 0},       {L"Sky", 16367236},    {L"Blue", 16221762}, {L"Cherry", 6689485},
+      {L"Cyan", 11456089}, {L"Gray", 12566463},   {L"Green", 1619546}, {L"Orange", 2461404},
+      {L"Pink", 14310615}, {L"Purple", 15093141}, {L"Red", 4538846},   {L"White", kWhite},
+      {L"Yellow", 571127}};
+  test::MemoryFiles files;
+  EnsureThemeFolders(files, L"C:\\", kSystem);
+  for (const auto& [name, main] : cases) {
+    ThemeRecord theme;
+    LoadPreset(files, StyleFolderPath(L"C:\\", L"Bright"), name, theme);
+    EXPECT_EQ(theme.lngTHEMECOLOR, main) << name;
+  }
+}
+
 TEST(Presets, OnlyMissingFoldersAreFilled) {
   test::MemoryFiles files;
   EnsureThemeFolders(files, L"C:\\Varnel", kSystem);
@@ -157,23 +172,6 @@ TEST(Presets, WhatIsNoPresetStaysAsItIs) {
   files.files[kPath] = bytes;
   EXPECT_EQ(Loaded(files).lngTHEMECOLOR, 1);
   EXPECT_EQ(files.files[kPath], bytes);
-}
-
-TEST(Presets, GarbageKeepsTheCurrentValues) {
-  for (const std::wstring& garbage : test::GarbageValues()) {
-    test::MemoryFiles files;
-    std::wstring text;
-    for (const ThemeField& field : kThemeFields) {
-      text.append(L"[").append(field.preset_section).append(L"]\n");
-      text.append(L"> ").append(field.name).append(L"=").append(garbage).append(L"\n");
-    }
-    files.files[kPath] = Utf8FromWide(text);
-    const ThemeRecord theme = Loaded(files);
-    EXPECT_FALSE(theme.strTHEMEBARFONTNAME.empty());
-    EXPECT_LE(theme.strTHEMEBARFONTNAME.size(), kLongestFontName);
-    const ThemeRecord again = Loaded(files, theme);
-    EXPECT_EQ(again, theme) << garbage.substr(0, 40);
-  }
 }
 
 TEST(Presets, SavingReplacesTheOneOfThatName) {

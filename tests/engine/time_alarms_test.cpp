@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <map>
-#include <random>
 #include <vector>
 
 #include "tests/support/cases.h"
@@ -102,42 +100,20 @@ TEST(Alarms, QuarterHoursAreTheWholeDay) {
   for (const std::wstring& time : times) EXPECT_EQ(AlarmTimeText(time), time);
 }
 
-// Every minute of two years, a leap day among them, at a second drawn for it, and all seconds of
-// the minutes with an alarm and of those beside them: each alarm in its second and at no other
-// time.
-TEST(Alarms, TwoYearsOfMinutes) {
-  using namespace std::chrono;
+TEST(Alarms, EachRingsInItsSecondOfTheDayAlone) {
   AlarmPresets presets;
   presets[0] = {true, L"0:00", L"day"};
   presets[2] = {true, L"12:59:59 pm", L"noon"};
   presets[4] = {false, L"noon", L"never"};
   presets[5] = {true, L"23:59:59", L"night"};
-  const std::map<int, std::wstring> expected{{0, L"day"}, {46799, L"noon"}, {86399, L"night"}};
-  std::map<std::wstring, int> rung;
-  std::minstd_rand random(20231);
-  const sys_days first = 2023y / March / 1;
-  const int days = (sys_days(2025y / March / 1) - first).count();
-  for (int day = 0; day < days; ++day) {
-    const year_month_day date = first + std::chrono::days(day);
-    LocalTime time{int(date.year()), int(unsigned(date.month())), int(unsigned(date.day())),
-                   int(weekday(first + std::chrono::days(day)).c_encoding())};
-    for (int minute = 0; minute < 24 * 60; ++minute) {
-      time.hour = minute / 60;
-      time.minute = minute % 60;
-      const bool whole = minute == 0 || minute == 779 || minute == 780 || minute == 1439;
-      const int drawn = static_cast<int>(random() % 60);
-      for (time.second = whole ? 0 : drawn; time.second <= (whole ? 59 : drawn); ++time.second) {
-        const Rings rings = AlarmRefresh(presets, time);
-        const auto due = expected.find(minute * 60 + time.second);
-        ASSERT_EQ(rings.size(), due == expected.end() ? 0u : 1u) << day << ' ' << minute;
-        if (rings.empty()) continue;
-        ASSERT_EQ(rings[0].message, due->second);
-        ++rung[rings[0].message];
-      }
+  std::map<int, std::wstring> rung;
+  for (int second = 0; second < 86400; ++second) {
+    for (const AlarmRing& ring :
+         AlarmRefresh(presets, At(second / 3600, second / 60 % 60, second % 60))) {
+      rung[second] += ring.message;
     }
   }
-  EXPECT_EQ(days, 731);
-  EXPECT_EQ(rung, (std::map<std::wstring, int>{{L"day", 731}, {L"noon", 731}, {L"night", 731}}));
+  EXPECT_EQ(rung, (std::map<int, std::wstring>{{0, L"day"}, {46799, L"noon"}, {86399, L"night"}}));
 }
 
 }  // namespace

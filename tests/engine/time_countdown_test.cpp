@@ -55,18 +55,6 @@ TEST(Countdown, EditsAreStoredAndShown) {
   EXPECT_EQ(store.Read(L"frmCDNwg\\Details", L"Timer-Interval-secs", L""), L"00");
 }
 
-TEST(Countdown, EditingWhilePausedStaysPaused) {
-  test::MemorySettings store;
-  CountdownEngine countdown(store);
-  countdown.PressStart();
-  for (int i = 0; i < 30; ++i) countdown.Tick();
-  EXPECT_EQ(Display(countdown), L"00:01:30");
-  countdown.PressStart();
-  countdown.Edit(kMinutes, L"5");
-  EXPECT_EQ(Display(countdown), L"00:05:00");
-  EXPECT_EQ(Captions(countdown), L" Resume  Reset ");
-}
-
 TEST(Countdown, BorrowsAcrossFields) {
   const struct {
     const wchar_t* fields[3];
@@ -85,35 +73,6 @@ TEST(Countdown, BorrowsAcrossFields) {
     countdown.PressStop();
     countdown.PressStop();
   }
-}
-
-TEST(Countdown, NothingToCountCannotStart) {
-  test::MemorySettings store;
-  CountdownEngine countdown(store);
-  Set(countdown, L"0", L"zero", L"-1");
-  countdown.PressStart();
-  EXPECT_FALSE(countdown.counting());
-  EXPECT_EQ(countdown.Tick(), CountdownTick::kNothing);
-  EXPECT_EQ(Captions(countdown), L" Start  Stop ");
-}
-
-TEST(Countdown, EndIsAnnouncedOnce) {
-  test::MemorySettings store;
-  CountdownEngine countdown(store);
-  Set(countdown, L"0", L"0", L"1");
-  countdown.PressStart();
-  EXPECT_EQ(countdown.Tick(), CountdownTick::kChanged);
-  EXPECT_EQ(Display(countdown), L"00:00:00");
-  countdown.PressStart();  // no pause at zero
-  EXPECT_TRUE(countdown.counting());
-  EXPECT_EQ(countdown.Tick(), CountdownTick::kEnded);
-  EXPECT_EQ(countdown.Tick(), CountdownTick::kNothing);  // while the message is on the screen
-  countdown.PressStop();
-  EXPECT_EQ(Captions(countdown), L" Pause  Stop ");
-  countdown.AcknowledgeEnd();
-  EXPECT_EQ(Captions(countdown), L" Start  Stop ");
-  EXPECT_EQ(Display(countdown), L"00:00:01");
-  EXPECT_FALSE(countdown.counting());
 }
 
 // The rules over again with the display as a number of seconds.
@@ -187,21 +146,6 @@ TEST(Countdown, TenThousandTicksAndPressesAgainstTheModel) {
     }
   }
   EXPECT_GT(ends, 0);
-}
-
-// A full run from a set interval: every second shown once, written as hours, minutes and seconds.
-TEST(Countdown, TwoHoursSecondBySecond) {
-  test::MemorySettings store;
-  CountdownEngine countdown(store);
-  Set(countdown, L"2", L"0", L"0");
-  countdown.PressStart();
-  for (int left = 7199; left >= 0; --left) {
-    ASSERT_EQ(countdown.Tick(), CountdownTick::kChanged);
-    ASSERT_EQ(Display(countdown), PaddedNumber(left / 3600, 2) + L":" +
-                                      PaddedNumber(left / 60 % 60, 2) + L":" +
-                                      PaddedNumber(left % 60, 2));
-  }
-  EXPECT_EQ(countdown.Tick(), CountdownTick::kEnded);
 }
 
 }  // namespace

@@ -28,29 +28,6 @@ TEST(Stopwatch, CountsInTenthsShownAsSixtieths) {
   }
 }
 
-TEST(Stopwatch, LapsePauseAndResume) {
-  StopwatchEngine watch;
-  Tick(watch, 5);
-  EXPECT_EQ(watch.shown(), L"00:00.00");  // not started
-  watch.PressLeft();
-  Tick(watch, 5);
-  watch.PressRight();
-  Tick(watch, 3);
-  EXPECT_EQ(watch.shown(), L"00:00.30");
-  watch.PressRight();  // a second lapse shows its own moment
-  Tick(watch, 2);
-  EXPECT_EQ(watch.shown(), L"00:00.48");
-  watch.PressLeft();
-  EXPECT_EQ(watch.shown(), L"00:00.48");
-  watch.PressLeft();
-  EXPECT_EQ(watch.shown(), L"00:00.48");
-  watch.Tick();
-  EXPECT_EQ(watch.shown(), L"00:01.06");
-  watch.PressLeft();
-  watch.PressRight();
-  EXPECT_EQ(watch.shown(), L"00:00.00");
-}
-
 // The rules over again with the time as a number of tenths.
 struct Model {
   enum { kReset, kRunning, kPaused } state = kReset;

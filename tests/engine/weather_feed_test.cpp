@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
+#include <vector>
 
 #include "tests/support/cases.h"
 #include "tests/support/weather_samples.h"
@@ -204,25 +204,20 @@ TEST(WeatherFeed, CelsiusIsCutToHundredthsAndRoundedToTenths) {
 }
 
 TEST(Forecast, WordsAreSearchedInTheirOrder) {
-  const test::Cases<const wchar_t*, int> cases = {{L"Mostly Sunny", 28},
-                                                  {L"Sunny", 32},
-                                                  {L"Scattered Thunderstorms", 3},
-                                                  {L"Cloudy", 19},
-                                                  {L"PARTLY CLOUDY", 28},
-                                                  {L"Fair and Windy", 28},
-                                                  {L"Clear", 31},
-                                                  {L"Rain / Snow", 9},
-                                                  {L"Snow Showers", 5},
-                                                  {L"Thundershowers", 9},
-                                                  {L"Isolated Storms", 3},
-                                                  {L"Mist", 19},
-                                                  {L"Windy", 24},
-                                                  {L"Haze", 25},
-                                                  {L"", 25},
-                                                  {L"Mostly Clear", 31},
-                                                  {L"Sunny then Showers", 9}};
-  for (const auto& [words, icon] : cases) {
-    EXPECT_EQ(ForecastIcon(test::EntryText({L"Sat", words, L"72", L"55"})), icon) << words;
+  const test::Cases<int, std::vector<const wchar_t*>> cases = {
+      {3, {L"Scattered Thunderstorms", L"Isolated Storms"}},
+      {5, {L"Snow Showers"}},
+      {9, {L"Rain / Snow", L"Thundershowers", L"Sunny then Showers"}},
+      {19, {L"Cloudy", L"Mist"}},
+      {24, {L"Windy"}},
+      {25, {L"Haze", L""}},
+      {28, {L"Mostly Sunny", L"PARTLY CLOUDY", L"Fair and Windy"}},
+      {31, {L"Clear", L"Mostly Clear"}},
+      {32, {L"Sunny"}}};
+  for (const auto& [icon, forecasts] : cases) {
+    for (const wchar_t* words : forecasts) {
+      EXPECT_EQ(ForecastIcon(test::EntryText({L"Sat", words, L"72", L"55"})), icon) << words;
+    }
   }
   EXPECT_EQ(ForecastIcon(L"Rain before the colon: / High 72&"), 25);
   EXPECT_EQ(ForecastIcon(L"Sat: Low 40 after a clear night"), 31);
@@ -255,35 +250,6 @@ TEST(Forecast, SlotsAreFilledInTurn) {
   EXPECT_EQ(slots[2].icon, kIconNotAvailable);
   EXPECT_EQ(ForecastDay(L"\r\nMon: Rain"), L"Mon");
   EXPECT_EQ(ForecastDay(L"no colon"), L"");
-}
-
-// Whatever is lost, doubled or changed on the way, reading ends with bounded texts.
-TEST(WeatherFeed, DamagedFeedsAreReadToo) {
-  const std::wstring good = FeedText();
-  std::mt19937 random(7);
-  const auto any = [&](std::size_t below) { return random() % below; };
-  for (int round = 0; round < 3000; ++round) {
-    std::wstring raw = good;
-    for (std::size_t damages = 1 + any(4); damages > 0; --damages) {
-      const std::size_t at = any(raw.size());
-      switch (any(3)) {
-        case 0:
-          raw.erase(at, any(60));
-          break;
-        case 1:
-          raw.insert(at, good.substr(any(good.size()), any(200)));
-          break;
-        default:
-          raw[at] = L"]<>&:-,\r\n/\"9H\0"[any(14)];
-      }
-    }
-    const Reading reading = Read(raw, any(2) == 0, 50);
-    EXPECT_GT(reading.data.TemperatureF, 0);
-    EXPECT_FALSE(reading.labels.temperature.empty());
-    for (const ForecastSlot& slot : reading.labels.forecast) {
-      EXPECT_LE(slot.date.size() + slot.temps.size(), 1000u);
-    }
-  }
 }
 
 }  // namespace

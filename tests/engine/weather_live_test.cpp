@@ -2,11 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 #include "tests/support/cases.h"
 #include "tests/support/weather_samples.h"
 #include "widgets/weather/feed_text.h"
 #include "widgets/weather/weather_feed.h"
-#include "widgets/weather/wmo_weather.h"
 
 namespace varnel {
 namespace {
@@ -69,18 +70,23 @@ TEST(LiveSource, NightHasItsOwnWordsAndPicture) {
 }
 
 TEST(LiveSource, EveryCodeShowsWordsAndTheRightPictures) {
-  const test::Cases<int, int, int, int> groups = {
-      {0, 0, 32, 32},  {1, 2, 28, 28}, {3, 3, 26, 19},  {45, 48, 19, 19}, {51, 55, 9, 9},
-      {56, 57, 5, 9},  {61, 61, 9, 9}, {63, 63, 12, 9}, {65, 65, 40, 9},  {66, 67, 5, 9},
-      {71, 77, 13, 5}, {80, 81, 9, 9}, {82, 82, 40, 9}, {85, 86, 13, 5},  {95, 99, 3, 3}};
-  for (const auto& [first, last, icon, forecast_icon] : groups) {
-    for (int code = first; code <= last; ++code) {
-      if (WeatherKindOf(code).words.empty()) continue;  // a gap within the group
+  const test::Cases<std::vector<int>, int, int> groups = {{{0}, 32, 32},
+                                                          {{1, 2}, 28, 28},
+                                                          {{3}, 26, 19},
+                                                          {{45, 48}, 19, 19},
+                                                          {{51, 53, 55, 61, 80, 81}, 9, 9},
+                                                          {{63}, 12, 9},
+                                                          {{65, 82}, 40, 9},
+                                                          {{56, 57, 66, 67}, 5, 9},
+                                                          {{71, 73, 75, 77, 85, 86}, 13, 5},
+                                                          {{95, 96, 99}, 3, 3}};
+  for (const auto& [codes, icon, forecast_icon] : groups) {
+    for (const int code : codes) {
       const std::string text = "\"weather_code\":" + std::to_string(code);
       const std::string answer = test::With<std::string>(
           Changed("\"weather_code\":2", text), "[1,61,3]", "[" + std::to_string(code) + ",0,0]");
       const WeatherLabels labels = Shown(answer);
-      EXPECT_EQ(labels.condition, WeatherKindOf(code).words);
+      EXPECT_NE(labels.condition, L"No Description") << code;
       EXPECT_EQ(labels.symbol, icon) << code;
       EXPECT_EQ(labels.forecast[0].icon, forecast_icon) << code;
     }

@@ -143,15 +143,6 @@ TEST(WeatherAddress, LiveForecastOfAPoint) {
             L"&temperature_unit=fahrenheit&timezone=auto&forecast_days=3");
 }
 
-TEST(WeatherSettings, AFirstStartShowsLondonInCelsius) {
-  const test::MemorySettings settings;
-  EXPECT_FALSE(ReadFlag(settings, kTempSelected));
-  EXPECT_FALSE(ReadFlag(settings, kWeatherWorld));
-  EXPECT_EQ(settings.Read(kWeatherCountry), L"United Kingdom");
-  EXPECT_EQ(settings.Read(kWeatherCity), L"London");
-  EXPECT_EQ(settings.Read(kWeatherFeedEndpoint), L"");
-}
-
 TEST(WeatherGlyphs, EveryNumberHasAPictureOfTheFont) {
   for (int icon = -1; icon <= 100; ++icon) {
     EXPECT_GE(WeatherGlyph(icon), 0xE000) << icon;
