@@ -101,18 +101,22 @@ TEST(WeatherLayout, LeavesOutByRank) {
   EXPECT_TRUE(seen[13] && seen[4] && seen[3] && seen[2]);
 }
 
+// From top to bottom, with flat days where that leaves more room, but beside on a very broad panel.
 TEST(WeatherLayout, CardGoesWhereThereIsMoreRoom) {
-  const test::PlainMeasure measure;
-  const WeatherLayout tall = LayOutWeather({240, 300}, 96, Usual(), measure);
-  EXPECT_GT(tall.pfrFORECAST.top, tall.condition.box.bottom);
-  EXPECT_EQ(tall.forecast[0].date.box.top, tall.forecast[2].date.box.top);
-  const WeatherLayout broad = LayOutWeather({900, 160}, 96, Usual(), measure);
-  EXPECT_GT(broad.pfrFORECAST.left, broad.temperature.box.right);
-  EXPECT_EQ(broad.forecast[0].date.box.left, broad.forecast[2].date.box.left);
-  // What is shown above each other keeps the order of its rank.
-  for (const WeatherLayout& layout : {tall, broad}) {
-    EXPECT_LE(layout.location.box.bottom, layout.symbol.box.top);
+  const struct {
+    Size panel;
+    bool flat;
+    bool beside;
+  } cases[] = {{{240, 300}, false, false}, {{391, 181}, true, false}, {{900, 160}, true, true}};
+  for (const auto& [panel, flat, beside] : cases) {
+    const WeatherLayout layout = LayOutWeather(panel, 96, Usual(), test::PlainMeasure());
+    EXPECT_LE(layout.location.box.bottom, layout.temperature.box.top);
     EXPECT_LE(layout.temperature.box.bottom, layout.condition.box.top);
+    EXPECT_EQ(layout.condition.box.bottom <= layout.pfrFORECAST.top, !beside);
+    EXPECT_EQ(layout.temperature.box.right <= layout.pfrFORECAST.left, beside);
+    const auto& [date, icon, temps] = layout.forecast[0];
+    EXPECT_EQ(date.box.top == temps.box.top, flat);
+    EXPECT_EQ(date.box.top == layout.forecast[2].date.box.top, !beside);
   }
 }
 

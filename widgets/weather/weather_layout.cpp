@@ -19,8 +19,8 @@ constexpr int kLeastForecast = 11;
 
 // In hundredths of the unit, which is the temperature's font height.
 constexpr int kSymbol = 125;
-constexpr int kSymbolGap = 8;
-constexpr int kWords = 34;  // location and condition
+constexpr int kSymbolGap = 8;  // beside a picture
+constexpr int kWords = 34;     // location and condition
 constexpr int kForecastText = 28;
 constexpr int kForecastIcon = 62;
 constexpr int kPadding = 14;  // inside the card
@@ -28,8 +28,9 @@ constexpr int kGap = 18;
 constexpr int kMostGap = 60;     // where there is room to spare
 constexpr int kMostCard = 1000;  // the width of a card below
 
-// How much larger everything has to come out, in hundredths, for the card to go to the right.
-constexpr int kBroadGain = 110;
+// How much larger everything has to come out, in hundredths, for the card to leave its place below
+// the rest.
+constexpr int kBesideGain = 140;
 
 constexpr int kReferenceHeight = 240;
 constexpr std::size_t kMostLetters = 1000;
@@ -101,11 +102,17 @@ struct Line {
   Size size;
 };
 
-// All of some texts, as large as an area allows, with the card below or, `broad`, at the right.
+enum class CardShape {
+  kHigh,    // below the rest, the parts of a day one below the other
+  kFlat,    // below the rest, the parts of a day side by side
+  kBeside,  // at the right, a flat day below the other
+};
+
+// All of some texts, as large as an area allows.
 class Arrangement {
  public:
-  Arrangement(const Texts& texts, const Rect& area, int dpi, bool broad)
-      : texts_(texts), area_(area), dpi_(dpi), broad_(broad) {
+  Arrangement(const Texts& texts, const Rect& area, int dpi, CardShape shape)
+      : texts_(texts), area_(area), dpi_(dpi), shape_(shape) {
     const int unit =
         LargestHeight(Scaled(kMostUnit, dpi), [this](int candidate) { return SetUnit(candidate); });
     const int least = Scaled(texts.card() ? kLeastUnitWithCard : kLeastUnit, dpi);
@@ -122,15 +129,21 @@ class Arrangement {
   void SetCard();
   void PlaceRow(const Rect& row, WeatherLayout& layout) const;
   void PlaceCard(const Rect& card, WeatherLayout& layout) const;
+  ForecastPlace DayIn(const Rect& slot) const;
 
   int now_height() const { return location_.size.height + row_.height + condition_.size.height; }
+  bool beside() const { return shape_ == CardShape::kBeside; }
+  // What the card takes from the rest.
+  int card_width() const { return beside() ? card_.width + 2 * gap() : 0; }
+  int card_height() const { return beside() || !texts_.card() ? 0 : card_.height + gap(); }
   int gap() const { return Part(unit_, kGap); }
+  int symbol_gap() const { return Part(unit_, kSymbolGap); }
   int symbol() const { return Part(unit_, kSymbol); }
 
   const Texts& texts_;
   Rect area_;
   int dpi_;
-  bool broad_;
+  CardShape shape_;
   int unit_ = 0;
   Line location_;
   Line condition_;
@@ -138,22 +151,20 @@ class Arrangement {
   Line date_;
   Line temps_;
   int icon_ = 0;
-  Size card_;  // at the least; empty without a forecast
+  Size day_;
+  Size card_;  // at the least, a third of it for each day; empty without a forecast
 };
 
 bool Arrangement::SetUnit(int unit) {
   unit_ = unit;
   SetCard();
-  const int beside = broad_ ? card_.width + 2 * gap() : 0;
-  const int below = broad_ || card_.height == 0 ? 0 : card_.height + gap();
   const Size temperature = texts_.temperature.At(unit);
-  row_ = {symbol() + 2 * Part(unit, kSymbolGap) + temperature.width,
-          std::max(symbol(), temperature.height)};
-  const int width = area_.width() - beside;
+  row_ = {symbol() + 2 * symbol_gap() + temperature.width, std::max(symbol(), temperature.height)};
+  const int width = area_.width() - card_width();
   return SetLine(texts_.location, width, location_) &&
          SetLine(texts_.condition, width, condition_) && row_.width <= width &&
          card_.width <= area_.width() && card_.height <= area_.height() &&
-         now_height() + below <= area_.height();
+         now_height() + card_height() <= area_.height();
 }
 
 // Chooses a font that leaves the line no wider than `width`; false when none can be read.
@@ -174,30 +185,33 @@ void Arrangement::SetCard() {
   date_.size = texts_.date.At(date_.font);
   temps_.size = texts_.temps.At(temps_.font);
   const int padding = 2 * Part(unit_, kPadding);
-  if (broad_) {
-    card_ = {padding + date_.size.width + icon_ + temps_.size.width + 2 * gap(),
-             padding + kDays * std::max({icon_, date_.size.height, temps_.size.height})};
+  const Size& date = date_.size;
+  const Size& temps = temps_.size;
+  if (shape_ == CardShape::kHigh) {
+    day_ = {std::max({date.width, icon_, temps.width}), date.height + icon_ + temps.height};
   } else {
-    card_ = {kDays * (std::max({date_.size.width, icon_, temps_.size.width}) + gap()),
-             padding + date_.size.height + icon_ + temps_.size.height};
+    day_ = {date.width + icon_ + temps.width + 2 * symbol_gap(),
+            std::max({date.height, icon_, temps.height})};
   }
+  card_ = beside() ? Size{padding + day_.width, padding + kDays * day_.height}
+                   : Size{kDays * (day_.width + gap()), padding + day_.height};
 }
 
 WeatherLayout Arrangement::Place() const {
   WeatherLayout layout;
   Rect room = area_;
-  if (broad_) {
+  if (beside()) {
     const int now_width = std::max({row_.width, location_.size.width, condition_.size.width});
-    const int spare = std::max(0, area_.width() - now_width - card_.width - 2 * gap()) / 4;
+    const int width = card_.width + (area_.width() - card_width() - now_width) / 4;
     const int height = std::min(std::max(now_height(), card_.height * 3 / 2), area_.height());
-    room.right -= card_.width + spare + 2 * gap();
-    PlaceCard(RectAt({area_.right - card_.width - spare, area_.top + (area_.height() - height) / 2},
-                     {card_.width + spare, height}),
-              layout);
+    room.right -= width + 2 * gap();
+    PlaceCard(
+        RectAt({area_.right - width, area_.top + (area_.height() - height) / 2}, {width, height}),
+        layout);
   }
-  const bool below = !broad_ && texts_.card();
+  const bool below = texts_.card() && !beside();
   const int blocks = 1 + !texts_.location.text.empty() + below;
-  const int spare = room.height() - now_height() - (below ? card_.height + gap() : 0);
+  const int spare = room.height() - now_height() - card_height();
   const int step = std::min(spare / (blocks + 1), Part(unit_, kMostGap));
   int top = room.top + (spare - (blocks - 1) * step) / 2;
   const auto take = [&](int height) {
@@ -227,8 +241,7 @@ void Arrangement::PlaceRow(const Rect& row, WeatherLayout& layout) const {
     return RectAt({left, row.top + (row.height() - size.height) / 2}, size);
   };
   // Centred is what can be seen; the temperature may end in a blank.
-  const int beside = symbol() + Part(unit_, kSymbolGap);
-  const int seen = beside + texts_.seen_temperature.At(unit_).width;
+  const int seen = symbol() + symbol_gap() + texts_.seen_temperature.At(unit_).width;
   const int left = std::min(row.left + (row.width() - seen) / 2, row.right - row_.width);
   layout.symbol = {part(left, {symbol(), symbol()}), symbol()};
   layout.temperature = {part(left + symbol(), {row_.width - symbol(), row_.height}), unit_};
@@ -237,25 +250,33 @@ void Arrangement::PlaceRow(const Rect& row, WeatherLayout& layout) const {
 void Arrangement::PlaceCard(const Rect& card, WeatherLayout& layout) const {
   layout.pfrFORECAST = card;
   const int padding = Part(unit_, kPadding);
+  const Rect inner{card.left, card.top + padding, card.right, card.bottom - padding};
   for (int i = 0; i < kDays; ++i) {
-    ForecastPlace& day = layout.forecast[static_cast<std::size_t>(i)];
-    if (broad_) {
-      const int height = (card.height() - 2 * padding) / kDays;
-      const Rect row = RectAt({card.left + padding, card.top + padding + i * height},
-                              {card.width() - 2 * padding, height});
-      const int middle = row.left + (row.width() + date_.size.width - temps_.size.width) / 2;
-      day.date = {{row.left, row.top, row.left + date_.size.width, row.bottom}, date_.font};
-      day.icon = {{middle - icon_ / 2, row.top, middle - icon_ / 2 + icon_, row.bottom}, icon_};
-      day.temps = {{row.right - temps_.size.width, row.top, row.right, row.bottom}, temps_.font};
+    Rect slot = inner;
+    if (beside()) {
+      slot.top = inner.top + inner.height() * i / kDays;
+      slot.bottom = inner.top + inner.height() * (i + 1) / kDays;
     } else {
-      const int left = card.left + card.width() * i / kDays;
-      const int right = card.left + card.width() * (i + 1) / kDays;
-      const int icon_top = card.top + padding + date_.size.height;
-      day.date = {{left, card.top + padding, right, icon_top}, date_.font};
-      day.icon = {{left, icon_top, right, icon_top + icon_}, icon_};
-      day.temps = {{left, icon_top + icon_, right, card.bottom - padding}, temps_.font};
+      slot.left = inner.left + inner.width() * i / kDays;
+      slot.right = inner.left + inner.width() * (i + 1) / kDays;
     }
+    layout.forecast[static_cast<std::size_t>(i)] = DayIn(slot);
   }
+}
+
+ForecastPlace Arrangement::DayIn(const Rect& slot) const {
+  if (shape_ == CardShape::kHigh) {
+    const int icon_top = slot.top + date_.size.height;
+    return {{{slot.left, slot.top, slot.right, icon_top}, date_.font},
+            {{slot.left, icon_top, slot.right, icon_top + icon_}, icon_},
+            {{slot.left, icon_top + icon_, slot.right, slot.bottom}, temps_.font}};
+  }
+  const int date_left = slot.left + (slot.width() - day_.width) / 2;
+  const int icon_left = date_left + date_.size.width + symbol_gap();
+  const int temps_left = icon_left + icon_ + symbol_gap();
+  return {{{date_left, slot.top, icon_left - symbol_gap(), slot.bottom}, date_.font},
+          {{icon_left, slot.top, icon_left + icon_, slot.bottom}, icon_},
+          {{temps_left, slot.top, temps_left + temps_.size.width, slot.bottom}, temps_.font}};
 }
 
 // Makes the font smaller where the text comes out wider than was reckoned.
@@ -289,12 +310,13 @@ WeatherLayout LayOutWeather(Size panel, int dpi, const WeatherLabels& labels,
            [](Texts&) {}, [](Texts& all) { all.date = all.temps = {}; },
            [](Texts& all) { all.condition = {}; }, [](Texts& all) { all.location = {}; }}) {
     leave_out(texts);
-    const Arrangement stacked(texts, area, dpi, false);
-    const Arrangement broad(texts, area, dpi, texts.card());
-    const bool gains = broad.unit() * 100 > stacked.unit() * kBroadGain;
-    if (stacked.unit() + broad.unit() > 0) {
-      return Fitted((gains ? broad : stacked).Place(), labels, measure);
-    }
+    const Arrangement high(texts, area, dpi, CardShape::kHigh);
+    const Arrangement flat(texts, area, dpi, CardShape::kFlat);
+    const Arrangement beside(texts, area, dpi, CardShape::kBeside);
+    const Arrangement& below = flat.unit() > high.unit() ? flat : high;
+    const bool leaves = texts.card() && beside.unit() * 100 > below.unit() * kBesideGain;
+    const Arrangement& best = leaves ? beside : below;
+    if (best.unit() > 0) return Fitted(best.Place(), labels, measure);
   }
   return {};
 }

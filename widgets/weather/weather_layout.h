@@ -1,5 +1,6 @@
-// Where the weather's labels stand: location, symbol and temperature, condition, and the forecast
-// on a card of its own, one group as large as the panel allows.
+// Where the weather's labels stand: location, symbol and temperature, condition, and below them, or
+// beside them on a very broad panel, the forecast on a card of its own, one group as large as the
+// panel allows.
 #pragma once
 
 #include <array>
@@ -24,7 +25,7 @@ struct WeatherLayout {
   LabelPlace temperature;
   LabelPlace condition;                   // lblDESC
   Rect pfrFORECAST;                       // the card; empty when there is no forecast on it
-  std::array<ForecastPlace, 3> forecast;  // one below the other on a broad panel, else side by side
+  std::array<ForecastPlace, 3> forecast;  // one below the other on a card beside, else side by side
   bool operator==(const WeatherLayout&) const = default;
 };
 
