@@ -28,9 +28,9 @@ constexpr int kGap = 18;
 constexpr int kMostGap = 60;     // where there is room to spare
 constexpr int kMostCard = 1000;  // the width of a card below
 
-// How much larger everything has to come out, in hundredths, for the card to leave its place below
-// the rest.
-constexpr int kBesideGain = 140;
+// How many hundredths of its height an area is wide before the card leaves its place below the
+// rest.
+constexpr int kBroad = 280;
 
 constexpr int kReferenceHeight = 240;
 constexpr std::size_t kMostLetters = 1000;
@@ -305,6 +305,7 @@ WeatherLayout LayOutWeather(Size panel, int dpi, const WeatherLabels& labels,
                             const TextMeasure& measure) {
   const int margin = Scaled(panel.height < Scaled(kLowPanel, dpi) ? kMargin / 2 : kMargin, dpi);
   const Rect area = Inset({0, 0, panel.width, panel.height}, margin);
+  const bool broad = area.width() * 100 > area.height() * kBroad;
   Texts texts = MeasureTexts(labels, area.width(), Scaled(kLeastWords, dpi), measure);
   for (const auto leave_out : std::initializer_list<void (*)(Texts&)>{
            [](Texts&) {}, [](Texts& all) { all.date = all.temps = {}; },
@@ -314,8 +315,8 @@ WeatherLayout LayOutWeather(Size panel, int dpi, const WeatherLabels& labels,
     const Arrangement flat(texts, area, dpi, CardShape::kFlat);
     const Arrangement beside(texts, area, dpi, CardShape::kBeside);
     const Arrangement& below = flat.unit() > high.unit() ? flat : high;
-    const bool leaves = texts.card() && beside.unit() * 100 > below.unit() * kBesideGain;
-    const Arrangement& best = leaves ? beside : below;
+    const bool leaves = broad ? beside.unit() > below.unit() : below.unit() == 0;
+    const Arrangement& best = leaves && texts.card() ? beside : below;
     if (best.unit() > 0) return Fitted(best.Place(), labels, measure);
   }
   return {};
