@@ -51,11 +51,16 @@ TEST(WeatherStatus, AttributionIsThereWhateverTheRoom) {
     }
   }
   EXPECT_EQ(Chosen(failed, Width(L"It broke") + kGap + Width(kShort)).status, L"It broke");
+  const std::wstring failing = L"12:01 \u00B7 failed";
+  const WeatherStatus wordy{L"12:01", false, L"the server took too long", true};
+  EXPECT_EQ(Chosen(wordy, kGap + Width(failing) + Width(kShort)).status, failing);
+  EXPECT_EQ(Chosen(wordy, kGap + Width(L"12:01") + Width(kShort)).status, L"12:01");
   EXPECT_EQ(Chosen(failed, 0), (WeatherStrip{L"", kShort}));
 }
 
 TEST(WeatherStatus, AloneTheStatusMayBeCutOff) {
-  EXPECT_EQ(Chosen({L"12:01", false, L"it broke"}, 5), (WeatherStrip{L"It broke", L""}));
+  EXPECT_EQ(Chosen({L"12:01", false, L"it broke"}, 5), (WeatherStrip{L"12:01", L""}));
+  EXPECT_EQ(Chosen({L"", false, L"it broke"}, 5), (WeatherStrip{L"It broke", L""}));
   EXPECT_EQ(Chosen({L"12:01", false, L""}, 5), (WeatherStrip{L"12:01", L""}));
 }
 

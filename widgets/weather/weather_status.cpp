@@ -22,10 +22,12 @@ std::wstring AsSentence(std::wstring words) {
 std::vector<std::wstring> Wordings(const WeatherStatus& status) {
   const std::wstring news = status.fetching ? L"updating..." : status.failure;
   if (status.updated.empty()) return {AsSentence(news)};
-  const std::wstring age = L"Updated " + status.updated;
-  if (news.empty()) return {age, status.updated};
-  return {age + std::wstring(kBetween) + news, status.updated + std::wstring(kBetween) + news,
-          AsSentence(news)};
+  if (news.empty()) return {L"Updated " + status.updated, status.updated};
+  const std::wstring begun = status.updated + std::wstring(kBetween);
+  std::vector<std::wstring> wordings = {L"Updated " + begun + news, begun + news, AsSentence(news)};
+  if (!status.fetching) wordings.push_back(begun + L"failed");
+  wordings.push_back(status.updated);
+  return wordings;
 }
 
 }  // namespace
