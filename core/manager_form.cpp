@@ -57,7 +57,8 @@ void ManagerForm::DrawPanelButton(const ButtonPainting& painting) {
             std::wstring(1, open ? widget.open_glyph : widget.glyph), style);
   if (!tile.enabled) return;
   style.font.height = parts.star_height;
-  PaintText(ui(), painting.surface, parts.star, std::wstring(1, open ? kStar : kEmptyStar), style);
+  PaintText(ui(), painting.surface, parts.lblSTARRED, std::wstring(1, open ? kStar : kEmptyStar),
+            style);
 }
 
 void ManagerForm::OnControl(int id, int code) {

@@ -62,10 +62,11 @@ TileLayout LayOutTile(Size tile, int dpi) {
   const int star = std::clamp(std::min(tile.height, tile.width) / 5, Scaled(9, dpi),
                               std::max(Scaled(9, dpi), Scaled(28, dpi)));
   layout.star_height = star;
-  layout.star = {tile.width - star - pad, pad - pad / 4, tile.width - pad, pad - pad / 4 + star};
+  layout.lblSTARRED = {tile.width - star - pad, pad - pad / 4, tile.width - pad,
+                       pad - pad / 4 + star};
   const int glyph_bottom = tile.height - (captioned ? caption_line + pad / 2 : 0);
   // On a low tile the star would touch a glyph in the middle.
-  layout.glyph = {0, captioned ? pad : 0, low ? std::max(0, layout.star.left) : tile.width,
+  layout.glyph = {0, captioned ? pad : 0, low ? std::max(0, layout.lblSTARRED.left) : tile.width,
                   glyph_bottom};
   layout.glyph_height =
       std::max(8, std::min(layout.glyph.height() * (captioned ? 78 : 62) / 100, tile.width / 2));

@@ -24,7 +24,7 @@ struct TileLayout {
   int glyph_height = 0;  // of the symbol font
   Rect caption;
   int caption_height = 0;  // of the caption's font
-  Rect star;
+  Rect lblSTARRED;
   int star_height = 0;
 };
 
