@@ -31,6 +31,7 @@ void TextButtons::SetText(int id, std::wstring_view text) {
   const TextButton* button = Find(id);
   if (!button || WindowText(button->handle) == text) return;
   ::SetWindowTextW(button->handle, std::wstring(text).c_str());
+  if (id == hovered_) TellWord(*button);
   Repaint(id);
 }
 
@@ -52,8 +53,12 @@ bool TextButtons::OnMouseOver(HWND control) {
   Repaint(hovered_);
   hovered_ = id;
   Repaint(hovered_);
-  if (found->glyph) tooltip_.Attach(owner_.handle(), control, WindowText(control));
+  TellWord(*found);
   return true;
+}
+
+void TextButtons::TellWord(const TextButton& button) {
+  if (button.glyph) tooltip_.Attach(owner_.handle(), button.handle, WindowText(button.handle));
 }
 
 bool TextButtons::MouseHasLeft() {

@@ -58,6 +58,9 @@ class TextButtons {
   void Repaint(int id) const;
 
  private:
+  // In a tooltip, when the button shows a glyph.
+  void TellWord(const TextButton& button);
+
   Window& owner_;
   std::vector<TextButton> buttons_;
   int hovered_ = 0;
