@@ -1,4 +1,5 @@
 // The part of the application that answers the shared menu commands.
+#include <algorithm>
 #include <optional>
 
 #include "core/application_win.h"
@@ -12,15 +13,16 @@ namespace varnel {
 namespace {
 
 constexpr wchar_t kHelpText[] =
-    L"Drag a widget by its title bar: it comes to rest on a grid.\n"
-    L"Drag its lower right corner to size it.\n\n"
+    L"Drag the title bar to move a widget,\n"
+    L"its lower right corner to size it.\n\n"
     L"Tab, Shift+Tab: go from button to button\n"
     L"Space, Enter: press the button\n"
-    L"Ctrl+arrow: move the widget by one step of the grid\n"
+    L"Ctrl+arrow: move the widget by one step\n"
     L"Ctrl+Shift+arrow: size it by one step\n"
-    L"Shift+F10: open the widget's menu\n"
-    L"Alt+F4: close the widget\n\n"
-    L"Double-click the icon beside the system's clock to bring back the manager.";
+    L"Shift+F10: open its menu\n"
+    L"Alt+F4: close it\n\n"
+    L"A double click on the icon beside the\n"
+    L"system's clock brings back the manager.";
 
 }  // namespace
 
@@ -46,10 +48,11 @@ void Application::OpenDialog(std::wstring_view form) {
     ui_.log.Write(L"no window for " + std::wstring(form));
     return;
   }
-  // Among windows that are kept on top a dialog would otherwise lie beneath the one it belongs to.
-  const LiveForm* current = CurrentForm();
-  ::SetWindowPos(dialog->handle(), current && current->on_top() ? HWND_TOPMOST : HWND_NOTOPMOST, 0,
-                 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+  // A dialog would otherwise lie beneath a window that is kept on top.
+  const bool above =
+      std::ranges::any_of(forms_.all(), [](const auto& entry) { return entry.second->on_top(); });
+  ::SetWindowPos(dialog->handle(), above ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE);
 }
 
 bool Application::HasDialog(std::wstring_view form) const {
