@@ -33,10 +33,6 @@ bool ReadFlag(const Settings& settings, const Setting& setting) {
   return false;
 }
 
-void WriteNumber(Settings& settings, const Setting& setting, long long value) {
-  settings.Write(setting, NumberText(value));
-}
-
 void WriteCheck(Settings& settings, const Setting& setting, bool on) {
   settings.Write(setting, on ? L"1" : L"0");
 }

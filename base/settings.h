@@ -39,7 +39,6 @@ bool ReadCheck(const Settings& settings, const Setting& setting);
 // setting's fallback.
 bool ReadFlag(const Settings& settings, const Setting& setting);
 
-void WriteNumber(Settings& settings, const Setting& setting, long long value);
 void WriteCheck(Settings& settings, const Setting& setting, bool on);  // "1" or "0"
 void WriteFlag(Settings& settings, const Setting& setting, bool on);   // "True" or "False"
 

@@ -92,16 +92,6 @@ bool EndsWithIgnoreCase(std::wstring_view text, std::wstring_view ending) {
          EqualsIgnoreCase(text.substr(text.size() - ending.size()), ending);
 }
 
-std::vector<std::wstring> Split(std::wstring_view text, wchar_t separator) {
-  std::vector<std::wstring> pieces;
-  for (std::size_t start = 0;;) {
-    const std::size_t end = text.find(separator, start);
-    pieces.emplace_back(text.substr(start, end - start));
-    if (end == std::wstring_view::npos) return pieces;
-    start = end + 1;
-  }
-}
-
 std::wstring WideFromUtf8(std::string_view bytes) {
   std::wstring text;
   text.reserve(bytes.size());

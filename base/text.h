@@ -4,7 +4,6 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace varnel {
 
@@ -14,9 +13,6 @@ std::wstring Trim(std::wstring_view text);
 // Compares two texts without regard to the case of A to Z; other letters must be equal.
 bool EqualsIgnoreCase(std::wstring_view left, std::wstring_view right);
 bool EndsWithIgnoreCase(std::wstring_view text, std::wstring_view ending);
-
-// Cuts `text` at every `separator`; always gives at least one piece, which may be empty.
-std::vector<std::wstring> Split(std::wstring_view text, wchar_t separator);
 
 // UTF-8 to text and back. Bytes or units that encode nothing become U+FFFD; never fails.
 std::wstring WideFromUtf8(std::string_view bytes);

@@ -154,9 +154,9 @@ void Application::UpdateCheckDone(const HttpResult& page) {
 
 void Application::SaveEverything() {
   Guarded(L"saving", [this] {
-    manager_.SaveState();
+    manager_.SavePlace();
     for (const auto& widget : widgets_) {
-      if (widget) widget->SaveState();
+      if (widget) widget->SavePlace();
     }
   });
 }

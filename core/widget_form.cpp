@@ -66,19 +66,18 @@ bool WidgetForm::Load() {
 
 void WidgetForm::Unload() {
   if (!handle()) return;
-  SaveState();
+  SavePlace();
   OnUnload();
   services_.forms.Remove(entry_.form_name, *this);
   Destroy();
 }
 
-void WidgetForm::SaveState() {
+void WidgetForm::SavePlace() {
   if (!handle()) return;
   const WindowState state = ::IsIconic(handle())   ? WindowState::kMinimised
                             : ::IsZoomed(handle()) ? WindowState::kMaximised
                                                    : WindowState::kNormal;
   SavePosition(services_.settings, entry_.form_name, state, place_, true);
-  OnSaveState();
 }
 
 void WidgetForm::Show(bool shown) {
@@ -227,7 +226,7 @@ LRESULT WidgetForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
       ::ReleaseCapture();
       return 0;
     case WM_CAPTURECHANGED:
-      if (std::exchange(sizing_, false)) SaveState();
+      if (std::exchange(sizing_, false)) SavePlace();
       return 0;
     case WM_PARENTNOTIFY:
       if (LOWORD(wparam) == WM_LBUTTONDOWN) ShowFocus(KeyboardCuesAlways());

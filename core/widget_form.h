@@ -26,10 +26,9 @@ class WidgetForm : public PaintedWindow, public LiveForm {
 
   // Makes the window, hidden, in its place and theme. False when the system refuses.
   bool Load();
-  // Saves place and settings and removes the window.
+  // Saves the place and removes the window.
   void Unload();
-  // Saves what Unload would, while the form stays.
-  void SaveState();
+  void SavePlace();
   void Show(bool shown);
 
   ThemeRecord& theme() override { return theme_; }
@@ -48,7 +47,6 @@ class WidgetForm : public PaintedWindow, public LiveForm {
   // What a widget adds to the frame. OnLoad makes its controls; OnShown starts what ticks.
   virtual void OnLoad() {}
   virtual void OnUnload() {}
-  virtual void OnSaveState() {}
   // Places the controls on the panel (pixels of the window).
   virtual void LayOutPanel(const Rect&) {}
   // Brings the controls' texts up to date.

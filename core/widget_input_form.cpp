@@ -114,7 +114,7 @@ void WidgetForm::MoveTo(const Place& place) {
 
 void WidgetForm::Settle(const Place& place) {
   MoveTo(place);
-  SaveState();
+  SavePlace();
 }
 
 void WidgetForm::DragSize() {
@@ -134,7 +134,7 @@ void WidgetForm::SetSize(int width, int height) {
   // Exactly as large as asked for, even where that is more than the work area.
   const Screens screens = CurrentScreens();
   PlaceWindow(handle(), PixelsFromPlace(KeepOnScreen(place_, screens), screens));
-  SaveState();
+  SavePlace();
 }
 
 bool WidgetForm::OnKey(const MSG& message) {

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <set>
+#include <sstream>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -120,7 +121,9 @@ void CheckAll(std::string_view input) {
   test::MemoryRegistry registry;
   registry.refused = {Hive::kLocalMachine};
   const std::wstring root = RegistryRoot(L"Test");
-  std::vector<std::wstring> lines = Split(WideFromUtf8(input), L'\n');
+  std::vector<std::wstring> lines;
+  std::istringstream stream{std::string(input)};
+  for (std::string line; std::getline(stream, line);) lines.push_back(WideFromUtf8(line));
   std::size_t taken = 0;
   for (const auto& [section, name] : kValues) {
     if (taken == lines.size()) break;

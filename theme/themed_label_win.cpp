@@ -28,12 +28,6 @@ void ThemedLabel::ScrollTo(std::size_t units) {
   ::InvalidateRect(handle(), nullptr, FALSE);
 }
 
-void ThemedLabel::SetGlyph(wchar_t glyph) {
-  if (glyph == glyph_) return;
-  glyph_ = glyph;
-  ::InvalidateRect(handle(), nullptr, FALSE);
-}
-
 void ThemedLabel::Place(const Rect& box, const TextStyle& style) {
   // What the system would move along may be what a neighbour, not yet moved, has just painted
   // there.
@@ -61,7 +55,7 @@ void ThemedLabel::Paint(Surface& surface) {
   FillRectangle(surface.dc(), area, style_.ground);
   std::wstring text = shown_text_;
   if (first_seen_ > 0) text.replace(0, first_seen_, L"\x2026");
-  PaintText(ui(), surface, area, glyph_ ? std::wstring(1, glyph_) : text, style_);
+  PaintText(ui(), surface, area, text, style_);
 }
 
 }  // namespace varnel

@@ -18,9 +18,6 @@ class ThemedLabel : public PaintedWindow {
   // Paints only what follows the first `units` UTF-16 units, until another text is set: for a text
   // that is too long to be seen whole. The window text stays.
   void ScrollTo(std::size_t units);
-  // A glyph of the symbol font drawn in place of the window text, which stays the label's name for
-  // those who cannot see it.
-  void SetGlyph(wchar_t glyph);
 
   // Places the label (pixels of the parent) and sets how it is painted.
   void Place(const Rect& box, const TextStyle& style);
@@ -32,7 +29,6 @@ class ThemedLabel : public PaintedWindow {
 
   std::wstring shown_text_;
   std::size_t first_seen_ = 0;  // of its units
-  wchar_t glyph_ = 0;
   TextStyle style_;
 };
 

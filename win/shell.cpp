@@ -9,14 +9,6 @@
 #include "win/late_function.h"
 
 namespace varnel {
-namespace {
-
-bool OpenWithShell(HWND owner, const std::wstring& target) {
-  return reinterpret_cast<INT_PTR>(
-             ::ShellExecuteW(owner, L"OPEN", target.c_str(), nullptr, nullptr, SW_SHOWNORMAL)) > 32;
-}
-
-}  // namespace
 
 std::wstring ProgramPath() {
   std::wstring path(MAX_PATH, L'\0');
@@ -40,16 +32,10 @@ std::vector<std::wstring> CommandLineWords() {
   return result;
 }
 
-bool OpenWebPage(HWND owner, const std::wstring& address) {
+void OpenWebPage(HWND owner, const std::wstring& address) {
   const bool web = EqualsIgnoreCase(address.substr(0, 7), L"http://") ||
                    EqualsIgnoreCase(address.substr(0, 8), L"https://");
-  return web && OpenWithShell(owner, address);
-}
-
-bool OpenFolder(HWND owner, const std::wstring& folder) {
-  const DWORD attributes = ::GetFileAttributesW(folder.c_str());
-  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) &&
-         OpenWithShell(owner, folder);
+  if (web) ::ShellExecuteW(owner, L"OPEN", address.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
 }
 
 std::wstring BrowseForFolder(HWND owner, const std::wstring& title) {

@@ -15,11 +15,8 @@ std::wstring ProgramPath();
 std::vector<std::wstring> CommandLineWords();
 
 // Opens an http or https address with the shell's "OPEN" verb in the user's browser; anything else
-// is refused. False when it was refused or failed.
-bool OpenWebPage(HWND owner, const std::wstring& address);
-
-// Shows `folder` in the system's file manager.
-bool OpenFolder(HWND owner, const std::wstring& folder);
+// is refused. Failures are silent.
+void OpenWebPage(HWND owner, const std::wstring& address);
 
 // The system's folder picker; empty when the user cancelled.
 std::wstring BrowseForFolder(HWND owner, const std::wstring& title);
