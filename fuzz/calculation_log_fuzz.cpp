@@ -1,19 +1,14 @@
 // Reads bytes as a log file, changes the log and reads it back: nothing of the old file may be
 // lost, and what was written must be what is shown.
-#include <cstdint>
-#include <cstdlib>
 #include <string>
 
+#include "fuzz/require.h"
 #include "tests/support/memory_files.h"
 #include "widgets/calculator/calculation_log.h"
 
-namespace {
-
 using namespace varnel;
 
-void Require(bool holds) {
-  if (!holds) std::abort();
-}
+namespace {
 
 void RequireSameAfterRestart(const CalculationLog& log, test::MemoryFiles& files,
                              const std::wstring& path) {
@@ -28,7 +23,7 @@ void RequireSameAfterRestart(const CalculationLog& log, test::MemoryFiles& files
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::wstring path = L"C:\\calc2.dat";
   test::MemoryFiles files;
-  files.files[path].assign(reinterpret_cast<const char*>(data), size);
+  files.files[path] = BytesOf(data, size);
   const std::string original = files.files[path];
 
   CalculationLog log(files, path);

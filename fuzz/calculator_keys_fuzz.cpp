@@ -2,22 +2,17 @@
 // pasted or recalled. Whatever comes, display, state and log lines must fit together.
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
-#include <cstdlib>
 #include <string>
 
 #include "base/number_format.h"
+#include "fuzz/require.h"
 #include "widgets/calculator/calculation_log.h"
 #include "widgets/calculator/calculator_engine.h"
 #include "widgets/calculator/pasted_number.h"
 
-namespace {
-
 using namespace varnel;
 
-void Require(bool holds) {
-  if (!holds) std::abort();
-}
+namespace {
 
 void PressAndCheck(CalculatorEngine& engine, CalculatorKey key) {
   const CalculatorState before = engine.state();

@@ -1,12 +1,10 @@
 // Any text as a name: what comes out is one plain part of a path and stays as it is when it is
 // checked again.
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
 #include <string>
 
 #include "base/file_name.h"
 #include "base/text.h"
+#include "fuzz/require.h"
 
 namespace varnel {
 namespace {
@@ -17,13 +15,13 @@ void Check(const std::wstring& typed) {
   const bool plain = !name->empty() && name->size() <= kLongestFileName &&
                      name->find_first_of(L"<>:\"/\\|?*") == std::wstring::npos &&
                      name->front() != L' ' && name->back() != L' ' && name->back() != L'.';
-  if (!plain || typed.find(*name) == std::wstring::npos) std::abort();
+  Require(plain && typed.find(*name) != std::wstring::npos);
   for (const wchar_t unit : *name) {
-    if (unit < 0x20) std::abort();
+    Require(unit >= 0x20);
   }
-  if (SafeFileName(*name) != name) std::abort();
+  Require(SafeFileName(*name) == name);
   for (const wchar_t* device : {L"con", L"prn", L"aux", L"nul"}) {
-    if (EqualsIgnoreCase(name->substr(0, name->find(L'.')), device)) std::abort();
+    Require(!EqualsIgnoreCase(name->substr(0, name->find(L'.')), device));
   }
 }
 
@@ -31,7 +29,7 @@ void Check(const std::wstring& typed) {
 }  // namespace varnel
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const std::string bytes(reinterpret_cast<const char*>(data), size);
+  const std::string bytes(varnel::BytesOf(data, size));
   varnel::Check(varnel::WideFromUtf8(bytes));
   std::wstring units;
   for (std::size_t at = 0; at + 1 < size; at += 2) {

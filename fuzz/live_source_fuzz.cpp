@@ -1,39 +1,31 @@
 // Any answer of the live source: a feed that reads back as weather, or a complaint.
-#include <cstdint>
-#include <cstdlib>
 #include <string>
 
+#include "fuzz/require.h"
 #include "widgets/weather/feed_text.h"
 #include "widgets/weather/live_source.h"
 #include "widgets/weather/weather_feed.h"
 
-namespace {
-
-void Require(bool holds) {
-  if (!holds) std::abort();
-}
-
-}  // namespace
+using namespace varnel;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size == 0) return 0;
   const bool fahrenheit = data[0] % 2 == 1;
-  const varnel::LiveFeed feed =
-      varnel::FeedFromLiveAnswer({reinterpret_cast<const char*>(data) + 1, size - 1},
-                                 {L"1", L"London", L"Ontario"}, fahrenheit);
+  const LiveFeed feed =
+      FeedFromLiveAnswer(BytesOf(data + 1, size - 1), {L"1", L"London", L"Ontario"}, fahrenheit);
   Require(feed.text.empty() != feed.complaint.empty());
   if (feed.text.empty()) {
     Require(feed.complaint.size() < 200 && feed.complaint.find(L'\n') == std::wstring::npos);
     return 0;
   }
-  const std::wstring text = varnel::NormaliseFeed(feed.text);
-  Require(varnel::HoldsWeather(text));
-  varnel::WeatherData weather;
-  const auto labels = varnel::DataFileRead(text, fahrenheit, weather);
+  const std::wstring text = NormaliseFeed(feed.text);
+  Require(HoldsWeather(text));
+  WeatherData weather;
+  const auto labels = DataFileRead(text, fahrenheit, weather);
   Require(labels && labels->location == L"London, Ontario");
   // The temperature is either taken over or said in words, never lost or left to an older one.
   Require(weather.TemperatureF > 0 || labels->temperature == L"-");
-  for (const varnel::ForecastSlot& slot : labels->forecast) {
+  for (const ForecastSlot& slot : labels->forecast) {
     Require(slot.date.size() == 3 && slot.temps.find(L'/') != std::wstring::npos);
     Require(slot.temps.size() <= 9);
   }

@@ -1,10 +1,8 @@
 // Any bytes as a preset file: reading them stays within bounds, completing them takes at most one
 // write, and what was completed is left alone from then on.
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
 #include <string>
 
+#include "fuzz/require.h"
 #include "tests/support/memory_files.h"
 #include "theme/ini_text.h"
 #include "theme/preset.h"
@@ -15,10 +13,6 @@ namespace {
 
 const std::wstring kFolder = L"C:\\themes";
 const std::wstring kName = L"x";
-
-void Require(bool held) {
-  if (!held) std::abort();
-}
 
 void CheckText(const std::string& bytes) {
   auto ini = IniText::FromBytes(bytes);
@@ -56,7 +50,7 @@ void CheckFile(const std::string& bytes) {
 }  // namespace varnel
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const std::string bytes(reinterpret_cast<const char*>(data), size);
+  const std::string bytes(varnel::BytesOf(data, size));
   varnel::CheckText(bytes);
   varnel::CheckFile(bytes);
   return 0;

@@ -1,8 +1,6 @@
 // Each line of the input is one stored value, in the order of kValues ("#" in front: not a text);
 // the lines after them are the words of the command line. Whatever they hold, windows are
 // reachable, folders and addresses are usable, and lists are sound.
-#include <cstdint>
-#include <cstdlib>
 #include <set>
 #include <sstream>
 #include <string>
@@ -21,6 +19,7 @@
 #include "core/start_options.h"
 #include "core/update_check.h"
 #include "core/widget_states.h"
+#include "fuzz/require.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/memory_registry.h"
 
@@ -45,10 +44,6 @@ constexpr std::pair<const wchar_t*, const wchar_t*> kValues[] = {
     {L"history\\Details", L"List 2"},
     {L"history\\Details", L"List 3"},
 };
-
-void Require(bool holds) {
-  if (!holds) std::abort();
-}
 
 class PlainList : public ListControl {
  public:
@@ -148,6 +143,6 @@ void CheckAll(std::string_view input) {
 }  // namespace varnel
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  if (size > 0) varnel::CheckAll({reinterpret_cast<const char*>(data), size});
+  if (size > 0) varnel::CheckAll(varnel::BytesOf(data, size));
   return 0;
 }

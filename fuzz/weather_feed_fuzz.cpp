@@ -1,17 +1,14 @@
 // Any response, through the field rule and the reader. The first byte chooses the scale.
-#include <cstdint>
-#include <cstdlib>
 #include <string>
 
 #include "base/text.h"
+#include "fuzz/require.h"
 #include "widgets/weather/feed_text.h"
 #include "widgets/weather/weather_feed.h"
 
-namespace {
+using namespace varnel;
 
-void Require(bool holds) {
-  if (!holds) std::abort();
-}
+namespace {
 
 std::size_t CountOf(std::wstring_view text, wchar_t unit) {
   std::size_t count = 0;
@@ -24,24 +21,23 @@ std::size_t CountOf(std::wstring_view text, wchar_t unit) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size == 0) return 0;
   const bool fahrenheit = data[0] % 2 == 1;
-  const std::wstring response =
-      varnel::WideFromUtf8({reinterpret_cast<const char*>(data) + 1, size - 1});
-  const std::wstring text = varnel::NormaliseFeed(response);
+  const std::wstring response = WideFromUtf8(BytesOf(data + 1, size - 1));
+  const std::wstring text = NormaliseFeed(response);
   Require(CountOf(text, L',') == 0 && CountOf(text, L'\r') == CountOf(text, L'\n'));
   Require(text.empty() == response.empty() && (text.empty() || text.ends_with(L"\r\n")));
 
-  varnel::WeatherData weather;
+  WeatherData weather;
   weather.TemperatureF = 59;
-  const auto labels = varnel::DataFileRead(text, fahrenheit, weather);
+  const auto labels = DataFileRead(text, fahrenheit, weather);
   Require(labels.has_value() != text.empty());
   if (!labels) return 0;
   Require(weather.TemperatureF > 0 && !weather.ConditionText.empty());
   Require(labels->txtCURRENT.size() <= 1000 && labels->condition == weather.ConditionText);
   Require(labels->symbol >= 0 && labels->symbol <= 99);
-  for (const varnel::ForecastSlot& slot : labels->forecast) {
+  for (const ForecastSlot& slot : labels->forecast) {
     Require(slot.date.size() + slot.temps.size() <= 1001);
   }
-  const auto again = varnel::DataFileRead(text, fahrenheit, weather);
+  const auto again = DataFileRead(text, fahrenheit, weather);
   Require(again && again->txtFINALNOW == labels->txtFINALNOW &&
           again->temperature == labels->temperature);
   return 0;

@@ -12,7 +12,7 @@ import re
 import sys
 from pathlib import PurePosixPath
 
-from sources import ROOT, TEST_ROOMS, find_sources, product_sources, read_source, report
+from sources import AID_ROOMS, ROOT, TEST_ROOMS, find_sources, product_sources, read_source, report
 
 INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*([<"])([^>"]+)[>"]', re.MULTILINE)
 PLATFORM_NAME = re.compile(r"_(form|dialog|win)$")
@@ -105,7 +105,7 @@ def breaches_of(root, paths, own_rule, system_rule):
 def check(root):
     """Returns every breach in the tree below `root`."""
     return breaches_of(root, product_sources(root), own_breach, system_breach) + breaches_of(
-        root, find_sources(root, TEST_ROOMS), test_breach, lambda path, header: None
+        root, find_sources(root, TEST_ROOMS + AID_ROOMS), test_breach, lambda path, header: None
     )
 
 

@@ -5,8 +5,11 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
 PRODUCT_ROOMS = ("base", "win", "core", "theme", "widgets", "resources")
-TEST_ROOMS = ("tests", "fuzz", "bench")
+TEST_ROOMS = ("tests", "fuzz")
+AID_ROOMS = ("bench", "tools", "cmake")
 SUFFIXES = (".cpp", ".h")
+# Whatever somebody has to read and keep right; not data, pictures and prose.
+CODE_SUFFIXES = (*SUFFIXES, ".rc", ".py", ".sh", ".cmake", "CMakeLists.txt")
 
 # Comments, raw strings, strings and characters, whichever begins first. A quote after a digit is a
 # separator of digits, not the start of a character.
@@ -22,20 +25,20 @@ COMMENT_OR_LITERAL = re.compile(
 )
 
 
-def find_sources(root, rooms):
-    """Returns the C++ sources of `rooms`, as sorted paths relative to `root`."""
+def find_sources(root, rooms, suffixes=SUFFIXES):
+    """Returns the C++ sources of `rooms`, or other files, as sorted paths relative to `root`."""
     return sorted(
         path.relative_to(root)
         for room in rooms
         for path in (root / room).rglob("*")
-        if path.suffix in SUFFIXES
+        if path.name.endswith(suffixes)
     )
 
 
-def product_sources(root):
+def product_sources(root, suffixes=SUFFIXES):
     """Returns the sources of the program, with those that stand outside every room."""
-    top = (path.relative_to(root) for path in root.glob("*") if path.suffix in SUFFIXES)
-    return sorted(top) + find_sources(root, PRODUCT_ROOMS)
+    top = (path.relative_to(root) for path in root.glob("*") if path.name.endswith(suffixes))
+    return sorted(top) + find_sources(root, PRODUCT_ROOMS, suffixes)
 
 
 def read_source(path):

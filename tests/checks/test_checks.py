@@ -133,7 +133,7 @@ class SizesTest(TreeTest):
     def breaches(self, path, text):
         """Returns what is found in a tree of one source."""
         self.write(path, text)
-        return check_sizes.check(self.root)[0]
+        return check_sizes.check(self.root)
 
     def test_long_functions_are_found_everywhere(self):
         at_the_limit = "void A() {\n" + body(58) + "}\n"
@@ -156,9 +156,12 @@ class SizesTest(TreeTest):
         self.assertEqual(self.breaches("core/a.cpp", "#define kSize (1 + 2)\n"), [])
 
     def test_the_share_of_tests(self):
-        self.write("base/a.cpp", "\n" * 30)
-        self.write("tests/engine/a_test.cpp", "\n" * 10)
-        self.assertEqual(check_sizes.check(self.root)[1], 25)
+        for path in ("base/a.cpp", "CMakeLists.txt", "tools/a.py", "tests/a_test.cpp", "fuzz/a.sh"):
+            self.write(path, "\n" * 10)
+        self.write("fuzz/corpus/a/seed", "\n" * 10)
+        self.assertEqual(check_sizes.line_counts(self.root), (20, 50))
+        self.assertEqual(check_sizes.share_breaches(20, 60), [])
+        self.assertEqual(len(check_sizes.share_breaches(20, 59)), 1)
 
 
 if __name__ == "__main__":

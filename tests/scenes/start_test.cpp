@@ -42,19 +42,6 @@ TEST_F(Start, FirstRunMakesFoldersAndShowsTheManagerAlone) {
   EXPECT_FALSE(root().settings().Text(kOptions, L"Program Launch"));
 }
 
-TEST_F(Start, DeletedStyleFolderComesBackAnEmptiedOneDoesNot) {
-  StartWithManager();
-  Exit();
-  const std::wstring themes = root().folder() + L"\\themes\\";
-  ASSERT_TRUE(rig::RemoveAll(themes + L"Neon"));
-  for (const std::wstring& name : FilesBelow(themes + L"Dark")) {
-    ASSERT_TRUE(rig::RemoveAll(themes + L"Dark\\" + name));
-  }
-  StartWithManager();
-  EXPECT_EQ(FilesBelow(themes + L"Neon").size(), 14u);
-  EXPECT_TRUE(FilesBelow(themes + L"Dark").empty());
-}
-
 TEST_F(Start, TileOpensAndClosesTheClockAndTheNextStartRemembers) {
   HWND manager = StartWithManager();
   HWND tile = Control(manager, lblNUMBER);
@@ -109,11 +96,6 @@ TEST_F(Start, HiddenStartShowsOnlyTheTrayIcon) {
   EXPECT_TRUE(WaitForForm(program(), L"frmVRNwg"));
 }
 
-TEST_F(Start, TrueIsNotOneForTheHiddenStart) {
-  root().settings().SetText(kOptions, L"Program Minimize on Start", L"True");
-  StartWithManager();
-}
-
 TEST_F(Start, HideAllAndShowAllLastOverARestart) {
   root().settings().SetText(kOptions, L"Start-Load-Clock", L"True");
   root().settings().SetText(kOptions, L"Start-Load-Stopwatch", L"True");
@@ -139,37 +121,26 @@ TEST_F(Start, OptionsDialogStoresAndApplies) {
   root().settings().SetText(kOptions, L"Start-Load-Clock", L"True");
   StartWithManager();
   HWND clock = WaitForForm(program(), L"frmCLKwg");
-  ASSERT_TRUE(ChooseShared(program(), L"mnuDCGENSET"));
-  HWND dialog = WaitForForm(program(), L"frmVRNpr");
-  ASSERT_TRUE(dialog);
-  EXPECT_TRUE(IsChecked(Control(dialog, chkSTARTUP)));
-  EXPECT_FALSE(IsChecked(Control(dialog, chkONTOP)));
-  ASSERT_TRUE(ClickOn(Control(dialog, chkONTOP)));
-  ASSERT_TRUE(ClickOn(Control(dialog, chkSTARTUP)));
-  ASSERT_TRUE(ClickOn(Control(dialog, IDCANCEL)));
-  EXPECT_TRUE(WaitForNoForm(program(), L"frmVRNpr"));
+  const auto choose = [&](std::initializer_list<int> buttons) {
+    EXPECT_TRUE(ChooseShared(program(), L"mnuDCGENSET"));
+    HWND dialog = WaitForForm(program(), L"frmVRNpr");
+    ASSERT_TRUE(dialog);
+    for (const int button : buttons) ASSERT_TRUE(ClickOn(Control(dialog, button)));
+    EXPECT_TRUE(WaitForNoForm(program(), L"frmVRNpr"));
+  };
+  const Registry at_logon(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion");
+  choose({chkONTOP, chkSTARTUP, IDCANCEL});
   EXPECT_EQ(Flag(L"On-Top"), L"");
 
-  ASSERT_TRUE(ChooseShared(program(), L"mnuDCGENSET"));
-  dialog = WaitForForm(program(), L"frmVRNpr");
-  ASSERT_TRUE(ClickOn(Control(dialog, chkONTOP)));
-  ASSERT_TRUE(ClickOn(Control(dialog, chkMINSTART)));
-  ASSERT_TRUE(ClickOn(Control(dialog, IDOK)));
-  EXPECT_TRUE(WaitForNoForm(program(), L"frmVRNpr"));
-  EXPECT_EQ(Flag(L"Program Launch"), L"1");
+  choose({chkONTOP, chkMINSTART, IDOK});
+  EXPECT_EQ(Flag(L"Program Launch"), L"1") << "it is chosen from the start";
   EXPECT_EQ(Flag(L"Program Minimize on Start"), L"1");
   EXPECT_EQ(Flag(L"On-Top"), L"1");
   EXPECT_SOON(IsTopmost(clock));
-  const Registry at_logon(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows\\CurrentVersion");
-  const auto command = at_logon.Text(L"Run", L"Widget Varnel");
-  ASSERT_TRUE(command);
-  EXPECT_TRUE(command->ends_with(L"\\WidgetVarnel.exe"));
+  EXPECT_TRUE(
+      at_logon.Text(L"Run", L"Widget Varnel").value_or(L"").ends_with(L"\\WidgetVarnel.exe"));
 
-  ASSERT_TRUE(ChooseShared(program(), L"mnuDCGENSET"));
-  dialog = WaitForForm(program(), L"frmVRNpr");
-  ASSERT_TRUE(ClickOn(Control(dialog, chkSTARTUP)));
-  ASSERT_TRUE(ClickOn(Control(dialog, IDOK)));
-  EXPECT_TRUE(WaitForNoForm(program(), L"frmVRNpr"));
+  choose({chkSTARTUP, IDOK});
   EXPECT_EQ(at_logon.Text(L"Run", L"Widget Varnel"), L"");
 }
 
@@ -208,18 +179,6 @@ TEST_F(Start, ShellThatStartsAnewGetsTheTrayIconAgain) {
   EXPECT_TRUE(WaitForMenus(program(), 1));
   PressKey(VK_ESCAPE);
   EXPECT_TRUE(WaitForMenus(program(), 0));
-}
-
-TEST_F(Start, KilledWhileSettingsAreWrittenItStartsAgain) {
-  for (int round = 0; round < 5; ++round) {
-    HWND manager = StartWithManager();
-    // Each toggle writes settings; the kill comes somewhere among them.
-    for (int i = 0; i < 2 + round; ++i) Choose(manager, L"mnuDCWIDGETS", 0);
-    program().Kill();
-    const std::wstring flag = Flag(L"Start-Load-Clock");
-    EXPECT_TRUE(flag.empty() || flag == L"True" || flag == L"False") << flag;
-  }
-  StartWithManager();
 }
 
 TEST_F(Start, HostileSettingsKeepEveryWindowReachable) {
