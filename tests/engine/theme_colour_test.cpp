@@ -26,22 +26,6 @@ constexpr Colour Rgb(int red, int green, int blue) {
   return red | green << 8 | blue << 16;
 }
 
-TEST(Blend, WeightsChooseBetweenTheTwo) {
-  const Colour a = Rgb(10, 20, 30);
-  const Colour b = Rgb(110, 220, 130);
-  EXPECT_EQ(Blend(a, b, 255, kSystem), a);
-  EXPECT_EQ(Blend(a, b, 0, kSystem), b);
-  EXPECT_EQ(Blend(a, b, 256, kSystem), a);
-  EXPECT_EQ(Blend(a, b, std::numeric_limits<long long>::max(), kSystem), a);
-  EXPECT_EQ(Blend(kBlack, kWhite, 133, kSystem), Rgb(122, 122, 122));
-}
-
-TEST(Blend, NegativeWeightsLeadAwayAndStopAtTheEnds) {
-  // 100 * -8 / 255 + 200 * 263 / 255 = 203.1; the other two pass 255 and 0
-  EXPECT_EQ(Blend(Rgb(100, 0, 255), Rgb(200, 255, 0), -8, kSystem), Rgb(203, 255, 0));
-  EXPECT_EQ(Blend(kBlack, kWhite, std::numeric_limits<long long>::min(), kSystem), kWhite);
-}
-
 TEST(Blend, SystemColoursAreResolvedFirst) {
   EXPECT_EQ(Translate(SystemColour(13), kSystem), 0xC06010);
   EXPECT_EQ(Blend(SystemColour(8), SystemColour(5), 0, kSystem), kWhite);
@@ -53,13 +37,15 @@ TEST(Blend, SystemColoursAreResolvedFirst) {
 
 TEST(Blend, AgreesWithALongerArithmetic) {
   std::mt19937 random(20241121);
+  constexpr auto kFar = std::numeric_limits<long long>::max();
   for (int round = 0; round < 20000; ++round) {
     const auto a = static_cast<Colour>(random() & 0xFFFFFF);
     const auto b = static_cast<Colour>(random() & 0xFFFFFF);
-    const int weight = static_cast<int>(random() % 700) - 300;
+    const int drawn = static_cast<int>(random() % 700) - 300;
+    const long long weight = drawn == 399 ? kFar : drawn == -300 ? -kFar - 1 : drawn;
     Colour expected = 0;
     for (int shift = 0; shift < 24; shift += 8) {
-      const long double w = std::min(weight, 255);
+      const long double w = std::min(weight, 255LL);
       const long double mixed =
           ((a >> shift & 0xFF) * w + (b >> shift & 0xFF) * (255 - w)) / 255.0L;
       expected |= static_cast<Colour>(std::clamp(std::nearbyint(mixed), 0.0L, 255.0L)) << shift;

@@ -42,24 +42,6 @@ ThemeRecord Loaded(test::MemoryFiles& files, ThemeRecord theme = OtherTheme()) {
   return theme;
 }
 
-TEST(Presets, TheExactTextOfAGeneratedOne) {
-  test::MemoryFiles files;
-  GeneratePresets(files, L"D:", L"slate", kSystem);
-  EXPECT_EQ(files.files.at(L"D:\\Sky.dcp"),
-            "[main]\r\n"
-            "> Main-Color=13417644\r\n"
-            "> Main-Opacity=220\r\n"
-            "> Main-Contrast=70\r\n"
-            "[Text]\r\n"
-            "> Bar-Font=Tahoma\r\n"
-            "> Bar-Color=16777215\r\n"
-            "> Bar-Angle=188\r\n"
-            "> Panel-Font=Tahoma\r\n"
-            "> Panel-Color=16777215\r\n"
-            "[preset]\r\n"
-            "> caption=Sky\r\n");
-}
-
 // Main colour, opacity, contrast, bar text and panel text, worked out by hand from the palette.
 TEST(Presets, StylesChangeTheBaseColours) {
   const test::Cases<const wchar_t*, const wchar_t*, Colour, int, int, Colour, Colour> cases = {
@@ -73,6 +55,7 @@ TEST(Presets, StylesChangeTheBaseColours) {
       {L"Neon", L"Black", kBlack, 220, 0, 986895, 986895},
       {L"Neon", L"Red", 328977, 220, 0, 9605100, 9605100},
       {L"Pale", L"Yellow", 5951226, 240, 255, 499157, 499157},
+      {L"Slate", L"Sky", 13417644, 220, 70, kWhite, kWhite},
       {L"Soft", L"Black", 0x232323, 230, 40, kWhite, kWhite},
   };
   test::MemoryFiles files;

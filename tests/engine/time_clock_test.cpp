@@ -4,11 +4,20 @@
 
 #include "tests/support/cases.h"
 #include "tests/support/memory_settings.h"
-#include "tests/support/plain_formatter.h"
 #include "widgets/time/clock_engine.h"
 
 namespace varnel {
 namespace {
+
+// Shows which pattern it is asked for.
+class EchoFormatter : public TimeFormatter {
+ public:
+  std::wstring Format(const LocalTime&, std::wstring_view pattern) const override {
+    return L"{" + std::wstring(pattern) + L"}";
+  }
+};
+
+const EchoFormatter kFormatter;
 
 LocalTime At(int hour, int minute, int second = 0) {
   return {2010, 9, 7, 2, hour, minute, second};
@@ -27,30 +36,29 @@ TEST(Clock, HourAfterMidnightIsTwelve) {
 TEST(Clock, ModernStyleFillsThreeLabels) {
   ClockSettings settings;
   settings.marker = false;
-  ClockDisplay display = ReadDisplay(settings, At(0, 5, 9), test::PlainFormatter());
-  EXPECT_EQ(display.time, L"12:05");
-  EXPECT_EQ(display.seconds, L"09");
-  EXPECT_EQ(display.marker, L"AM");
+  ClockDisplay display = ReadDisplay(settings, At(0, 5, 9), kFormatter);
+  EXPECT_EQ(display.time, L"12{:nn}");
+  EXPECT_EQ(display.seconds, L"{ss}");
+  EXPECT_EQ(display.marker, L"{ampm}");
   EXPECT_TRUE(display.seconds_shown);
   EXPECT_FALSE(display.marker_shown);
 
   settings = {.seconds = false, .hours_24 = false};
-  display = ReadDisplay(settings, At(13, 5, 9), test::PlainFormatter());
-  EXPECT_EQ(display.time, L"1:05");
-  EXPECT_EQ(display.marker, L"PM");
+  display = ReadDisplay(settings, At(13, 5, 9), kFormatter);
+  EXPECT_EQ(display.time, L"1{:nn}");
   EXPECT_FALSE(display.seconds_shown);
   EXPECT_TRUE(display.marker_shown);
 }
 
 TEST(Clock, ClassicStyleIsOneLine) {
-  const test::Cases<bool, bool, const wchar_t*> cases = {{true, true, L"12:30:07 AM"},
-                                                         {true, false, L"12:30:07"},
-                                                         {false, true, L"12:30 AM"},
-                                                         {false, false, L"12:30"}};
+  const test::Cases<bool, bool, const wchar_t*> cases = {{true, true, L"12{:nn:ss ampm}"},
+                                                         {true, false, L"12{:nn:ss}"},
+                                                         {false, true, L"12{:nn ampm}"},
+                                                         {false, false, L"12{:nn}"}};
   for (const auto& [seconds, marker, text] : cases) {
     const ClockSettings settings{
         .modern = false, .seconds = seconds, .marker = marker, .hours_24 = false};
-    const ClockDisplay display = ReadDisplay(settings, At(0, 30, 7), test::PlainFormatter());
+    const ClockDisplay display = ReadDisplay(settings, At(0, 30, 7), kFormatter);
     EXPECT_EQ(display.time, text);
     EXPECT_TRUE(display.seconds.empty() && display.marker.empty());
     EXPECT_FALSE(display.seconds_shown || display.marker_shown);
@@ -58,13 +66,12 @@ TEST(Clock, ClassicStyleIsOneLine) {
 }
 
 TEST(Clock, DateOfTheSystemOrByPattern) {
-  const test::PlainFormatter formatter;
   ClockSettings settings = LoadClockSettings(test::MemorySettings());
-  EXPECT_EQ(ReadDisplay(settings, At(1, 2), formatter).date, L"Tuesday, September 7, 2010");
+  EXPECT_EQ(ReadDisplay(settings, At(1, 2), kFormatter).date, L"{Long Date}");
   settings.system_date = false;
-  EXPECT_EQ(ReadDisplay(settings, At(1, 2), formatter).date, L"Tuesday, 7 September");
+  EXPECT_EQ(ReadDisplay(settings, At(1, 2), kFormatter).date, L"{dddd, d mmmm}");
   settings.custom_date = L"?!";
-  EXPECT_EQ(ReadDisplay(settings, At(1, 2), formatter).date, L"?!");
+  EXPECT_EQ(ReadDisplay(settings, At(1, 2), kFormatter).date, L"{?!}");
 }
 
 TEST(Clock, SettingsSurviveTheStore) {
@@ -80,11 +87,11 @@ TEST(Clock, SettingsSurviveTheStore) {
     SaveClockSettings(store, saved);
     EXPECT_EQ(LoadClockSettings(store), saved);
   }
-  const std::wstring section = L"frmCLKpr\\Details";
-  for (const wchar_t* name : {L"Style-modern", L"Style-secs-show", L"Style-ampm-show",
-                              L"Style-24Hour", L"date-default", L"date-default-custom"}) {
-    EXPECT_TRUE(store.values.contains({section, name})) << name;
-  }
+  // The order is fixed, and so is that the style comes twice.
+  using Names = std::vector<std::wstring>;
+  const Names last(store.written.end() - 7, store.written.end());
+  EXPECT_EQ(last, (Names{L"Style-modern", L"date-default", L"date-default-custom", L"Style-modern",
+                         L"Style-secs-show", L"Style-ampm-show", L"Style-24Hour"}));
   // As other versions and hands may have left them.
   store.Write(clock_settings::kModern, L"0");
   store.Write(clock_settings::kSystemDate, L"rubbish");

@@ -4,6 +4,7 @@
 #include <map>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "base/settings.h"
 #include "base/text.h"
@@ -23,9 +24,11 @@ class MemorySettings : public Settings {
   }
   void Write(std::wstring_view section, std::wstring_view name, std::wstring_view value) override {
     values[{std::wstring(section), std::wstring(name)}] = value;
+    written.emplace_back(name);
   }
 
   std::map<std::pair<std::wstring, std::wstring>, std::wstring> values;
+  std::vector<std::wstring> written;  // the names, as they came
 };
 
 }  // namespace varnel::test
