@@ -78,12 +78,6 @@ TEST(SharedMenu, ShowsTheStateAndGreysWhatCannotBeDone) {
   EXPECT_TRUE(Find(menu, L"mnuDCSETTINGS")->enabled);
 }
 
-TEST(SharedMenu, CaptionsOfTheManagerItems) {
-  const auto menu = BuildSharedMenu({});
-  EXPECT_EQ(Find(menu, L"mnuDCMANAGER")->caption, L"Show &Varnel");
-  EXPECT_EQ(Find(menu, L"mnuDCMANAGERHIDE")->caption, L"Hide to T&ray");
-}
-
 TEST(CommandIds, ArrayElementsAreFoundAgain) {
   for (int i = 0; i < 8; ++i) {
     EXPECT_EQ(ArrayCommandIndex(L"mnuDCWIDGETS", 8, ArrayCommandId(L"mnuDCWIDGETS", i)), i);

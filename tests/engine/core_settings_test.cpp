@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -11,7 +9,6 @@
 #include "core/settings_store.h"
 #include "core/start_options.h"
 #include "tests/support/cases.h"
-#include "tests/support/garbage_values.h"
 #include "tests/support/memory_registry.h"
 
 namespace varnel {

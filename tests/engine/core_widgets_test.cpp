@@ -11,7 +11,6 @@
 #include "core/widget_index.h"
 #include "core/widget_states.h"
 #include "tests/support/cases.h"
-#include "tests/support/garbage_values.h"
 #include "tests/support/memory_settings.h"
 
 namespace varnel {
@@ -96,16 +95,6 @@ std::set<int> FlaggedWidgets(const Settings& settings) {
     if (settings.Read(kStartLoad[i]) == L"True") flagged.insert(i);
   }
   return flagged;
-}
-
-TEST(WidgetStates, FirstStartOpensNothing) {
-  test::MemorySettings settings;
-  FakeWindows windows;
-  WidgetStates states(settings, windows);
-  states.StartUp();
-  EXPECT_EQ(states.OpenCount(), 0);
-  EXPECT_TRUE(windows.order.empty());
-  EXPECT_EQ(settings.Read(kShowOrHide), L"Show");
 }
 
 TEST(WidgetStates, StartUpLoadsInIndexOrderAndShowsUnlessHidden) {

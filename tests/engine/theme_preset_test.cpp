@@ -5,7 +5,6 @@
 #include "base/text.h"
 #include "tests/support/cases.h"
 #include "tests/support/fixed_system_colours.h"
-#include "tests/support/garbage_values.h"
 #include "tests/support/memory_files.h"
 #include "theme/preset.h"
 #include "theme/preset_file.h"

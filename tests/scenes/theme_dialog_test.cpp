@@ -27,8 +27,6 @@ class ThemeDialogScene : public Scene {
     const Registry& settings = root().settings();
     settings.SetText(L"frmVRNpr\\Details", L"Start-Load-Clock", L"True");
     settings.SetText(L"frmVRNpr\\Details", L"Start-Load-Stopwatch", L"True");
-    // Nobody answers there: pages and the update check fail at once.
-    settings.SetText(L"Settings\\Details", L"Web Address", L"http://127.0.0.1:9/");
     Start();
   }
   void Start() {
