@@ -21,6 +21,11 @@ class FileStore {
   // the program ends, the file holds the old or the new content. False when the old one stayed.
   virtual bool Replace(const std::wstring& path, std::string_view bytes) = 0;
 
+  // Adds `bytes` at the end of the file, which must have `size` bytes. Where that fails, and where
+  // the program ends meanwhile, a first part of them may stand there. False when not all do, and
+  // when the file is missing or of another size.
+  virtual bool Append(const std::wstring& path, std::size_t size, std::string_view bytes) = 0;
+
   virtual bool FileExists(const std::wstring& path) const = 0;
   virtual bool FolderExists(const std::wstring& path) const = 0;
   // Creates the folder and every missing one above it. True when it exists afterwards.

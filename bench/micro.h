@@ -9,24 +9,36 @@
 
 namespace varnel::bench {
 
+// The seconds that one call of `step` takes, this once.
+template <class Step>
+double TimeOf(Step step) {
+  const auto start = std::chrono::steady_clock::now();
+  step();
+  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+// Of at least one value.
+inline double Median(std::vector<double> values) {
+  std::ranges::nth_element(values, values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2));
+  return values[values.size() / 2];
+}
+
 // The seconds that one call of `step` takes: the median of several stretches, each of many calls.
 template <class Step>
 double SecondsFor(Step step) {
-  using Clock = std::chrono::steady_clock;
   constexpr int kStretches = 7;
   constexpr double kStretch = 0.03;  // seconds
   const auto stretch = [&step](long long calls) {
-    const auto start = Clock::now();
-    for (long long i = 0; i < calls; ++i) step();
-    return std::chrono::duration<double>(Clock::now() - start).count();
+    return TimeOf([&] {
+      for (long long i = 0; i < calls; ++i) step();
+    });
   };
   long long calls = 1;
   while (stretch(calls) < kStretch) calls *= 2;
   std::vector<double> seconds;
   for (int i = 0; i < kStretches; ++i)
     seconds.push_back(stretch(calls) / static_cast<double>(calls));
-  std::ranges::nth_element(seconds, seconds.begin() + kStretches / 2);
-  return seconds[kStretches / 2];
+  return Median(seconds);
 }
 
 // Keeps a result from being computed away.

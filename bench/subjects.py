@@ -23,6 +23,7 @@ NOWHERE = {
     r"Settings\Details": {"Web Address": "http://127.0.0.1:9/"},
     r"frmWTHpr\Details": {"Live Weather Address": "http://127.0.0.1:9/"},
 }
+LONG_LOG = "".join(f'"{i} * 3 = {i * 3}.0"\r\n' for i in range(10_000)).encode()
 ALL_WIDGETS = ("Clock", "Calc", "Calendar", "Notes", "Stopwatch", "Timer", "Whiteboard", "Weather")
 
 
@@ -108,5 +109,7 @@ SUBJECTS = (
         settings={r"frmCDNwg\Details": {"Timer-Interval-hrs": "10"}},
         presses=(("frmSTWwg", "lblStartfrmSTWwg"), ("frmCDNwg", "lblStart")),
     ),
+    Subject("calculator, empty log", windows=2, widgets=("Calc",)),
+    Subject("calculator, long log", windows=2, widgets=("Calc",), files={"calc2.dat": LONG_LOG}),
     Subject("all widgets", windows=6, widgets=ALL_WIDGETS),
 )

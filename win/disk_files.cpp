@@ -22,15 +22,22 @@ DWORD Attributes(const std::wstring& path) {
   return ::GetFileAttributesW(path.c_str());
 }
 
-bool WriteWhole(const std::wstring& path, std::string_view bytes) {
-  const UniqueFile file(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
-                                      FILE_ATTRIBUTE_NORMAL, nullptr));
-  if (!file) return false;
+UniqueFile OpenToWrite(const std::wstring& path, DWORD disposition) {
+  return UniqueFile(::CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
+                                  disposition, FILE_ATTRIBUTE_NORMAL, nullptr));
+}
+
+bool WriteOut(const UniqueFile& file, std::string_view bytes) {
   DWORD written = 0;
   // A full disk can answer with success and a short count.
   return ::WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written,
                      nullptr) &&
          written == bytes.size() && ::FlushFileBuffers(file.get());
+}
+
+bool WriteWhole(const std::wstring& path, std::string_view bytes) {
+  const UniqueFile file = OpenToWrite(path, CREATE_ALWAYS);
+  return file && WriteOut(file, bytes);
 }
 
 bool MoveOver(const std::wstring& from, const std::wstring& to) {
@@ -73,6 +80,20 @@ bool DiskFiles::Replace(const std::wstring& path, std::string_view bytes) {
   const std::wstring fresh = path + L".new";
   if (WriteWhole(fresh, bytes) && MoveOver(fresh, path)) return true;
   ::DeleteFileW(fresh.c_str());
+  return false;
+}
+
+bool DiskFiles::Append(const std::wstring& path, std::size_t size, std::string_view bytes) {
+  if (bytes.size() > MAXLONG) return false;
+  const UniqueFile file = OpenToWrite(path, OPEN_EXISTING);
+  LARGE_INTEGER end = {};
+  if (!file || !::SetFilePointerEx(file.get(), {}, &end, FILE_END) ||
+      static_cast<unsigned long long>(end.QuadPart) != size) {
+    return false;
+  }
+  if (WriteOut(file, bytes)) return true;
+  ::SetFilePointerEx(file.get(), end, nullptr, FILE_BEGIN);
+  ::SetEndOfFile(file.get());
   return false;
 }
 

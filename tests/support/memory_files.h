@@ -26,6 +26,13 @@ class MemoryFiles : public FileStore {
     ++writes;
     return true;
   }
+  bool Append(const std::wstring& path, std::size_t size, std::string_view bytes) override {
+    const auto found = files.find(path);
+    if (fail_writes || found == files.end() || found->second.size() != size) return false;
+    found->second += bytes;
+    ++writes;
+    return true;
+  }
   bool FileExists(const std::wstring& path) const override { return files.contains(path); }
   bool FolderExists(const std::wstring& path) const override {
     return folders.contains(Bare(path));

@@ -105,13 +105,18 @@ TEST(DiskFiles, ReplacesWholeOrNotAtAll) {
   ASSERT_TRUE(files.Replace(path, std::string("t\0wo", 4)));
   EXPECT_EQ(files.Read(path, 4), std::string("t\0wo", 4));
   EXPECT_FALSE(files.Read(path, 3)) << "larger than allowed";
+  EXPECT_FALSE(files.Append(folder + L"none.txt", 0, "lost"));
+  EXPECT_FALSE(files.Append(path, 3, "lost")) << "it has grown meanwhile";
+  EXPECT_TRUE(files.Append(path, 4, " and more"));
+  EXPECT_EQ(files.Read(path, 13), std::string("t\0wo and more", 13));
 
   // Held by somebody who lets nobody write: the old content stays, nothing is left beside it.
   HANDLE held = ::CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
                               0, nullptr);
   EXPECT_FALSE(files.Replace(path, "three"));
+  EXPECT_FALSE(files.Append(path, 13, "lost"));
   ::CloseHandle(held);
-  EXPECT_EQ(files.Read(path, 100), std::string("t\0wo", 4));
+  EXPECT_EQ(files.Read(path, 100), std::string("t\0wo and more", 13));
   EXPECT_EQ(files.FileNames(folder, L"").size(), 1u);
 
   EXPECT_EQ(files.FileNames(folder, L".TXT"), std::vector<std::wstring>{L"note.txt"});

@@ -28,7 +28,7 @@ std::optional<std::wstring> RecalledText(std::wstring_view line) {
 }
 
 void CalculationLog::Load() {
-  whole_ = ListLoadFromFile(lines_, files_, path_);
+  file_ = ListLoadFromFile(lines_, files_, path_);
   saved_ = true;
   keys_.resize(lines_.count());
   std::iota(keys_.begin(), keys_.end(), std::size_t{0});
@@ -37,11 +37,13 @@ void CalculationLog::Load() {
 bool CalculationLog::Append(std::wstring_view line) {
   const std::size_t key = lines_.count();
   const bool added = std::ranges::find(keys_, key) == keys_.end();
+  const std::size_t former_size = lines_.bytes().size();
   if (added) {
     lines_.Add(line);
     keys_.push_back(key);
   }
-  Save();
+  const std::string_view record = lines_.bytes().substr(former_size);
+  if (file_ != FileState::kSame || !files_.Append(path_, former_size, record)) Save();
   return added;
 }
 
@@ -64,8 +66,10 @@ void CalculationLog::Clear() {
 }
 
 void CalculationLog::Save() {
-  whole_ = whole_ || MoveFileAside();
-  saved_ = whole_ && ListSaveToFile(lines_, files_, path_);
+  saved_ = false;
+  if (file_ == FileState::kMore && !MoveFileAside()) return;
+  saved_ = ListSaveToFile(lines_, files_, path_);
+  file_ = saved_ ? FileState::kSame : FileState::kWhole;
 }
 
 bool CalculationLog::MoveFileAside() {

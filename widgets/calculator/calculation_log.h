@@ -20,11 +20,12 @@ std::wstring CalculationLine(double first, wchar_t sign, double second, std::wst
 // has none.
 std::optional<std::wstring> RecalledText(std::wstring_view line);
 
-// Every change is written to the file at once; where that fails the lines stay in the list and the
-// next change writes them too. A file that could not be taken over whole is never overwritten:
-// before the first change is written it is moved aside, to its own name followed by ".old", or
-// ".old2" to
-// ".old99" where that is taken. Where that fails nothing is written.
+// Every change is written to the file at once: a new line at its end, as long as the file has the
+// other lines and nothing else, any other change by replacing the file. Where that fails the lines
+// stay in the list and the next change writes them too. A file that could not be taken over whole
+// is never overwritten: before the first change is written it is moved aside, to its own name
+// followed by ".old", or ".old2" to ".old99" where that is taken. Where that fails nothing is
+// written.
 class CalculationLog {
  public:
   // `files` must outlive the log; `path` is the file's.
@@ -60,7 +61,7 @@ class CalculationLog {
   std::wstring path_;
   RecordList lines_;
   std::vector<std::size_t> keys_;  // the numbers of the keys, one for each line
-  bool whole_ = true;              // the list has all that the file has
+  FileState file_ = FileState::kWhole;
   bool saved_ = true;
 };
 

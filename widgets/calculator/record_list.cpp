@@ -75,7 +75,8 @@ bool RecordList::Parse(std::string_view file) {
   while (!file.empty()) {
     const auto end = std::ranges::find_if(file, IsLineEnd);
     const auto length = static_cast<std::size_t>(end - file.begin());
-    whole = TakeLine(file.substr(0, length)) && whole;
+    const bool cut = end == file.end() && file.starts_with('"') && !file.ends_with('"');
+    whole = !cut && TakeLine(file.substr(0, length)) && whole;
     file.remove_prefix(std::min(length + 1, file.size()));
   }
   return whole;
@@ -85,10 +86,14 @@ bool ListSaveToFile(const RecordList& list, FileStore& files, const std::wstring
   return files.Replace(path, list.bytes());
 }
 
-bool ListLoadFromFile(RecordList& list, const FileStore& files, const std::wstring& path) {
-  if (const auto content = files.Read(path, kLargestFile)) return list.Parse(*content);
-  list.Clear();
-  return !files.FileExists(path);
+FileState ListLoadFromFile(RecordList& list, const FileStore& files, const std::wstring& path) {
+  const auto content = files.Read(path, kLargestFile);
+  if (!content) {
+    list.Clear();
+    return files.FileExists(path) ? FileState::kMore : FileState::kWhole;
+  }
+  if (!list.Parse(*content)) return FileState::kMore;
+  return *content == list.bytes() ? FileState::kSame : FileState::kWhole;
 }
 
 }  // namespace varnel

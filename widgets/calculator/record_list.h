@@ -24,8 +24,9 @@ class RecordList {
   void Clear();
   // Takes the records of a file, given whole, in place of the present texts: every line that is not
   // empty, without the quote before it and the one after it, where they are there. Left out are
-  // lines of more than 1,000 bytes, lines with control characters other than tabs, and what follows
-  // the first 5,000,000 records. True when nothing had to be left out.
+  // lines of more than 1,000 bytes, lines with control characters other than tabs, what follows the
+  // first 5,000,000 records, and a record at the end that was cut before its second quote. True
+  // when nothing had to be left out.
   bool Parse(std::string_view file);
   // The whole file.
   std::string_view bytes() const { return bytes_; }
@@ -43,9 +44,15 @@ class RecordList {
 // be written and holds what it held before.
 bool ListSaveToFile(const RecordList& list, FileStore& files, const std::wstring& path);
 
+// What a file holds, compared with the list that was read from it.
+enum class FileState {
+  kSame,   // just what the list would be saved as
+  kWhole,  // nothing but what is in the list
+  kMore,   // more than is in the list
+};
+
 // Takes the file's records, as Parse does, in place of the present items. A file of more than 64
-// MB, or one that cannot be read, is left out whole. True when nothing had to be left out; a
-// missing file gives an empty list and true.
-bool ListLoadFromFile(RecordList& list, const FileStore& files, const std::wstring& path);
+// MB, or one that cannot be read, is left out whole; a missing file gives an empty list.
+FileState ListLoadFromFile(RecordList& list, const FileStore& files, const std::wstring& path);
 
 }  // namespace varnel
