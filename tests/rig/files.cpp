@@ -5,8 +5,10 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
+#include <limits>
 #include <system_error>
+
+#include "win/disk_files.h"
 
 namespace varnel::rig {
 
@@ -54,9 +56,8 @@ std::vector<std::wstring> FoldersIn(const std::wstring& folder) {
 }
 
 std::optional<std::string> FileBytes(const std::wstring& path) {
-  std::ifstream file(fs::path(path), std::ios::binary);
-  if (!file) return std::nullopt;
-  return std::string(std::istreambuf_iterator<char>(file), {});
+  // So that it can be replaced meanwhile.
+  return DiskFiles().Read(path, std::numeric_limits<std::size_t>::max());
 }
 
 bool WriteBytes(const std::wstring& path, std::string_view bytes) {
