@@ -195,6 +195,15 @@ TEST_F(Calculator, CopiesAndPastes) {
 TEST_F(Calculator, RecallsByClickAndByKey) {
   Start(kThreeSums);
   EXPECT_EQ(List(LVM_GETITEMCOUNT), 3);
+  // The keyboard comes to the newest line, where it can be seen.
+  Press({lblPOINT});
+  const Picture without_focus = StillPictureOf(Part(lvwFILES));
+  PressKey(VK_TAB);
+  PressKey(VK_TAB);
+  EXPECT_SOON(PictureOf(Part(lvwFILES)) != without_focus);
+  PressKey(VK_UP);
+  EXPECT_EQ(Shown(L"21.0"), L"21.0");
+  Press({lblCLEAR});
   ClickLine(1);
   EXPECT_EQ(Shown(L"21.0"), L"21.0");
   PressKey(VK_DOWN);
@@ -232,11 +241,25 @@ TEST_F(Calculator, LogIsShownAndHidden) {
   EXPECT_SOON(!IsShown(Part(lvwFILES)));
   Choose(form_, L"mnuWIDGRESETA", 0);
   EXPECT_SOON(IsShown(Part(lvwFILES)));
+  // A broad one has fewer and higher lines, and the last is still to be seen.
+  const auto set_size = [&](int width, int height) {
+    ::SetWindowPos(form_, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  };
+  set_size(900, 140);
+  EXPECT_SOON(List(LVM_GETCOUNTPERPAGE) < page);
+  EXPECT_EQ(List(LVM_GETTOPINDEX), 300 - List(LVM_GETCOUNTPERPAGE));
+  set_size(500, 350);
 
   // The wheel and the slim bar scroll it.
   const int last_top = WaitUntilStill([&] { return List(LVM_GETTOPINDEX); });
   TurnWheel(CentreOf(Part(lvwFILES)), 2);
   EXPECT_SOON(List(LVM_GETTOPINDEX) == last_top - 6);
+  const Point on_list = CentreOf(Part(lvwFILES));
+  for (int i = 0; i < 4; ++i) {  // a fine wheel
+    const WORD quarter = 0xFFFF & (-WHEEL_DELTA / 4);
+    ::PostMessageW(form_, WM_MOUSEWHEEL, MAKEWPARAM(0, quarter), MAKELPARAM(on_list.x, on_list.y));
+  }
+  EXPECT_SOON(List(LVM_GETTOPINDEX) == last_top - 3);
   const Rect bar = RectOf(ChildOfClass(form_, L"VarnelThumbBar"));
   Drag({bar.left + 3, bar.bottom - 8}, {bar.left + 3, bar.top - 50});
   EXPECT_SOON_EQ(List(LVM_GETTOPINDEX), 0);

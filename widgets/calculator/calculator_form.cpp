@@ -229,7 +229,10 @@ bool CalculatorForm::RunOwnCommand(int id) {
 
 // A turn of the wheel scrolls the number under the pointer, and from anywhere else the log.
 void CalculatorForm::OnWheel(Point at, int turn) {
-  const int steps = -turn * kStepsToANotch / WHEEL_DELTA;
+  // A fine wheel turns by parts of a step.
+  wheel_turn_ += -turn * kStepsToANotch;
+  const int steps = wheel_turn_ / WHEEL_DELTA;
+  wheel_turn_ %= WHEEL_DELTA;
   if (Within(layout().pfrPANEL, places_.box).Contains(at)) {
     ScrollDisplay(steps);
   } else {

@@ -66,6 +66,7 @@ class CalculatorForm : public WidgetForm {  // frmCLCwg
   int key_font_height_ = 0;
   int first_unit_ = 0;        // of the display that is seen
   int units_beyond_ = 0;      // that have no room beside the others
+  int wheel_turn_ = 0;        // not yet a whole step
   bool list_struck_ = false;  // a key that moves in the list is down
   int struck_id_ = 0;         // the button that a key of the keyboard holds down
   ThemedLabel lbl01234567890_;

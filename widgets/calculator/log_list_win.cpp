@@ -10,9 +10,12 @@ namespace {
 
 constexpr std::wstring_view kBeforeResult = L"= ";
 constexpr int kSideRoom = 4;  // at 96 dpi, like the next
-constexpr int kLeastFontHeight = 9;
+constexpr int kLeastFontHeight = 10;
 constexpr int kLeastSumWidth = 28;
 constexpr int kBarWidth = 9;
+// What the list view leaves alone at either end of a line, in pixels on every screen, when it has
+// it painted anew.
+constexpr int kLineMargin = 2;
 
 // The em of the font that makes a line so high that text of `font_height` has room about it.
 int LineFontHeight(int font_height) {
@@ -39,8 +42,8 @@ bool LogList::Load(HWND parent, int id) {
   if (!LoadCommonControls(ICC_LISTVIEW_CLASSES)) return false;
   handle_ = ::CreateWindowExW(
       0, WC_LISTVIEWW, L"Log",
-      WS_CHILD | WS_TABSTOP | LVS_REPORT | LVS_NOCOLUMNHEADER | LVS_OWNERDATA | LVS_SHOWSELALWAYS,
-      0, 0, 0, 0, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
+      WS_CHILD | LVS_REPORT | LVS_NOCOLUMNHEADER | LVS_OWNERDATA | LVS_SHOWSELALWAYS, 0, 0, 0, 0,
+      parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
   if (!handle_) return false;
   ListView_SetExtendedListViewStyle(handle_,
                                     LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP);
@@ -50,6 +53,7 @@ bool LogList::Load(HWND parent, int id) {
 }
 
 void LogList::Place(const Rect& place, const LogListLook& look) {
+  const bool at_end = AtEnd();  // of lines as high as they were until now
   if (look.text.font != look_.text.font || look.text.dpi != look_.text.dpi) {
     FontSpec lines = look.text.font;
     lines.height = LineFontHeight(lines.height);
@@ -60,7 +64,7 @@ void LogList::Place(const Rect& place, const LogListLook& look) {
   look_ = look;
   place_ = place;
   ListView_SetBkColor(handle_, static_cast<COLORREF>(look.text.ground));
-  Arrange();
+  Arrange(at_end);
   ::InvalidateRect(handle_, nullptr, FALSE);
 }
 
@@ -72,9 +76,7 @@ int LogList::LineHeight() const {
 
 // The list view's own scroll bar lies outside the region that is seen; the themed one takes its
 // place.
-void LogList::Arrange() {
-  const ScrollRange before = Range();
-  const bool at_end = before.first + std::max(before.page, 1) >= before.count;
+void LogList::Arrange(bool at_end) {
   const int bar_width = Scaled(kBarWidth, look_.text.dpi);
   Rect lines = place_;
   lines.right = std::max(lines.left, lines.right - bar_width);
@@ -87,7 +89,7 @@ void LogList::Arrange() {
   RECT inside = {};
   ::GetClientRect(handle_, &inside);
   ListView_SetColumnWidth(handle_, 0, std::min(lines.width(), static_cast<int>(inside.right)));
-  if (at_end) ListView_EnsureVisible(handle_, before.count - 1, FALSE);
+  if (at_end) ListView_EnsureVisible(handle_, Range().count - 1, FALSE);
   ::ShowWindow(handle_, lines.empty() ? SW_HIDE : SW_SHOWNA);
   bar_.Place({lines.right, lines.top, place_.right, lines.bottom}, look_.text.ground,
              look_.selected);
@@ -97,6 +99,11 @@ void LogList::Arrange() {
 ScrollRange LogList::Range() const {
   return {ListView_GetTopIndex(handle_), ListView_GetCountPerPage(handle_),
           ListView_GetItemCount(handle_)};
+}
+
+bool LogList::AtEnd() const {
+  const ScrollRange now = Range();
+  return now.first + std::max(now.page, 1) >= now.count;
 }
 
 void LogList::ScrollTo(int line) {
@@ -111,9 +118,16 @@ void LogList::ShowLines(std::size_t count, Line visible) {
   const bool added = former > 0 && static_cast<std::size_t>(former) <= count;
   ListView_SetItemCountEx(handle_, static_cast<int>(count),
                           added ? LVSICF_NOSCROLL | LVSICF_NOINVALIDATEALL : LVSICF_NOSCROLL);
-  if (former == 0) Arrange();
+  if (former == 0) Arrange(true);
+  // Tab does not stop at a list without lines.
+  const LONG_PTR style = ::GetWindowLongPtrW(handle_, GWL_STYLE) & ~LONG_PTR{WS_TABSTOP};
+  ::SetWindowLongPtrW(handle_, GWL_STYLE, count > 0 ? style | WS_TABSTOP : style);
   if (count > 0) {
     ListView_EnsureVisible(handle_, static_cast<int>(std::min(visible, count - 1)), FALSE);
+    // The keyboard is at the newest line until one is chosen.
+    if (ListView_GetSelectedCount(handle_) == 0) {
+      ListView_SetItemState(handle_, static_cast<int>(count) - 1, LVIS_FOCUSED, LVIS_FOCUSED);
+    }
   }
   bar_.SetRange(Range());
 }
@@ -160,6 +174,15 @@ LRESULT LogList::OnNotify(NMHDR& header) {
       if (line >= 0) on_click_(static_cast<Line>(line));
       return 0;
     }
+    case LVN_ITEMCHANGED: {
+      const auto& change = reinterpret_cast<const NMLISTVIEW&>(header);
+      if ((change.uNewState ^ change.uOldState) & LVIS_FOCUSED) Repaint(change.iItem);
+      return 0;
+    }
+    case NM_SETFOCUS:
+    case NM_KILLFOCUS:
+      if (const auto line = Focused()) Repaint(static_cast<int>(*line));
+      return 0;
     case LVN_ODFINDITEMW:
       return -1;  // letters search nothing
     case NM_CUSTOMDRAW: {
@@ -191,35 +214,44 @@ void LogList::DrawLine(HDC dc, Line line) {
   const Rect row{0, 0, bounds.right - bounds.left, bounds.bottom - bounds.top};
   Surface surface({row.width(), row.height()});
   TextStyle style = look_.text;
-  if (ListView_GetItemState(handle_, index, LVIS_SELECTED)) {
-    style.ground = ::GetFocus() == handle_ ? look_.selected : look_.selected_without_focus;
-  }
+  const UINT state = ListView_GetItemState(handle_, index, LVIS_SELECTED | LVIS_FOCUSED);
+  const bool has_focus = ::GetFocus() == handle_;
   FillRectangle(surface.dc(), row, static_cast<COLORREF>(style.ground));
+  const Rect bar{kLineMargin, 0, row.right - kLineMargin, row.bottom};
+  if (state & LVIS_SELECTED) {
+    style.ground = has_focus ? look_.selected : look_.selected_without_focus;
+    FillRectangle(surface.dc(), bar, static_cast<COLORREF>(style.ground));
+  } else if (has_focus && (state & LVIS_FOCUSED)) {
+    FrameRectangle(surface.dc(), bar, kBlack);
+    FrameRectangle(surface.dc(), Inset(bar, 1), kWhite);
+  }
+  PaintLine(surface, row, line_at_(line), style);
+  surface.CopyTo(dc, {static_cast<int>(bounds.left), static_cast<int>(bounds.top)});
+}
 
-  // The results stand in a column at the right: when room is short the sum is cut, not its result.
-  const std::wstring text = line_at_(line);
+// The results stand in a column at the right. A line too long becomes smaller, then its sum is cut,
+// not its result.
+void LogList::PaintLine(Surface& surface, const Rect& row, const std::wstring& text,
+                        TextStyle style) {
   const std::size_t equals = text.find(kBeforeResult);
   const std::size_t result_at =
       equals == std::wstring::npos ? text.size() : equals + kBeforeResult.size();
   style.side_room = Scaled(kSideRoom, style.dpi);
   Rect box = row;
+  const int room = box.width() - 3 * style.side_room;
+  if (TextWidth(surface.dc(), ui_.fonts.Get(style.font), text) > room) {
+    style.font.height = SmallerHeight(text, {room, row.bottom}, style);
+  }
   if (result_at < text.size()) {
     const std::wstring result = text.substr(result_at);
-    const int room = box.width() - 2 * style.side_room;
-    int width = TextWidth(surface.dc(), ui_.fonts.Get(style.font), result);
-    if (width > room) {
-      style.font.height = SmallerHeight(result, {room, row.bottom}, style);
-      width = room;
-    }
     style.align = Align::kRight;
     PaintText(ui_, surface, box, result, style);
-    box.right -= width + style.side_room;
+    box.right -= TextWidth(surface.dc(), ui_.fonts.Get(style.font), result) + style.side_room;
   }
   if (box.width() >= Scaled(kLeastSumWidth, style.dpi)) {
     style.align = Align::kLeft;
     PaintText(ui_, surface, box, text.substr(0, result_at), style);
   }
-  surface.CopyTo(dc, {static_cast<int>(bounds.left), static_cast<int>(bounds.top)});
 }
 
 }  // namespace varnel

@@ -65,9 +65,12 @@ class LogList {
   int LineHeight() const;
   ScrollRange Range() const;
   void ScrollTo(int line);
-  void Arrange();
+  bool AtEnd() const;
+  void Arrange(bool at_end);
   void GiveText(LVITEMW& item) const;
+  void Repaint(int line) { ListView_RedrawItems(handle_, line, line); }
   void DrawLine(HDC dc, Line line);
+  void PaintLine(Surface& surface, const Rect& row, const std::wstring& text, TextStyle style);
 
   Ui& ui_;
   std::function<std::wstring(Line)> line_at_;
