@@ -10,7 +10,7 @@ namespace {
 constexpr int kLeastMargin = 2;
 constexpr int kMargin = 8;
 constexpr int kLeastDisplay = 15;
-constexpr int kSecondaryHeight = 9;
+constexpr int kSecondaryHeight = 6;
 // The least height of display and keys with the secondary line, or with a log beside or below them.
 constexpr int kRoomyKeypad = 150;
 // Rows of less height make way for the broad arrangement; up to the second height they do so where
