@@ -256,29 +256,6 @@ TEST_F(CalculatorLog, EndedAtAnyOperationNothingIsLost) {
   }
 }
 
-TEST_F(CalculatorLog, SurvivesEveryDamagedByteAndEveryCut) {
-  std::string good;
-  for (int i = 0; i < 40; ++i) good += "\"" + std::to_string(i) + " * 3 = 7.0\"\r\n";
-  const auto check = [this](const std::string& content) {
-    files.files.clear();
-    Start(content);
-    const std::size_t count = log.count();
-    log.Append(L"new");
-    const bool aside = files.FileExists(kOldPath) && files.files[kOldPath] == content;
-    // One byte can spoil two lines; everything else is there, or the file was put aside whole.
-    EXPECT_TRUE(aside || count + 1 >= static_cast<std::size_t>(std::ranges::count(content, '\n')));
-    EXPECT_EQ(AfterRestart(), Shown());
-  };
-  for (std::size_t at = 0; at < good.size(); ++at) {
-    check(good.substr(0, at));
-    for (const char byte : {'\0', '\xFF', '\x80', '"', '\n'}) {
-      std::string damaged = good;
-      damaged[at] = byte;
-      check(damaged);
-    }
-  }
-}
-
 TEST_F(CalculatorLog, FiftyMegabytesOfJunk) {
   std::string junk = "\"1 + 1 = 2.0\"\r\n";
   std::mt19937 random(3);

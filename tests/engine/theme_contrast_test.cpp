@@ -5,12 +5,8 @@
 
 #include "tests/support/cases.h"
 #include "tests/support/fixed_system_colours.h"
-#include "tests/support/memory_files.h"
-#include "theme/chrome_colours.h"
 #include "theme/contrast.h"
 #include "theme/gradient.h"
-#include "theme/preset.h"
-#include "theme/preset_generator.h"
 
 namespace varnel {
 namespace {
@@ -67,29 +63,6 @@ TEST(Halo, EveryColourCanBeMadeReadable) {
     ExpectReadable(text, text, text);
     ExpectReadable(text, kNoColour, any());
   }
-}
-
-TEST(Halo, EveryGeneratedPresetIsReadable) {
-  test::MemoryFiles files;
-  EnsureThemeFolders(files, L"C:", kSystem);
-  int presets = 0;
-  for (const std::wstring_view style : kStyleFolders) {
-    const std::wstring folder = StyleFolderPath(L"C:", style);
-    for (const std::wstring& file : files.FileNames(folder, kPresetEnding)) {
-      ThemeRecord theme;
-      LoadPreset(files, folder, file.substr(0, file.size() - kPresetEnding.size()), theme);
-      const ChromeColours chrome = ApplyChrome(theme, kSystem);
-      const Colour main = theme.lngTHEMECOLOR;
-      ExpectReadable(theme.lngTHEMEBARFONTCOLOR, chrome.bar.first, main);
-      ExpectReadable(theme.lngTHEMEPANELFONTCOLOR, chrome.ground, main);
-      for (const auto look : {ButtonLook::kNormal, ButtonLook::kHover, ButtonLook::kPressed}) {
-        const ColourPair button = ButtonColours(theme, look, kSystem);
-        ExpectReadable(theme.lngTHEMEPANELFONTCOLOR, button.first, main);
-      }
-      ++presets;
-    }
-  }
-  EXPECT_EQ(presets, 140);
 }
 
 TEST(Gradient, RunsFromTheFirstColourToTheSecond) {

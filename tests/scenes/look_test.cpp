@@ -6,6 +6,7 @@
 #include "core/core_settings.h"
 #include "core/widget_index.h"
 #include "tests/rig/scene.h"
+#include "tests/support/boxes.h"
 
 namespace varnel {
 namespace {
@@ -33,13 +34,9 @@ void CheckControls(HWND form) {
     if (!IsShown(control) || box.empty() || ::GetParent(control) != form) continue;
     // It hides the bar of the list that it belongs to.
     if (ClassOf(control) == L"VarnelThumbBar") continue;
-    EXPECT_TRUE(inside.Contains({box.left, box.top}) &&
-                inside.Contains({box.right - 1, box.bottom - 1}))
-        << NameOf(control) << " reaches beyond the form";
+    EXPECT_TRUE(test::Inside(box, inside)) << NameOf(control) << " reaches beyond the form";
     for (HWND other : shown) {
-      const Rect rect = RectOf(other);
-      EXPECT_FALSE(box.left < rect.right && rect.left < box.right && box.top < rect.bottom &&
-                   rect.top < box.bottom)
+      EXPECT_FALSE(test::Overlap(box, RectOf(other)))
           << NameOf(control) << " lies on " << NameOf(other);
     }
     shown.push_back(control);
