@@ -147,6 +147,10 @@ void PressKey(WORD key) {
   Chord({key});
 }
 
+void PressKeys(std::initializer_list<WORD> keys) {
+  for (const WORD key : keys) PressKey(key);
+}
+
 void Chord(std::initializer_list<WORD> keys) {
   for (WORD key : keys) SendKey(key, 0);
   for (auto key = std::rbegin(keys); key != std::rend(keys); ++key) SendKey(*key, KEYEVENTF_KEYUP);

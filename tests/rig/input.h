@@ -30,8 +30,9 @@ void Drag(Point from, Point to, int steps = 8);
 // and stays.
 bool ClickOn(HWND window, MouseButton button = MouseButton::kLeft);
 
-// Presses and releases a key by its virtual-key number.
+// Presses and releases a key by its virtual-key number, or several, one after the other.
 void PressKey(WORD key);
+void PressKeys(std::initializer_list<WORD> keys);
 // Holds all but the last key while it presses that: {VK_CONTROL, 'C'}.
 void Chord(std::initializer_list<WORD> keys);
 // Types text of any script; a line end is the Enter key.

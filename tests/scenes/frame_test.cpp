@@ -115,8 +115,7 @@ TEST_F(Frame, KeysMoveAndSizeTheWindowAndWalkTheButtons) {
   EXPECT_SOON(FocusedWindow() == Control(clock_, lablTBARTOP));
   EXPECT_NE(StillPictureOf(Control(clock_, lablTBARTOP)), before)
       << "the focus is to be seen once a key was used";
-  PressKey(VK_TAB);
-  PressKey(VK_TAB);
+  PressKeys({VK_TAB, VK_TAB});
   EXPECT_SOON(FocusedWindow() == Control(clock_, lablTBARTOP + 2));
   PressKey(VK_SPACE);
   EXPECT_TRUE(WaitForNoForm(program(), L"frmCLKwg"));
