@@ -7,25 +7,6 @@
 namespace varnel {
 namespace {
 
-// A high-contrast scheme: yellow on black with a green highlight.
-class ContrastScheme : public SystemColours {
- public:
-  Colour Resolve(int index) const override {
-    switch (index) {
-      case 5:
-      case 15:
-        return kBlack;
-      case 8:
-      case 18:
-        return 0x00FFFF;
-      case 13:
-        return 0x008000;
-      default:
-        return kNoColour;
-    }
-  }
-};
-
 TEST(WidgetPaint, IsTheThemeWithItsSystemColoursResolved) {
   const test::FixedSystemColours system;
   ThemeRecord theme;
@@ -43,7 +24,9 @@ TEST(WidgetPaint, IsTheThemeWithItsSystemColoursResolved) {
 }
 
 TEST(WidgetPaint, HighContrastTakesTheSystemsColoursAndNoTranslucency) {
-  const ContrastScheme system;
+  // Yellow on black with a green highlight.
+  const test::FixedSystemColours system(
+      {{5, kBlack}, {15, kBlack}, {8, 0x00FFFF}, {18, 0x00FFFF}, {13, 0x008000}});
   ThemeRecord theme;
   theme.bytTHEMEOPACITY = 110;
   theme.strTHEMEPANELFONTNAME = L"Verdana";

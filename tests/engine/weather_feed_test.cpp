@@ -30,6 +30,14 @@ Reading ReadSample(const FeedSample& sample, bool fahrenheit = false, double ear
   return Read(FeedText(sample), fahrenheit, earlier);
 }
 
+// Reads the usual feed with that in one of its fields.
+Reading ReadWith(std::wstring FeedSample::*field, const std::wstring& text, bool fahrenheit = false,
+                 double earlier = 0) {
+  FeedSample sample;
+  sample.*field = text;
+  return ReadSample(sample, fahrenheit, earlier);
+}
+
 TEST(FeedFields, EveryCommaAndLineEndEndsAField) {
   const test::Cases<const wchar_t*, const wchar_t*> cases = {
       {L"", L""},
@@ -90,16 +98,13 @@ TEST(WeatherFeed, OnlyAWholeTemperatureAboveZeroIsTakenOver) {
       {L"57.5", 59, L"59F "},     {L"N/A", 59, L"59F "}, {L"101", 101, L"101F "},
       {L"57\u00B0", 59, L"59F "}, {L"", 59, L"-"}};
   for (const auto& [temperature, kept, label] : cases) {
-    FeedSample sample;
-    sample.temperature = temperature;
-    const Reading reading = ReadSample(sample, true, 59);
+    const Reading reading = ReadWith(&FeedSample::temperature, temperature, true, 59);
     EXPECT_EQ(reading.data.TemperatureF, kept) << temperature;
     EXPECT_EQ(reading.labels.temperature, label) << temperature;
   }
-  FeedSample cold;
-  cold.temperature = L"-4";
-  EXPECT_EQ(ReadSample(cold, false, 50).labels.temperature, L"10C");
-  EXPECT_TRUE(ReadSample(cold, false, 50).labels.txtFINALNOW.ends_with(L"\r\n\r\n-4"));
+  const Reading cold = ReadWith(&FeedSample::temperature, L"-4", false, 50);
+  EXPECT_EQ(cold.labels.temperature, L"10C");
+  EXPECT_TRUE(cold.labels.txtFINALNOW.ends_with(L"\r\n\r\n-4"));
 }
 
 TEST(WeatherFeed, AMissingTemperatureIsTold) {
@@ -138,9 +143,7 @@ TEST(WeatherFeed, TheIconIsTheNumberOfTheImagesFile) {
       {L"/x/-1.gif", 25},          {L"", 25},           {L"/x/", 25},
       {L"/x/99.gif", 99}};
   for (const auto& [image, icon] : cases) {
-    FeedSample sample;
-    sample.image = image;
-    EXPECT_EQ(ReadSample(sample).labels.symbol, icon) << image;
+    EXPECT_EQ(ReadWith(&FeedSample::image, image).labels.symbol, icon) << image;
   }
 }
 
@@ -159,9 +162,7 @@ TEST(WeatherFeed, TheLocationLabelHasTwoFields) {
       {L"Nowhere", L"Nowhere, "},
       {L"A,B", L"A, B"}};
   for (const auto& [title, label] : cases) {
-    FeedSample sample;
-    sample.title = title;
-    EXPECT_EQ(ReadSample(sample).labels.location, label);
+    EXPECT_EQ(ReadWith(&FeedSample::title, title).labels.location, label);
   }
 }
 
@@ -184,9 +185,7 @@ TEST(WeatherFeed, MissingMarkersLeaveTheirSlicesEmpty) {
 }
 
 TEST(WeatherFeed, AnItemEndsAfterAThousandCharacters) {
-  FeedSample sample;
-  sample.condition = std::wstring(900, L'x');
-  const Reading reading = ReadSample(sample);
+  const Reading reading = ReadWith(&FeedSample::condition, std::wstring(900, L'x'));
   EXPECT_EQ(reading.labels.txtCURRENT.size(), 1000u);
   EXPECT_EQ(reading.data.DescriptionBlock, L"");
   EXPECT_EQ(reading.labels.condition, L"None");

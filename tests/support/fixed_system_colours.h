@@ -1,25 +1,27 @@
 // A few system colours that never change, for tests.
 #pragma once
 
+#include <map>
+#include <utility>
+
 #include "theme/colour.h"
 
 namespace varnel::test {
 
 class FixedSystemColours : public SystemColours {
  public:
-  // Index 5 is white, 8 black, 13 a blue; there are no others.
+  // Index 5 is white, 8 black, 13 a blue, unless others are given; there are no more.
+  explicit FixedSystemColours(std::map<int, Colour> colours = {{5, kWhite},
+                                                               {8, kBlack},
+                                                               {13, 0xC06010}})
+      : colours_(std::move(colours)) {}
   Colour Resolve(int index) const override {
-    switch (index) {
-      case 5:
-        return kWhite;
-      case 8:
-        return kBlack;
-      case 13:
-        return 0xC06010;
-      default:
-        return kNoColour;
-    }
+    const auto found = colours_.find(index);
+    return found == colours_.end() ? kNoColour : found->second;
   }
+
+ private:
+  std::map<int, Colour> colours_;
 };
 
 // The colour value that names the system colour `index`.
