@@ -49,10 +49,8 @@ void Application::OpenDialog(std::wstring_view form) {
     return;
   }
   // A dialog would otherwise lie beneath a window that is kept on top.
-  const bool above =
-      std::ranges::any_of(forms_.all(), [](const auto& entry) { return entry.second->on_top(); });
-  ::SetWindowPos(dialog->handle(), above ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
-                 SWP_NOMOVE | SWP_NOSIZE);
+  const auto kept_on_top = [](const auto& entry) { return entry.second->on_top(); };
+  KeepOnTop(dialog->handle(), std::ranges::any_of(forms_.all(), kept_on_top));
 }
 
 bool Application::HasDialog(std::wstring_view form) const {

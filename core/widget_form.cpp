@@ -115,8 +115,7 @@ void WidgetForm::WidgetRefresh() {
 
 void WidgetForm::ApplyChrome() {
   if (!own_on_top_) on_top_ = ReadFlag(services_.settings, kOnTop);
-  ::SetWindowPos(handle(), on_top_ ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
-                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  KeepOnTop(handle(), on_top_);
   paint_ = WidgetPaintOf(theme_, HighContrastWanted(), services_.colours);
   ::SetLayeredWindowAttributes(handle(), 0, WindowAlpha(paint_.theme.bytTHEMEOPACITY), LWA_ALPHA);
 }

@@ -25,7 +25,7 @@ std::wstring BrowseForFolder(HWND owner, const std::wstring& title);
 // and pattern, each ended by a zero. Empty when the user cancelled.
 std::wstring BrowseForFile(HWND owner, const wchar_t* title, const wchar_t* filter);
 
-// A message box with an OK button and the information sign.
+// A message box with an OK button and the information sign, above windows that are kept on top.
 void ShowInformation(HWND owner, const std::wstring& text, const std::wstring& title);
 
 // A question with Yes and No, the latter chosen at first. True for Yes.

@@ -111,6 +111,11 @@ void PlaceWindow(HWND window, const Rect& place) {
                  SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+void KeepOnTop(HWND window, bool on) {
+  ::SetWindowPos(window, on ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
 int RunMessageLoop() {
   MSG message;
   while (::GetMessageW(&message, nullptr, 0, 0) > 0) {

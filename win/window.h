@@ -76,6 +76,9 @@ class Window {
 // among the others and the focus alone.
 void PlaceWindow(HWND window, const Rect& place);
 
+// Puts a window above all ordinary ones, or back among them, where it is and as it is.
+void KeepOnTop(HWND window, bool on);
+
 // Runs messages until the program posts its quit message; gives that message's exit code. Keys go
 // first to the top-level window's OnKey, then to the system's keyboard handling for dialogs.
 int RunMessageLoop();

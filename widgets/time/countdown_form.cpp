@@ -4,6 +4,7 @@
 #include "theme/contrast.h"
 #include "win/edit_box.h"
 #include "win/font_measure.h"
+#include "win/shell.h"
 #include "win/sound.h"
 #include "win/window_text.h"
 
@@ -129,9 +130,7 @@ void CountdownForm::OnTick() {
 
 void CountdownForm::AnnounceEnd() {
   services().sound.PlayResource(kBellName);
-  ::MessageBoxW(handle(), std::wstring(kCountdownEndText).c_str(),
-                std::wstring(kCountdownEndTitle).c_str(),
-                MB_OK | MB_ICONINFORMATION | (on_top() ? MB_TOPMOST : 0));
+  ShowInformation(handle(), std::wstring(kCountdownEndText), std::wstring(kCountdownEndTitle));
   engine_.AcknowledgeEnd();
   if (handle()) ShowState();
 }
