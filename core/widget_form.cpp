@@ -204,7 +204,8 @@ LRESULT WidgetForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
       DrawButton(*reinterpret_cast<const DRAWITEMSTRUCT*>(lparam));
       return TRUE;
     case WM_SIZE:
-      if (!layout_.pfrBAR.empty()) Form_Resize();
+      // Not before there are controls, nor for the icon that a minimised window has become.
+      if (!buttons_.all().empty() && wparam != SIZE_MINIMIZED) Form_Resize();
       return 0;
     case WM_COMMAND:
       OnCommand(LOWORD(wparam), HIWORD(wparam), reinterpret_cast<HWND>(lparam));

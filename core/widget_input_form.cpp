@@ -167,7 +167,7 @@ void WidgetForm::MoveToDefaultPlace() {
 }
 
 void WidgetForm::ReturnToScreen() {
-  MoveTo(place_);
+  if (!::IsIconic(handle())) MoveTo(place_);
 }
 
 void WidgetForm::OnDpiChanged(const RECT& suggested) {

@@ -115,6 +115,12 @@ TEST_F(Start, HideAllAndShowAllLastOverARestart) {
   ASSERT_TRUE(ChooseShared(program(), L"mnuDCSHOWALL"));
   EXPECT_TRUE(WaitForForm(program(), L"frmCLKwg"));
   EXPECT_SOON(Flag(L"Start-Show or Hide") == L"Show");
+  // What another program has minimised is shown whole, too.
+  const Rect time = RectOf(Control(clock, lblPANECLOCK));
+  ::ShowWindow(clock, SW_MINIMIZE);
+  EXPECT_SOON(::IsIconic(clock));
+  ASSERT_TRUE(ChooseShared(program(), L"mnuDCSHOWALL"));
+  EXPECT_SOON(RectOf(Control(clock, lblPANECLOCK)) == time);
 }
 
 TEST_F(Start, OptionsDialogStoresAndApplies) {
