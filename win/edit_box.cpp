@@ -18,8 +18,17 @@ HWND CreateEditBox(HWND parent, int id, DWORD style, int most) {
 }
 
 void PlaceEditBox(HWND box, const Rect& place, HFONT font) {
-  PlaceWindow(box, place);
   ::SendMessageW(box, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+  // The font brings margins of its own, which grow with it and take effect sooner or later.
+  ::SendMessageW(box, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
+  PlaceWindow(box, place);
+  // What was scrolled out of sight, for want of room, stays there unless the caret goes to it.
+  DWORD first = 0;
+  DWORD last = 0;
+  ::SendMessageW(box, EM_GETSEL, reinterpret_cast<WPARAM>(&first), reinterpret_cast<LPARAM>(&last));
+  ::SendMessageW(box, EM_SETSEL, 0, 0);
+  ::SendMessageW(box, EM_SCROLLCARET, 0, 0);
+  ::SendMessageW(box, EM_SETSEL, first, last);
 }
 
 void SetEditText(HWND box, const std::wstring& text) {

@@ -210,6 +210,16 @@ TEST_F(Time, CountdownFromThreeSecondsToTheMessageAndBack) {
   HWND form = StartWith(L"Start-Load-Timer", L"frmCDNwg");
   ASSERT_TRUE(form);
   EXPECT_EQ(Text(Control(form, txtMIN)), L"02");
+  // Three digits take a smaller font; without them all is as it was.
+  HWND seconds = Control(form, txtSECS);
+  const int height = RectOf(seconds).height();
+  const Picture zero = StillPictureOf(seconds);
+  ASSERT_TRUE(ClickOn(Control(form, txtSUBHRS)));
+  ASSERT_SOON(SelectedUnits(Control(form, txtSUBHRS)).second == 2);
+  Type(L"127");
+  EXPECT_SOON(RectOf(seconds).height() < height);
+  for (int i = 0; i < 3; ++i) PressKey(VK_BACK);
+  EXPECT_SOON(PictureOf(seconds) == zero);
   for (const int field : {txtSUBMIN, txtSUBSECS}) {
     ASSERT_TRUE(ClickOn(Control(form, field)));
     ASSERT_SOON(SelectedUnits(Control(form, field)).second == 2);

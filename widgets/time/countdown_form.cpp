@@ -46,14 +46,19 @@ void CountdownForm::OnLoad() {
   ShowFields(0);
 }
 
-void CountdownForm::LayOutPanel(const Rect& panel) {
-  std::wstring longest;
+std::size_t CountdownForm::MostDigits() const {
+  std::size_t most = 0;
   for (const CountdownField field : kFields) {
-    longest = std::max(longest, engine_.DisplayText(field),
-                       [](const auto& a, const auto& b) { return a.size() < b.size(); });
+    most = std::max(most, engine_.DisplayText(field).size());
   }
-  const CountdownLayout place = LayOutCountdown({panel.width(), panel.height()}, dpi(), longest,
-                                                FontMeasure(theme().strTHEMEPANELFONTNAME, false));
+  return most;
+}
+
+void CountdownForm::LayOutPanel(const Rect& panel) {
+  laid_out_digits_ = MostDigits();
+  const CountdownLayout place =
+      LayOutCountdown({panel.width(), panel.height()}, dpi(), std::wstring(laid_out_digits_, L'0'),
+                      FontMeasure(theme().strTHEMEPANELFONTNAME, false));
   const TextStyle style = PanelTextStyle(place.font_height);
   UniqueFont font = MakeFont(style.font);
   for (int i = 0; i < 3; ++i) {
@@ -99,6 +104,8 @@ void CountdownForm::ShowFields(int edited_id) {
     SetEditText(::GetDlgItem(handle(), txtSUBHRS + i), engine_.IntervalText(kFields[i]));
   }
   filling_ = false;
+  // The font follows the number of digits.
+  if (MostDigits() != laid_out_digits_) LayOutPanel(layout().pfrPANEL);
 }
 
 void CountdownForm::ShowState() {
@@ -157,6 +164,7 @@ void CountdownForm::OnFieldChanged(int id) {
   const int index = id >= txtSUBHRS ? id - txtSUBHRS : id - txtHRS;
   engine_.Edit(kFields[index], WindowText(::GetDlgItem(handle(), id)));
   ShowFields(id);
+  RepaintStatus();
 }
 
 LRESULT CountdownForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {

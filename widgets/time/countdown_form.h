@@ -28,11 +28,14 @@ class CountdownForm : public WidgetForm {  // frmCDNwg
   void AnnounceEnd();
   void OnFieldChanged(int id);
   void ShowFields(int edited_id);
+  // Of the display's longest field.
+  std::size_t MostDigits() const;
   void ShowState();
   void PlaceInterval(const CountdownLayout& place, const Rect& panel);
   LRESULT ColourField(HDC dc) const;
 
   CountdownEngine engine_;
+  std::size_t laid_out_digits_ = 2;
   bool filling_ = false;  // the fields are being written by the program
   std::array<std::unique_ptr<ThemedLabel>, 2> separators_;
   std::array<std::unique_ptr<ThemedLabel>, 4> interval_labels_;  // a word, then three units
