@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/image.h"
+#include "theme/contrast.h"
 #include "theme/gradient.h"
 #include "theme/system_colours_win.h"
 
@@ -21,13 +22,16 @@ void PaintBar(Surface& surface, const FramePainting& frame) {
   PutImage(surface, {bar.left, bar.top}, image);
 }
 
-// Three short diagonal lines in the corner that sizes the window.
+// Three short diagonal lines in the corner that sizes the window. They have no halo: where text is
+// carried by one, they take its colour.
 void PaintGrip(Surface& surface, const FramePainting& frame) {
+  const TextStyle style = StripTextStyle(frame);
+  const auto halo = HaloOf(style.colour, style.ground, style.halo_base, false, UserSystemColours());
+  const Colour colour = halo && !halo->edge ? halo->colour : style.colour;
   const Rect& grip = frame.layout.size_grip;
   const int step = std::max(3, Scaled(4, frame.dpi));
   const int edge = Scaled(3, frame.dpi);
-  const UniquePen pen(
-      ::CreatePen(PS_SOLID, std::max(1, Scaled(1, frame.dpi)), StripTextStyle(frame).colour));
+  const UniquePen pen(::CreatePen(PS_SOLID, std::max(1, Scaled(1, frame.dpi)), colour));
   const SelectedObject selected(surface.dc(), pen.get());
   for (int i = 1; i <= 3; ++i) {
     ::MoveToEx(surface.dc(), grip.right - edge - i * step, grip.bottom - edge, nullptr);

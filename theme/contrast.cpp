@@ -6,6 +6,8 @@
 namespace varnel {
 namespace {
 
+constexpr double kEdgedContrast = 2;  // less than this says too little without a halo
+
 double Linear(int channel) {
   const double share = channel / 255.0;
   return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
@@ -46,6 +48,20 @@ std::optional<Colour> HaloColour(Colour text, Colour ground, Colour theme, doubl
     if (ContrastRatio(ink, halo) >= needed) return halo;
   }
   return end;
+}
+
+std::optional<Halo> HaloOf(Colour text, Colour ground, Colour theme, bool large,
+                           const SystemColours& system) {
+  const auto colour = HaloColour(text, ground, theme, kReadableContrast, system);
+  if (!colour) return std::nullopt;
+  const auto luminance = [&](Colour of) { return RelativeLuminance(Translate(of, system)); };
+  const bool halo_darker = luminance(*colour) < luminance(text);
+  const bool text_darker = luminance(text) < luminance(ground);
+  const double own = ContrastRatio(Translate(text, system), Translate(ground, system));
+  if (halo_darker != text_darker || own < kEdgedContrast) return Halo{*colour, false};
+  const double needed = large ? kReadableLargeContrast : kReadableContrast;
+  const auto edge = HaloColour(text, ground, theme, needed, system);
+  return edge ? std::optional(Halo{*edge, true}) : std::nullopt;
 }
 
 }  // namespace varnel

@@ -14,9 +14,9 @@ double RelativeLuminance(Colour colour);
 // 1 (alike) to 21 (black and white). The order of the two does not matter; both must be translated.
 double ContrastRatio(Colour a, Colour b);
 
-// The contrast that small text needs. Large text could do with 3, but is given the same: a halo of
-// 3 is hardly seen around white letters on pale grounds.
+// The contrast that text needs. Large text, 18 points and more, could do with less.
 inline constexpr double kReadableContrast = 4.5;
+inline constexpr double kReadableLargeContrast = 3;
 
 // The colour of the halo that makes `text` readable on `ground`: nothing when their contrast is
 // `needed` already, else `theme` made darker or lighter, away from the text as long as that can do,
@@ -25,5 +25,18 @@ inline constexpr double kReadableContrast = 4.5;
 // result.
 std::optional<Colour> HaloColour(Colour text, Colour ground, Colour theme, double needed,
                                  const SystemColours& system);
+
+struct Halo {
+  Colour colour = kBlack;
+  bool edge = false;  // a slim line will do
+};
+
+// The halo that `text` is painted with, if any. Mostly the ground lies between text and halo, as
+// with white letters on a pale ground: the halo alone carries them, and one of less than 4.5 is
+// hardly seen. Where the text lies between ground and halo, as letters of a middle colour on white,
+// and has some contrast of its own, an edge is enough, and large text is judged and edged as large
+// text.
+std::optional<Halo> HaloOf(Colour text, Colour ground, Colour theme, bool large,
+                           const SystemColours& system);
 
 }  // namespace varnel

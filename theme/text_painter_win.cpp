@@ -11,6 +11,7 @@ namespace varnel {
 namespace {
 
 constexpr int kFaintWeight = 110;
+constexpr int kLargeHeight = 24;  // 18 points, at 96 dpi
 
 UINT DrawFlags(const TextStyle& style) {
   const UINT across = style.align == Align::kLeft    ? DT_LEFT
@@ -39,8 +40,9 @@ void DrawPlain(HDC dc, HFONT font, const Rect& box, const std::wstring& text,
 
 // Small letters get a relatively wide rim, for it is their only ground; that of large ones stays
 // slim.
-HaloShape ShapeFor(const TextStyle& style) {
+HaloShape ShapeFor(const TextStyle& style, bool edge) {
   const double unit = style.dpi / static_cast<double>(kDefaultDpi);
+  if (edge) return {0.5 * unit, unit};
   const double grown = std::min(style.font.height / 30.0, 3 * unit);
   return {std::max(0.8 * unit, grown * 0.5), std::max(1.4 * unit, grown)};
 }
@@ -70,7 +72,7 @@ Rect Clipped(const Rect& box, Size size) {
 }  // namespace
 
 int HaloRoom(int dpi) {
-  return HaloMargin(ShapeFor({{{}, 1000, false}, 0, 0, 0, {}, dpi, false, false}));
+  return HaloMargin(ShapeFor({{{}, 1000, false}, 0, 0, 0, {}, dpi, false, false}, false));
 }
 
 void PaintText(Ui& ui, Surface& surface, const Rect& box, const std::wstring& text,
@@ -84,8 +86,8 @@ void PaintText(Ui& ui, Surface& surface, const Rect& box, const std::wstring& te
               Blend(style.colour, style.ground, kFaintWeight, system));
     return;
   }
-  const auto halo =
-      HaloColour(style.colour, style.ground, style.halo_base, kReadableContrast, system);
+  const bool large = style.font.height >= Scaled(kLargeHeight, style.dpi);
+  const auto halo = HaloOf(style.colour, style.ground, style.halo_base, large, system);
   if (!halo) {
     DrawPlain(surface.dc(), font, area, text, style, style.colour);
     return;
@@ -99,8 +101,8 @@ void PaintText(Ui& ui, Surface& surface, const Rect& box, const std::wstring& te
                           area.width());
   };
   for (int y = 0; y < image.height(); ++y) std::ranges::copy(row_of(y), image.Row(y).begin());
-  CompositeText(image, {0, 0}, letters, HaloMask(letters, ShapeFor(style)),
-                OpaquePixel(style.colour), OpaquePixel(*halo));
+  CompositeText(image, {0, 0}, letters, HaloMask(letters, ShapeFor(style, halo->edge)),
+                OpaquePixel(style.colour), OpaquePixel(halo->colour));
   for (int y = 0; y < image.height(); ++y) std::ranges::copy(image.Row(y), row_of(y).begin());
 }
 

@@ -54,6 +54,28 @@ TEST(Halo, StartsFromTheThemeAndLeadsAwayFromTheText) {
   EXPECT_EQ(HaloColour(0x606060, 0x606060, 0x606060, 21, kSystem), kWhite);
 }
 
+TEST(Halo, AnEdgeWhereTheTextLiesBetweenGroundAndHalo) {
+  const Colour kPink = ColourOf({185, 79, 188});     // 4 : 1 on white
+  const Colour kGold = ColourOf({213, 157, 7});      // 2.4 : 1
+  const Colour kSilver = ColourOf({220, 220, 220});  // 1.4 : 1
+  enum { kNone, kFull, kEdge };
+  const struct {
+    Colour text, ground;
+    bool large;
+    int kind;
+    double contrast;
+  } cases[] = {{kPink, kWhite, true, kNone, 0},      {kPink, kWhite, false, kEdge, 4.5},
+               {kGold, kWhite, true, kEdge, 3},      {kGold, kWhite, false, kEdge, 4.5},
+               {kSilver, kWhite, true, kFull, 4.5},  {kWhite, kGold, true, kFull, 4.5},
+               {kBlack, kBlack, true, kFull, 4.5},   {kBlack, kWhite, false, kNone, 0},
+               {0x606060, 0x202020, true, kEdge, 3}, {0x606060, 0x202020, false, kEdge, 4.5}};
+  for (const auto& test : cases) {
+    const auto halo = HaloOf(test.text, test.ground, test.ground, test.large, kSystem);
+    ASSERT_EQ(halo ? halo->edge ? kEdge : kFull : kNone, test.kind) << test.text << test.large;
+    if (halo) EXPECT_NEAR(ContrastRatio(test.text, halo->colour), test.contrast, 0.4) << test.text;
+  }
+}
+
 TEST(Halo, EveryColourCanBeMadeReadable) {
   std::mt19937 random(11);
   const auto any = [&random] { return static_cast<Colour>(random() & 0xFFFFFF); };
