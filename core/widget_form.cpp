@@ -110,7 +110,8 @@ void WidgetForm::Form_Resize() {
 
 void WidgetForm::WidgetRefresh() {
   RefreshContent();
-  ::RedrawWindow(handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+  // At once: a dialog that changes the widget would otherwise be painted before it.
+  ::RedrawWindow(handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
 void WidgetForm::ApplyChrome() {
