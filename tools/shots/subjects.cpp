@@ -1,5 +1,7 @@
 #include "tools/shots/subjects.h"
 
+#include <commctrl.h>
+
 #include "base/number_text.h"
 #include "resources/control_ids.h"
 #include "tests/rig/controls.h"
@@ -49,6 +51,15 @@ const std::vector<StoredText> kAllWidgets = {
 
 Preparation Command(const wchar_t* name) {
   return [name](const Program&, HWND form) { Choose(form, name); };
+}
+
+// Opens the theme dialog on one of its tabs.
+Preparation ThemeTab(int tab) {
+  return [tab](const Program& program, HWND form) {
+    Choose(form, L"mnuDCSETTINGS");
+    HWND dialog = WaitForForm(program, L"frmTHEME");
+    Send(Control(dialog, tabMAIN), TCM_SETCURFOCUS, static_cast<WPARAM>(tab));
+  };
 }
 
 Preparation Presses(std::initializer_list<int> controls) {
@@ -143,7 +154,9 @@ const std::vector<Subject>& Subjects() {
       {L"clock-properties", kClock, kDpis, {}, Command(L"mnuCLOCKPROPS"), Part::kForm, L"frmCLKpr"},
       {L"alarms", kClock, kDpis, kAlarms, Command(L"mnuCLOCKALARMSET"), Part::kForm, L"frmCLKas"},
       {L"alarm-popup", kClock, kDpis, kAlarms, LetAlarmRing, Part::kForm, L"frmCLKam"},
-      {L"theme-dialog", kClock, kDpis, {}, Command(L"mnuDCSETTINGS"), Part::kForm, L"frmTHEME"},
+      {L"theme-dialog-main", kClock, kDpis, {}, ThemeTab(0), Part::kForm, L"frmTHEME"},
+      {L"theme-dialog-bars", kClock, kDpis, {}, ThemeTab(1), Part::kForm, L"frmTHEME"},
+      {L"theme-dialog-panel", kClock, kDpis, {}, ThemeTab(2), Part::kForm, L"frmTHEME"},
       {L"menu", kClock, kDpis, {}, OpenMenu, Part::kForm, L"#32768"},
   };
   return subjects;
