@@ -105,7 +105,7 @@ void Application::RunCommand(int id) {
       {L"mnuDCHIDEALL", [](Application& self) { self.manager_.WidgetSel(1); }},
       {L"mnuDCMANAGER", [](Application& self) { self.ShowManager(); }},
       {L"mnuDCMANAGERHIDE", [](Application& self) { self.HideToTray(); }},
-      {L"mnuDCTOP",
+      {kTopCommand,
        [](Application& self) {
          if (LiveForm* form = self.CurrentForm()) form->SetOnTop(!form->on_top());
        }},

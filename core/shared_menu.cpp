@@ -83,7 +83,7 @@ std::vector<MenuItem> BuildSharedMenu(const SharedMenuState& state) {
           ItemOf({L"mnuDCMANAGERHIDE", L"Hide to T&ray"}),
           MenuSeparator(),
           Submenu(L"Si&ze", SizeItems(), state.sizable),
-          ItemOf({L"mnuDCTOP", L"&Keep on top"}, state.has_widget, state.on_top),
+          ItemOf({kTopCommand, L"&Keep on top"}, state.has_widget, state.on_top),
           ItemOf({L"mnuDCSETTINGS", L"&Theme..."}, state.has_widget && state.theme_dialog),
           ItemOf({L"mnuDCGENSET", L"&Options..."}),
           MenuSeparator(),

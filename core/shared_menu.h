@@ -19,6 +19,9 @@ struct Command {
   std::wstring_view key = {};
 };
 
+// Keeps the current widget above other windows, or no longer.
+inline constexpr std::wstring_view kTopCommand = L"mnuDCTOP";
+
 MenuItem ItemOf(const Command& command, bool enabled = true, bool checked = false);
 
 struct SharedMenuState {

@@ -57,7 +57,7 @@ class WidgetForm : public PaintedWindow, public LiveForm {
   // A button was clicked, or another control sent notification `code`.
   virtual void OnControl(int /*id*/, int /*code*/) {}
   virtual std::wstring StatusText() const { return {}; }
-  // The widget's own commands, shown above the shared ones.
+  // The widget's own commands, shown above the shared ones; not the one of its FormEntry.
   virtual std::vector<MenuItem> MenuGroup() const { return {}; }
   // Runs one of them; false when `id` is none.
   virtual bool RunOwnCommand(int /*id*/) { return false; }
@@ -92,6 +92,8 @@ class WidgetForm : public PaintedWindow, public LiveForm {
   void OnCommand(int id, int code, HWND control);
   void RunCommand(int id);
   void ShowMenu(Point at);
+  // The name of the widget's command that keeps it on top.
+  std::wstring_view TopCommand() const;
   void OnContextMenu(LPARAM position);
   // True when the pointer has been given its shape.
   bool OnMouseOver(HWND control);

@@ -11,22 +11,22 @@ namespace {
 // The glyphs stand in the font in the order of the widgets, closed ones from E100, open ones from
 // E110.
 constexpr WidgetEntry Entry(int index, std::wstring_view form_name, std::wstring_view title,
-                            std::wstring_view theme_caption) {
+                            std::wstring_view theme_caption, std::wstring_view top_command = {}) {
   return {{form_name, title, theme_caption, static_cast<wchar_t>(0xE100 + index),
-           static_cast<wchar_t>(0xE110 + index)},
+           static_cast<wchar_t>(0xE110 + index), top_command},
           index,
           kStartLoad[index]};
 }
 
 constexpr WidgetEntry kWidgets[] = {
-    Entry(0, L"frmCLKwg", L"Clock", L"Alarm Clock Theme Settings"),
-    Entry(1, L"frmCLCwg", L"Calculator", L"Calculator Theme Settings"),
-    Entry(2, L"frmCALwg", L"Calendar", L"Calendar Theme Settings"),
-    Entry(3, L"frmNOTwg", L"Notes", L"Notes Theme Settings"),
+    Entry(0, L"frmCLKwg", L"Clock", L"Alarm Clock Theme Settings", L"mnuCLOCKTOP"),
+    Entry(1, L"frmCLCwg", L"Calculator", L"Calculator Theme Settings", L"mnuCALCTOP"),
+    Entry(2, L"frmCALwg", L"Calendar", L"Calendar Theme Settings", L"mnuCALTOP"),
+    Entry(3, L"frmNOTwg", L"Notes", L"Notes Theme Settings", L"mnuNOTESTOP"),
     Entry(4, L"frmSTWwg", L"Stopwatch", L"Stopwatch Theme Settings"),
     Entry(5, L"frmCDNwg", L"Countdown", L"Countdown Theme Settings"),
-    Entry(6, L"frmWBDwg", L"Whiteboard", L"Whiteboard Theme Settings"),
-    Entry(7, L"frmWTHwg", L"Weather", L"Weather Theme Settings"),
+    Entry(6, L"frmWBDwg", L"Whiteboard", L"Whiteboard Theme Settings", L"mnuWBOARDTOP"),
+    Entry(7, L"frmWTHwg", L"Weather", L"Weather Theme Settings", L"mnuWEATHERTOP"),
 };
 static_assert(std::size(kWidgets) == kWidgetCount && std::size(kStartLoad) == kWidgetCount);
 

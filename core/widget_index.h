@@ -13,6 +13,7 @@ struct FormEntry {
   std::wstring_view theme_caption;  // of the theme dialog opened from this form
   wchar_t glyph;                    // in the font "Icon-works": the form is closed
   wchar_t open_glyph;               // the same, filled: the form is open
+  std::wstring_view top_command;    // of its menu: keep on top; may be empty
 };
 
 struct WidgetEntry : FormEntry {
@@ -22,7 +23,7 @@ struct WidgetEntry : FormEntry {
 
 inline constexpr int kWidgetCount = 8;
 inline constexpr FormEntry kManagerForm{L"frmVRNwg", L"Widget Varnel", L"Varnel Theme Settings",
-                                        L'\xE108', L'\xE118'};
+                                        L'\xE108',   L'\xE118',        L""};
 
 // The widget of that number or name; null when there is none.
 const WidgetEntry* WidgetAt(int index);

@@ -3,6 +3,7 @@
 
 #include "core/core_settings.h"
 #include "core/screens_win.h"
+#include "core/shared_menu.h"
 #include "core/sizes.h"
 #include "core/widget_form.h"
 #include "resources/control_ids.h"
@@ -50,14 +51,26 @@ void WidgetForm::OnCloseButton() {
 
 void WidgetForm::RunCommand(int id) {
   services_.program.SetCurrentWidget(entry_.form_name);
-  if (!RunOwnCommand(id)) services_.program.RunCommand(id);
+  if (id == CommandId(TopCommand())) {
+    SetOnTop(!on_top_);
+  } else if (!RunOwnCommand(id)) {
+    services_.program.RunCommand(id);
+  }
+}
+
+std::wstring_view WidgetForm::TopCommand() const {
+  return entry_.top_command.empty() ? kTopCommand : entry_.top_command;
 }
 
 void WidgetForm::ShowMenu(Point at) {
   services_.program.SetCurrentWidget(entry_.form_name);
   std::vector<MenuItem> items = MenuGroup();
   if (!items.empty()) items.push_back(MenuSeparator());
-  for (MenuItem& item : services_.program.SharedMenu()) items.push_back(std::move(item));
+  for (MenuItem& item : services_.program.SharedMenu()) {
+    // The widget's own command stands in for the shared one: nobody wants both.
+    if (item.id == CommandId(kTopCommand)) item.id = CommandId(TopCommand());
+    items.push_back(std::move(item));
+  }
   RunCommand(ShowPopupMenu(handle(), at, items));
 }
 

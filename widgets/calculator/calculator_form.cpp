@@ -16,7 +16,6 @@ namespace {
 constexpr Command kShowHistory{L"mnuCALCSHOWHIST", L"Show &log"};
 constexpr Command kDeleteSelected{L"mnuCALCDELETESELECTED", L"&Delete selected sums", L"Ctrl+Del"};
 constexpr Command kClearHistory{L"mnuCALCCLEARHISTORY", L"Clear lo&g..."};
-constexpr Command kKeepOnTop{L"mnuCALCTOP", L"Keep calc&ulator on top"};
 
 constexpr wchar_t kLogFile[] = L"calc2.dat";
 constexpr int kStruckMs = 120;
@@ -209,7 +208,7 @@ void CalculatorForm::ClearHistory() {
 std::vector<MenuItem> CalculatorForm::MenuGroup() const {
   return {ItemOf(kShowHistory, true, history_shown_),
           ItemOf(kDeleteSelected, !lvwFILES_.Selected().empty()),
-          ItemOf(kClearHistory, log_.count() > 0), ItemOf(kKeepOnTop, true, on_top())};
+          ItemOf(kClearHistory, log_.count() > 0)};
 }
 
 bool CalculatorForm::RunOwnCommand(int id) {
@@ -219,8 +218,6 @@ bool CalculatorForm::RunOwnCommand(int id) {
     DeleteSelected();
   } else if (id == CommandId(kClearHistory.name)) {
     ClearHistory();
-  } else if (id == CommandId(kKeepOnTop.name)) {
-    SetOnTop(!on_top());
   } else {
     return false;
   }

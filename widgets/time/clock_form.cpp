@@ -10,7 +10,6 @@ namespace {
 constexpr int kTickMs = 100;
 constexpr Command kProperties{L"mnuCLOCKPROPS", L"Clock &properties..."};
 constexpr Command kAlarms{L"mnuCLOCKALARMSET", L"A&larms..."};
-constexpr Command kKeepOnTop{L"mnuCLOCKTOP", L"Keep clo&ck on top"};
 
 }  // namespace
 
@@ -76,8 +75,7 @@ std::wstring ClockForm::StatusText() const {
 }
 
 std::vector<MenuItem> ClockForm::MenuGroup() const {
-  return {ItemOf(kProperties), ItemOf(kAlarms, services().program.HasDialog(L"frmCLKas")),
-          ItemOf(kKeepOnTop, true, on_top())};
+  return {ItemOf(kProperties), ItemOf(kAlarms, services().program.HasDialog(L"frmCLKas"))};
 }
 
 bool ClockForm::RunOwnCommand(int id) {
@@ -85,8 +83,6 @@ bool ClockForm::RunOwnCommand(int id) {
     services().program.OpenDialog(L"frmCLKpr");
   } else if (id == CommandId(kAlarms.name)) {
     services().program.OpenDialog(L"frmCLKas");
-  } else if (id == CommandId(kKeepOnTop.name)) {
-    SetOnTop(!on_top());
   } else {
     return false;
   }

@@ -23,7 +23,6 @@ constexpr int kOutlineWeight = 96;  // of the border against the card
 
 constexpr Command kProperties{L"mnuWEATHERPROPS", L"Weather propert&ies..."};
 constexpr Command kRefresh{L"mnuWEATHERREFRESH", L"Re&fresh now", L"F5"};
-constexpr Command kKeepOnTop{L"mnuWEATHERTOP", L"Keep weather o&n top"};
 
 }  // namespace
 
@@ -180,7 +179,7 @@ bool WeatherForm::OnKey(const MSG& message) {
 }
 
 std::vector<MenuItem> WeatherForm::MenuGroup() const {
-  return {ItemOf(kProperties), ItemOf(kRefresh), ItemOf(kKeepOnTop, true, on_top())};
+  return {ItemOf(kProperties), ItemOf(kRefresh)};
 }
 
 bool WeatherForm::RunOwnCommand(int id) {
@@ -188,8 +187,6 @@ bool WeatherForm::RunOwnCommand(int id) {
     services().program.OpenDialog(L"frmWTHpr");
   } else if (id == CommandId(kRefresh.name)) {
     if (dialog_) dialog_->WeatherRefresh();
-  } else if (id == CommandId(kKeepOnTop.name)) {
-    SetOnTop(!on_top());
   } else {
     return false;
   }
