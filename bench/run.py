@@ -58,6 +58,7 @@ def measure(subject, idle, look_closer, samples):
             samples[subject.name, figures.IDLE].append(idle_ms_per_s(pid, idle))
     finally:
         processes.end(pid)
+        subprocess.run(["wine", str(WINDOWS_BUILD / "bench/bench_clean_shell.exe")], check=True)
 
 
 def measure_all(subjects, runs, idle):

@@ -7,6 +7,5 @@ cd "$(dirname "$0")/.."
 cmake --preset native
 cmake --build --preset native --parallel "$(nproc)" --target bench_xwatch
 cmake --preset windows
-cmake --build --preset windows --parallel "$(nproc)" \
-  --target WidgetVarnel bench_hello bench_press bench_latency bench_theme bench_weather bench_micro
+cmake --build --preset windows --parallel "$(nproc)" --target WidgetVarnel bench/all
 tools/with_session.sh /usr/bin/python3 bench/run.py "$@"
