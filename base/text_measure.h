@@ -30,10 +30,15 @@ class TextMeasure {
 std::wstring WithWidestDigits(std::wstring_view text, const TextMeasure& measure);
 
 // The largest height from 1 to `most` for which `fits` holds, 0 when it holds for none. `fits`
-// should hold up to some height and not beyond; where it does not, the result still fits.
-int LargestHeight(int most, const std::function<bool(int height)>& fits);
+// should hold up to some height and not beyond; where it does not, the result still fits. The
+// nearer `guess` is to the result, the fewer heights are tried.
+int LargestHeight(int most, int guess, const std::function<bool(int height)>& fits);
 
-// The largest font height up to `most` in which `text` fits into `area`; 0 when it fits in none.
+// The largest font height up to `most` in which what takes `size_at` fits into `area`; 0 when it
+// fits in none. Few heights are tried, as each may cost the making of a font.
+int LargestFontIn(Size area, int most, const std::function<Size(int height)>& size_at);
+
+// The same for one line of text.
 int FittingHeight(std::wstring_view text, Size area, int most, const TextMeasure& measure);
 
 }  // namespace varnel

@@ -31,8 +31,7 @@ void ThemedLabel::ScrollTo(std::size_t units) {
 void ThemedLabel::Place(const Rect& box, const TextStyle& style) {
   // What the system would move along may be what a neighbour, not yet moved, has just painted
   // there.
-  ::SetWindowPos(handle(), nullptr, box.left, box.top, box.width(), box.height(),
-                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
+  PlaceWindow(handle(), box, SWP_NOCOPYBITS);
   if (style == style_) return;
   style_ = style;
   ::InvalidateRect(handle(), nullptr, FALSE);

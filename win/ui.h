@@ -15,6 +15,7 @@ struct Ui {
   HINSTANCE instance = nullptr;
   DebugLog log;
   FontCache fonts;
+  HICON icon = nullptr;  // of all windows; loaded with the first of them
 };
 
 }  // namespace varnel

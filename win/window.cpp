@@ -14,10 +14,6 @@ Window::~Window() {
   Destroy();
 }
 
-int Window::dpi() const {
-  return handle_ ? static_cast<int>(::GetDpiForWindow(handle_)) : kDefaultDpi;
-}
-
 Rect Window::client() const {
   RECT rect = {};
   ::GetClientRect(handle_, &rect);
@@ -37,17 +33,22 @@ Window* Window::FromHandle(HWND handle) {
   return reinterpret_cast<Window*>(::GetWindowLongPtrW(handle, GWLP_USERDATA));
 }
 
-bool Window::Create(const Creation& creation) {
+// Makes the class on first use.
+bool Window::HasClass(const wchar_t* name) const {
   WNDCLASSEXW description = {};
   description.cbSize = sizeof description;
+  if (::GetClassInfoExW(ui_.instance, name, &description)) return true;
   description.lpfnWndProc = &Procedure;
   description.hInstance = ui_.instance;
   description.hCursor = ::LoadCursorW(nullptr, MAKEINTRESOURCEW(32512));  // the arrow
-  description.hIcon = ::LoadIconW(ui_.instance, MAKEINTRESOURCEW(kApplicationIcon));
-  description.lpszClassName = creation.class_name;
-  if (!::RegisterClassExW(&description) && ::GetLastError() != ERROR_CLASS_ALREADY_EXISTS) {
-    return false;
-  }
+  if (!ui_.icon) ui_.icon = ::LoadIconW(ui_.instance, MAKEINTRESOURCEW(kApplicationIcon));
+  description.hIcon = ui_.icon;
+  description.lpszClassName = name;
+  return ::RegisterClassExW(&description) != 0;
+}
+
+bool Window::Create(const Creation& creation) {
+  if (!HasClass(creation.class_name)) return false;
   const Rect& place = creation.place;
   return ::CreateWindowExW(creation.extended_style, creation.class_name, creation.title.c_str(),
                            creation.style, place.left, place.top, place.width(), place.height(),
@@ -68,6 +69,7 @@ LRESULT CALLBACK Window::Procedure(HWND handle, UINT message, WPARAM wparam, LPA
   if (message == WM_NCCREATE) {
     auto* window = static_cast<Window*>(reinterpret_cast<CREATESTRUCTW*>(lparam)->lpCreateParams);
     window->handle_ = handle;
+    window->dpi_ = static_cast<int>(::GetDpiForWindow(handle));
     ::SetWindowLongPtrW(handle, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(window));
   }
   auto* window = reinterpret_cast<Window*>(::GetWindowLongPtrW(handle, GWLP_USERDATA));
@@ -82,6 +84,9 @@ LRESULT Window::Guarded(UINT message, WPARAM wparam, LPARAM lparam) noexcept {
     ~Leave() { --depth; }
   } leave{depth_};
   try {
+    if (message == WM_DPICHANGED || message == WM_DPICHANGED_AFTERPARENT) {
+      dpi_ = static_cast<int>(::GetDpiForWindow(handle_));
+    }
     if (message == WM_TIMER) {
       OnTimer(wparam);
       return 0;
@@ -106,9 +111,14 @@ void Window::OnTimer(UINT_PTR id) {
   if (found != timers_.end()) (*found)->Tick();
 }
 
-void PlaceWindow(HWND window, const Rect& place) {
+void PlaceWindow(HWND window, const Rect& place, UINT flags) {
+  RECT present = {};
+  ::GetWindowRect(window, &present);
+  ::MapWindowPoints(nullptr, ::GetAncestor(window, GA_PARENT), reinterpret_cast<POINT*>(&present),
+                    2);
+  if (FromSystem(present) == place) return;
   ::SetWindowPos(window, nullptr, place.left, place.top, place.width(), place.height(),
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+                 SWP_NOZORDER | SWP_NOACTIVATE | flags);
 }
 
 void KeepOnTop(HWND window, bool on) {

@@ -22,7 +22,7 @@ class Window {
 
   HWND handle() const { return handle_; }
   // Dots to the inch of the monitor the window is on; 96 before it is created.
-  int dpi() const;
+  int dpi() const { return handle_ ? dpi_ : kDefaultDpi; }
   Rect client() const;       // in pixels, corner 0, 0
   Rect screen_rect() const;  // in pixels of the screen
   bool visible() const { return ::IsWindowVisible(handle_) != FALSE; }
@@ -65,16 +65,19 @@ class Window {
   static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam);
   LRESULT Guarded(UINT message, WPARAM wparam, LPARAM lparam) noexcept;
   void OnTimer(UINT_PTR id);
+  bool HasClass(const wchar_t* name) const;
 
   Ui& ui_;
   HWND handle_ = nullptr;
-  int depth_ = 0;  // of messages within messages
+  int dpi_ = kDefaultDpi;  // kept, as the system looks through its monitors to tell
+  int depth_ = 0;          // of messages within messages
   std::vector<Timer*> timers_;
 };
 
 // Moves and sizes a window (pixels of the screen, of the parent for a child) and leaves its order
-// among the others and the focus alone.
-void PlaceWindow(HWND window, const Rect& place);
+// among the others and the focus alone; does nothing where it is there already. `flags` are further
+// SWP_ values.
+void PlaceWindow(HWND window, const Rect& place, UINT flags = 0);
 
 // Puts a window above all ordinary ones, or back among them, where it is and as it is.
 void KeepOnTop(HWND window, bool on);

@@ -62,8 +62,8 @@ void CalculatorForm::OnLoad() {
   lbl01234567890_.Load(handle(), lbl01234567890);
   lblDISPLAYFUNC_.Load(handle(), lblDISPLAYFUNC);
   lblSUB_.Load(handle(), lblSUB);
-  for (std::size_t i = 0; i < kCalculatorKeyCount; ++i) {
-    const auto key = static_cast<CalculatorKey>(i);
+  tab_order_ = ReadingOrder(LayOutCalculator({client().width(), client().height()}, dpi(), false));
+  for (const CalculatorKey key : tab_order_) {
     const bool named_as_drawn = KeyName(key) == KeyFace(key);
     buttons().Add(ButtonOf(key), std::wstring(KeyName(key)),
                   named_as_drawn ? L'\0' : KeyFace(key)[0], false);

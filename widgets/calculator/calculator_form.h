@@ -52,6 +52,7 @@ class CalculatorForm : public WidgetForm {  // frmCLCwg
   void PlaceNumber();
   void PlaceDisplay();
   void PlaceKeys();
+  void OrderKeys(const std::vector<CalculatorKey>& keys);
   void PlaceLog();
   bool ListHasFocus() const { return ::GetFocus() == lvwFILES_.handle(); }
   void ScrollDisplay(int units);
@@ -64,6 +65,7 @@ class CalculatorForm : public WidgetForm {  // frmCLCwg
   bool history_shown_ = true;
   CalculatorLayout places_;
   int key_font_height_ = 0;
+  std::vector<CalculatorKey> tab_order_;
   int first_unit_ = 0;        // of the display that is seen
   int units_beyond_ = 0;      // that have no room beside the others
   int wheel_turn_ = 0;        // not yet a whole step

@@ -148,4 +148,15 @@ CalculatorLayout LayOutCalculator(Size panel, int dpi, bool with_log) {
   return Builder(panel, dpi).Build(with_log);
 }
 
+std::vector<CalculatorKey> ReadingOrder(const CalculatorLayout& layout) {
+  std::vector<CalculatorKey> keys;
+  for (std::size_t i = 0; i < kCalculatorKeyCount; ++i) {
+    keys.push_back(static_cast<CalculatorKey>(i));
+  }
+  std::ranges::stable_sort(keys, {}, [&layout](CalculatorKey key) {
+    return std::pair(layout.KeyPlace(key).top, layout.KeyPlace(key).left);
+  });
+  return keys;
+}
+
 }  // namespace varnel

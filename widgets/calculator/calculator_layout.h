@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <vector>
 
 #include "base/geometry.h"
 #include "widgets/calculator/calculator_keys.h"
@@ -26,5 +27,8 @@ struct CalculatorLayout {
 // Nothing overlaps, and every key has room from a panel of 150 x 50 px at 96 dpi on; on a smaller
 // one some may be empty.
 CalculatorLayout LayOutCalculator(Size panel, int dpi, bool with_log);
+
+// The keys from left to right, row by row.
+std::vector<CalculatorKey> ReadingOrder(const CalculatorLayout& layout);
 
 }  // namespace varnel

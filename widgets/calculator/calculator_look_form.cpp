@@ -109,15 +109,16 @@ void CalculatorForm::PlaceKeys() {
   key_font_height_ =
       FittingHeight(KeyFace(CalculatorKey::kDelete), {smallest.width() * 4 / 5, smallest.height()},
                     std::max(smallest.height() * 3 / 5, Scaled(kLeastKeyFont, dpi())), measure);
-  std::vector<CalculatorKey> keys;
-  for (std::size_t i = 0; i < kCalculatorKeyCount; ++i) {
-    keys.push_back(static_cast<CalculatorKey>(i));
-    buttons().Place(ButtonOf(keys.back()), Within(layout().pfrPANEL, places_.keys[i]));
+  const std::vector<CalculatorKey> keys = ReadingOrder(places_);
+  for (const CalculatorKey key : keys) {
+    buttons().Place(ButtonOf(key), Within(layout().pfrPANEL, places_.KeyPlace(key)));
   }
-  // Tab goes from key to key as they are read.
-  std::ranges::sort(keys, {}, [this](CalculatorKey key) {
-    return std::pair(places_.KeyPlace(key).top, places_.KeyPlace(key).left);
-  });
+  if (keys != tab_order_) OrderKeys(keys);
+}
+
+// Tab goes from key to key as they are read.
+void CalculatorForm::OrderKeys(const std::vector<CalculatorKey>& keys) {
+  tab_order_ = keys;
   HWND former = lblSUB_.handle();
   for (const CalculatorKey key : keys) {
     const TextButton* button = buttons().Find(ButtonOf(key));

@@ -91,10 +91,11 @@ ClockLayout LargestLayout(const Texts& texts, const Rect& area, int most,
   if (most_date == 0) return {};
   Texts widest = texts;
   widest.time = WithFullHour(texts.time);
-  const int height = LargestHeight(most, [&](int candidate) {
-    const Rect bounds = Arrange(widest, candidate, most_date, measure).bounds;
-    return bounds.width() <= room.width && bounds.height() <= room.height;
-  });
+  const auto size_at = [&](int height) {
+    const Rect bounds = Arrange(widest, height, most_date, measure).bounds;
+    return Size{bounds.width(), bounds.height()};
+  };
+  const int height = LargestFontIn(room, most, size_at);
   if (height == 0) return {};
   Group group = Arrange(texts, height, most_date, measure);
   const Point offset{area.left + (room.width - group.bounds.width()) / 2 - group.bounds.left,

@@ -98,10 +98,11 @@ CountdownLayout LayOutCountdown(Size panel, int dpi, std::wstring_view digits,
     const int separator = measure.Measure(L":", height).width + height / 8;
     return std::array<int, 3>{padded, separator, one.height};
   };
-  layout.font_height = LargestHeight(kMostFontHeight, [&](int height) {
+  const auto size_at = [&](int height) {
     const auto [padded, separator, high] = extent(height);
-    return 3 * padded + 2 * separator <= room.width() && high <= room.height();
-  });
+    return Size{3 * padded + 2 * separator, high};
+  };
+  layout.font_height = LargestFontIn({room.width(), room.height()}, kMostFontHeight, size_at);
   if (layout.font_height == 0) return layout;
   const auto [padded, separator, high] = extent(layout.font_height);
   int left = (panel.width - 3 * padded - 2 * separator) / 2;

@@ -113,8 +113,9 @@ class Arrangement {
  public:
   Arrangement(const Texts& texts, const Rect& area, int dpi, CardShape shape)
       : texts_(texts), area_(area), dpi_(dpi), shape_(shape) {
+    const int most = Scaled(kMostUnit, dpi);
     const int unit =
-        LargestHeight(Scaled(kMostUnit, dpi), [this](int candidate) { return SetUnit(candidate); });
+        LargestHeight(most, most / 4, [this](int candidate) { return SetUnit(candidate); });
     const int least = Scaled(texts.card() ? kLeastUnitWithCard : kLeastUnit, dpi);
     SetUnit(unit < least ? 0 : unit);
   }
@@ -171,8 +172,9 @@ bool Arrangement::SetUnit(int unit) {
 bool Arrangement::SetLine(const Words& words, int width, Line& line) const {
   const int least = Scaled(kLeastWords, dpi_);
   const int wished = std::max(least, Part(unit_, kWords));
-  line.font = std::max(
-      least, LargestHeight(wished, [&](int font) { return words.text.At(font).width <= width; }));
+  line.font = std::max(least, LargestHeight(wished, wished, [&](int font) {
+                         return words.text.At(font).width <= width;
+                       }));
   line.size = words.text.At(line.font);
   return words.least_width <= width;
 }
