@@ -122,6 +122,8 @@ void PlaceWindow(HWND window, const Rect& place, UINT flags) {
 }
 
 void KeepOnTop(HWND window, bool on) {
+  const bool is_on_top = (::GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
+  if (on == is_on_top) return;
   ::SetWindowPos(window, on ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }

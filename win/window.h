@@ -79,7 +79,8 @@ class Window {
 // SWP_ values.
 void PlaceWindow(HWND window, const Rect& place, UINT flags = 0);
 
-// Puts a window above all ordinary ones, or back among them, where it is and as it is.
+// Puts a window above all ordinary ones, or back among them, where it is and as it is; does
+// nothing where it is so already.
 void KeepOnTop(HWND window, bool on);
 
 // Runs messages until the program posts its quit message; gives that message's exit code. Keys go
