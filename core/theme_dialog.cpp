@@ -8,10 +8,8 @@
 #include "core/place_beside.h"
 #include "core/theme_preview_win.h"
 #include "resources/control_ids.h"
-#include "theme/font_list.h"
 #include "theme/preset_generator.h"
 #include "win/common_controls.h"
-#include "win/installed_fonts.h"
 #include "win/monitors.h"
 
 namespace varnel {
@@ -68,7 +66,8 @@ ThemeDialog::ThemeDialog(Services& services)
 
 void ThemeDialog::OnOpen() {
   FillTabs();
-  FillFonts();
+  const std::vector<std::wstring> faces = OfferedFontFaces();
+  for (std::size_t i = 0; i < fonts_.size(); ++i) fonts_[i].Attach(Control(kFonts[i].combo), faces);
   presets_.Attach(Control(lvwTHEMES), static_cast<int>(::GetDpiForWindow(handle())));
   for (const std::wstring_view style : kStyleFolders) {
     ::SendMessageW(Control(lstFOLDERS), LB_ADDSTRING, 0, TextParameter(std::wstring(style)));
@@ -159,23 +158,6 @@ void ThemeDialog::FillTabs() {
                  SWP_NOMOVE | SWP_NOZORDER);
 }
 
-void ThemeDialog::FillFonts() {
-  std::vector<std::wstring> faces = InstalledFontFaces();
-  // The program's own symbols have no letters, and are not installed.
-  std::erase_if(faces, [](const std::wstring& face) {
-    return face == kIconFontName || !IsFontOffered(face);
-  });
-  for (const FontField& font : kFonts) {
-    HWND combo = Control(font.combo);
-    ::SendMessageW(combo, WM_SETREDRAW, FALSE, 0);
-    ::SendMessageW(combo, CB_LIMITTEXT, kLongestFontName, 0);
-    for (const std::wstring& face : faces) {
-      ::SendMessageW(combo, CB_ADDSTRING, 0, TextParameter(face));
-    }
-    ::SendMessageW(combo, WM_SETREDRAW, TRUE, 0);
-  }
-}
-
 void ThemeDialog::ShowPage(int page) {
   TabCtrl_SetCurSel(Control(tabMAIN), page);
   for (HWND child = ::GetWindow(handle(), GW_CHILD); child;
@@ -199,16 +181,7 @@ void ThemeDialog::ShowValues() {
     ::SendMessageW(Control(slider.control), TBM_SETPOS, TRUE, SliderPlace(theme, slider.number));
     SetControlText(slider.label, NumberLabel(theme, slider.number));
   }
-  for (const FontField& font : kFonts) {
-    const std::wstring& face = theme.*font.member;
-    HWND combo = Control(font.combo);
-    if (ControlText(font.combo) == face) continue;
-    const LRESULT place =
-        ::SendMessageW(combo, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), TextParameter(face));
-    ::SendMessageW(combo, CB_SETCURSEL, place, 0);
-    // A face that is not installed is shown all the same.
-    if (place == CB_ERR) SetControlText(font.combo, face);
-  }
+  for (std::size_t i = 0; i < fonts_.size(); ++i) fonts_[i].Show(theme.*kFonts[i].member);
   filling_ = false;
   for (const ColourField& colour : kColours) {
     ::InvalidateRect(Control(colour.swatch), nullptr, FALSE);
@@ -354,22 +327,14 @@ void ThemeDialog::OnSlider(HWND slider) {
 
 void ThemeDialog::OnFont(int combo, int code) {
   if (filling_) return;
-  const auto* font = std::ranges::find(kFonts, combo, &FontField::combo);
-  std::wstring& face = editor_.theme().*font->member;
-  HWND list = Control(combo);
-  // What is typed counts once it is the whole name of a font.
-  const bool typed = code == CBN_EDITCHANGE;
-  if (typed || code == CBN_SELCHANGE) {
-    const LRESULT place = typed ? ::SendMessageW(list, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
-                                                 TextParameter(ControlText(combo)))
-                                : ::SendMessageW(list, CB_GETCURSEL, 0, 0);
-    if (place == CB_ERR) return;
-    std::wstring name(::SendMessageW(list, CB_GETLBTEXTLEN, place, 0), L'\0');
-    ::SendMessageW(list, CB_GETLBTEXT, place, reinterpret_cast<LPARAM>(name.data()));
-    face = name;
-    Changed();
-  } else if (code == CBN_KILLFOCUS) {
-    ShowValues();
+  for (std::size_t i = 0; i < fonts_.size(); ++i) {
+    if (kFonts[i].combo != combo) continue;
+    if (const auto face = fonts_[i].Chosen(code)) {
+      editor_.theme().*kFonts[i].member = *face;
+      Changed();
+    } else if (code == CBN_KILLFOCUS) {
+      ShowValues();  // in place of what was typed and is no font
+    }
   }
 }
 

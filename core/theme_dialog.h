@@ -2,6 +2,9 @@
 // at once and keeps them when they are applied.
 #pragma once
 
+#include <array>
+
+#include "core/font_box_win.h"
 #include "core/preset_list_win.h"
 #include "core/services.h"
 #include "core/theme_editor.h"
@@ -33,7 +36,6 @@ class ThemeDialog : public Dialog {  // frmTHEME
   void MoveBeside(const LiveForm& form);
 
   void FillTabs();
-  void FillFonts();
   void ShowPage(int page);
   // The working theme has changed: the target and the controls follow.
   void Changed();
@@ -56,6 +58,7 @@ class ThemeDialog : public Dialog {  // frmTHEME
   Services& services_;
   ThemeEditor editor_;
   PresetList presets_;
+  std::array<FontBox, 2> fonts_;
   ColourPicker colours_;
   bool filling_ = false;  // controls change by our own hand
 };
