@@ -22,12 +22,19 @@ void PaintBar(Surface& surface, const FramePainting& frame) {
   PutImage(surface, {bar.left, bar.top}, image);
 }
 
-// Three short diagonal lines in the corner that sizes the window. They have no halo: where text is
-// carried by one, they take its colour.
+// The colour for lines, which have no halo: the text's, or its halo's where the text's is hardly
+// seen.
+Colour LineColour(const TextStyle& style) {
+  constexpr double kSeen = 2;
+  if (ContrastRatio(style.colour, style.ground) >= kSeen) return style.colour;
+  return HaloColour(style.colour, style.ground, style.halo_base, kReadableContrast,
+                    UserSystemColours())
+      .value_or(style.colour);
+}
+
+// Three short diagonal lines in the corner that sizes the window.
 void PaintGrip(Surface& surface, const FramePainting& frame) {
-  const TextStyle style = StripTextStyle(frame);
-  const auto halo = HaloOf(style.colour, style.ground, style.halo_base, false, UserSystemColours());
-  const Colour colour = halo && !halo->edge ? halo->colour : style.colour;
+  const Colour colour = LineColour(StripTextStyle(frame));
   const Rect& grip = frame.layout.size_grip;
   const int step = std::max(3, Scaled(4, frame.dpi));
   const int edge = Scaled(3, frame.dpi);
