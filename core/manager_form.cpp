@@ -107,7 +107,9 @@ void ManagerForm::WidgetSel(int mode) {
 }
 
 std::wstring ManagerForm::StatusText() const {
-  return NumberText(states_.OpenCount()) + L" of " + NumberText(kWidgetCount) + L" open";
+  int available = 0;
+  for (int i = 0; i < kWidgetCount; ++i) available += host_.Available(i) ? 1 : 0;
+  return NumberText(states_.OpenCount()) + L" of " + NumberText(available) + L" open";
 }
 
 std::vector<MenuItem> ManagerForm::MenuGroup() const {
