@@ -17,8 +17,8 @@ constexpr int kGlyphHeight = 16;
 void PaintBar(Surface& surface, const FramePainting& frame) {
   const Rect& bar = frame.layout.pfrBAR;
   Image image(bar.width(), bar.height());
-  FillGradient(image, frame.chrome.bar.first, frame.chrome.bar.second, frame.chrome.bar_angle,
-               UserSystemColours());
+  FillGradient(image, frame.paint.chrome.bar.first, frame.paint.chrome.bar.second,
+               frame.paint.chrome.bar_angle, UserSystemColours());
   PutImage(surface, {bar.left, bar.top}, image);
 }
 
@@ -34,7 +34,7 @@ Colour LineColour(const TextStyle& style) {
 
 // Three short diagonal lines in the corner that sizes the window.
 void PaintGrip(Surface& surface, const FramePainting& frame) {
-  const Colour colour = LineColour(StripTextStyle(frame));
+  const Colour colour = LineColour(StripTextStyle(frame.paint, frame.dpi));
   const Rect& grip = frame.layout.size_grip;
   const int step = std::max(3, Scaled(4, frame.dpi));
   const int edge = Scaled(3, frame.dpi);
@@ -48,29 +48,29 @@ void PaintGrip(Surface& surface, const FramePainting& frame) {
 
 }  // namespace
 
-TextStyle BarTextStyle(const FramePainting& frame) {
+TextStyle BarTextStyle(const WidgetPaint& paint, int dpi) {
   TextStyle style;
-  style.font = {frame.theme.strTHEMEBARFONTNAME, Scaled(kTitleHeight, frame.dpi), false};
-  style.colour = frame.theme.lngTHEMEBARFONTCOLOR;
-  style.ground = frame.chrome.bar.first;
-  style.halo_base = frame.theme.lngTHEMECOLOR;
+  style.font = {paint.theme.strTHEMEBARFONTNAME, Scaled(kTitleHeight, dpi), false};
+  style.colour = paint.theme.lngTHEMEBARFONTCOLOR;
+  style.ground = paint.chrome.bar.first;
+  style.halo_base = paint.theme.lngTHEMECOLOR;
   style.align = Align::kLeft;
-  style.dpi = frame.dpi;
+  style.dpi = dpi;
   return style;
 }
 
-TextStyle StripTextStyle(const FramePainting& frame) {
-  TextStyle style = BarTextStyle(frame);
-  style.font.height = Scaled(kStatusHeight, frame.dpi);
-  style.ground = frame.chrome.ground;
+TextStyle StripTextStyle(const WidgetPaint& paint, int dpi) {
+  TextStyle style = BarTextStyle(paint, dpi);
+  style.font.height = Scaled(kStatusHeight, dpi);
+  style.ground = paint.chrome.ground;
   return style;
 }
 
 void PaintFrame(Ui& ui, Surface& surface, const FramePainting& frame) {
   const Rect all{0, 0, surface.size().width, surface.size().height};
-  FillRectangle(surface.dc(), all, frame.chrome.ground);
+  FillRectangle(surface.dc(), all, frame.paint.chrome.ground);
   PaintBar(surface, frame);
-  TextStyle style = BarTextStyle(frame);
+  TextStyle style = BarTextStyle(frame.paint, frame.dpi);
   PaintText(ui, surface, frame.layout.title_text, frame.title, style);
   style.font = {kIconFontName, Scaled(kGlyphHeight, frame.dpi), false};
   style.align = Align::kCentre;
@@ -78,10 +78,11 @@ void PaintFrame(Ui& ui, Surface& surface, const FramePainting& frame) {
 
   const Rect& strip = frame.layout.picBOTTOMSTRIP;
   FillRectangle(surface.dc(), {strip.left, strip.top, strip.right, strip.top + 1},
-                frame.chrome.border);
-  PaintText(ui, surface, frame.layout.status_text, frame.status, StripTextStyle(frame));
+                frame.paint.chrome.border);
+  PaintText(ui, surface, frame.layout.status_text, frame.status,
+            StripTextStyle(frame.paint, frame.dpi));
   PaintGrip(surface, frame);
-  FrameRectangle(surface.dc(), all, frame.chrome.border);
+  FrameRectangle(surface.dc(), all, frame.paint.chrome.border);
 }
 
 }  // namespace varnel

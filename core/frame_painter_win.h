@@ -4,15 +4,14 @@
 #include <string>
 
 #include "core/frame_layout.h"
-#include "theme/chrome_colours.h"
 #include "theme/text_painter_win.h"
+#include "theme/widget_paint.h"
 
 namespace varnel {
 
 struct FramePainting {
   const FrameLayout& layout;
-  const ChromeColours& chrome;
-  const ThemeRecord& theme;
+  const WidgetPaint& paint;
   std::wstring title;
   wchar_t glyph = 0;
   std::wstring status;
@@ -23,7 +22,7 @@ struct FramePainting {
 void PaintFrame(Ui& ui, Surface& surface, const FramePainting& frame);
 
 // The style of texts on the title bar, and of those on the bottom strip.
-TextStyle BarTextStyle(const FramePainting& frame);
-TextStyle StripTextStyle(const FramePainting& frame);
+TextStyle BarTextStyle(const WidgetPaint& paint, int dpi);
+TextStyle StripTextStyle(const WidgetPaint& paint, int dpi);
 
 }  // namespace varnel

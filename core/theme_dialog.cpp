@@ -350,6 +350,8 @@ void ThemeDialog::PickColour(int button) {
 
 void ThemeDialog::Apply() {
   editor_.Apply();
+  // Like every confirmed change of settings, this brings the start with Windows in line with them.
+  services_.program.RegisterRunAtLogon();
   Changed();
 }
 

@@ -19,8 +19,7 @@ void PaintSampleWidget(Ui& ui, Surface& surface, const WidgetPaint& paint, const
   FrameLayout layout = LayOutFrame(surface.size(), dpi);
   layout.title_text.right = layout.pfrBAR.right - Scaled(kMargin, dpi);  // there are no buttons
   PaintFrame(ui, surface,
-             {layout, paint.chrome, paint.theme, std::wstring(entry.title), entry.glyph,
-              L"Bottom bar", dpi});
+             {layout, paint, std::wstring(entry.title), entry.glyph, L"Bottom bar", dpi});
   TextStyle style;
   style.font = {paint.theme.strTHEMEPANELFONTNAME, Scaled(kSampleHeight, dpi), false};
   style.colour = paint.theme.lngTHEMEPANELFONTCOLOR;

@@ -1,9 +1,11 @@
 #include "core/widget_form.h"
 
 #include "core/core_settings.h"
+#include "core/frame_painter_win.h"
 #include "core/screens_win.h"
 #include "core/sizes.h"
 #include "resources/control_ids.h"
+#include "theme/contrast.h"
 #include "theme/theme_store.h"
 #include "win/user_look.h"
 
@@ -14,6 +16,7 @@ constexpr int kHoverTickMs = 100;
 constexpr wchar_t kBarGlyphs[] = {L'\xE204', L'\xE203', L'\xE202'};
 constexpr const wchar_t* kBarWords[] = {L"Menu", L"Hide", L"Close"};
 constexpr int kBarGlyphHeight = 17;
+constexpr double kVisibleFace = 1.1;  // the contrast of a button's face with the panel
 
 // The user wants to see the focus even while the mouse is used.
 bool KeyboardCuesAlways() {
@@ -160,13 +163,9 @@ void WidgetForm::RepaintStatus() {
   ::InvalidateRect(handle(), &strip, FALSE);
 }
 
-FramePainting WidgetForm::Painting() const {
-  return {layout_,      paint_.chrome, paint_.theme, std::wstring(entry_.title),
-          entry_.glyph, StatusText(),  dpi()};
-}
-
 void WidgetForm::Paint(Surface& surface) {
-  PaintFrame(ui(), surface, Painting());
+  PaintFrame(ui(), surface,
+             {layout_, paint_, std::wstring(entry_.title), entry_.glyph, StatusText(), dpi()});
   PaintPanel(surface, layout_.pfrPANEL);
 }
 
@@ -177,11 +176,12 @@ void WidgetForm::DrawButton(const DRAWITEMSTRUCT& item) {
   Surface surface({bounds.width(), bounds.height()});
   FillRectangle(surface.dc(), bounds, button->on_bar ? chrome().bar.first : chrome().ground);
   const ButtonLook look = buttons_.LookOf(*button, item);
+  const ColourPair colours = ButtonColours(paint_, look, services_.colours);
   const ButtonPainting painting{*button,
                                 surface,
                                 bounds,
                                 look,
-                                ButtonColours(paint_, look, services_.colours),
+                                button->on_bar ? colours : SeenOnPanel(colours),
                                 (item.itemState & ODS_FOCUS) != 0 && focus_shown_,
                                 (item.itemState & ODS_DISABLED) == 0};
   if (button->on_bar) {
@@ -192,6 +192,11 @@ void WidgetForm::DrawButton(const DRAWITEMSTRUCT& item) {
     DrawPanelButton(painting);
   }
   surface.CopyTo(item.hDC, {0, 0});
+}
+
+ColourPair WidgetForm::SeenOnPanel(const ColourPair& button) const {
+  const bool lost = ContrastRatio(button.first, chrome().ground) < kVisibleFace;
+  return {button.first, lost ? chrome().border : button.second};
 }
 
 void WidgetForm::DrawPanelButton(const ButtonPainting& painting) {

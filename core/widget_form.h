@@ -7,7 +7,6 @@
 #include "base/menu.h"
 #include "core/form_registry.h"
 #include "core/frame_layout.h"
-#include "core/frame_painter_win.h"
 #include "core/placement.h"
 #include "core/services.h"
 #include "core/text_buttons_form.h"
@@ -77,8 +76,8 @@ class WidgetForm : public PaintedWindow, public LiveForm {
   TextButtons& buttons() { return buttons_; }
   // A style for texts on the panel: the theme's panel font and colour.
   TextStyle PanelTextStyle(int font_height) const;
-  // What the frame is painted from, for the styles of texts on its bar and strip.
-  FramePainting Painting() const;
+  // A button's face and outline; a face that is lost in the panel gets an outline that is not.
+  ColourPair SeenOnPanel(const ColourPair& button) const;
   void RepaintStatus();
 
  private:

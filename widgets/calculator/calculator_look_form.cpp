@@ -19,8 +19,7 @@ constexpr int kMostLogFontHeight = 22;
 constexpr int kLogMargin = 4;
 constexpr double kWellRadius = 4;
 
-constexpr double kVisibleFace = 1.1;  // the contrast of a face with the panel
-constexpr double kDarkFace = 0.06;    // the luminance below which nothing darker can be told apart
+constexpr double kDarkFace = 0.06;  // the luminance below which nothing darker can be told apart
 
 // How much of a colour is kept by what has to stand out from it a little, plainly, and most.
 constexpr int kSunk = 232;
@@ -159,10 +158,7 @@ void CalculatorForm::DrawPanelButton(const ButtonPainting& painting) {
   if (!key) return;
   ButtonPainting toned = painting;
   toned.colours.first = Toned(painting.colours.first, FaceWeight(*key));
-  // A face that is lost in the panel gets an outline that is not.
-  if (ContrastRatio(toned.colours.first, chrome().ground) < kVisibleFace) {
-    toned.colours.second = chrome().border;
-  }
+  toned.colours = SeenOnPanel(toned.colours);
   PaintButtonFace(toned, dpi());
   TextStyle style = PanelTextStyle(key_font_height_);
   style.ground = toned.colours.first;

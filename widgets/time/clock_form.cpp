@@ -1,5 +1,6 @@
 #include "widgets/time/clock_form.h"
 
+#include "core/frame_painter_win.h"
 #include "core/shared_menu.h"
 #include "resources/control_ids.h"
 #include "win/font_measure.h"
@@ -70,8 +71,13 @@ void ClockForm::PlaceLabels() {
 }
 
 std::wstring ClockForm::StatusText() const {
-  // A date that the panel has no room for stands in the strip.
-  return labels_.date.shown() ? L"" : shown_.date;
+  if (labels_.date.shown()) return {};
+  // A date that the panel has no room for stands in the strip, in figures where that is narrow.
+  const TextStyle strip = StripTextStyle(paint(), dpi());
+  const FontMeasure measure(strip.font.face, false);
+  const bool fits =
+      measure.Measure(shown_.date, strip.font.height).width <= layout().status_text.width();
+  return fits ? shown_.date : services().formatter.Format(services().clock.Now(), L"Short Date");
 }
 
 std::vector<MenuItem> ClockForm::MenuGroup() const {

@@ -2,6 +2,7 @@
 
 #include "base/image.h"
 #include "base/rounded_box.h"
+#include "core/frame_painter_win.h"
 #include "core/shared_menu.h"
 #include "resources/control_ids.h"
 #include "widgets/weather/live_source.h"
@@ -101,7 +102,7 @@ void WeatherForm::PlaceLabels(const Rect& panel) {
 }
 
 void WeatherForm::PlaceStrip() {
-  const TextStyle style = StripTextStyle(Painting());
+  const TextStyle style = StripTextStyle(paint(), dpi());
   const FontMeasure measure(style.font.face, false);
   Rect room = layout().status_text;
   room.top += 1;  // below the line that the frame draws
@@ -147,7 +148,7 @@ void WeatherForm::PaintPanel(Surface& surface, const Rect& panel) {
 }
 
 void WeatherForm::DrawPanelButton(const ButtonPainting& painting) {
-  TextStyle style = StripTextStyle(Painting());
+  TextStyle style = StripTextStyle(paint(), dpi());
   style.align = Align::kLeft;
   PaintText(ui(), painting.surface, painting.bounds, WindowText(painting.button.handle), style);
   if (painting.look == ButtonLook::kNormal && !painting.focused) return;
