@@ -1,5 +1,7 @@
 #include "tests/rig/program.h"
 
+#include <gtest/gtest.h>
+
 #include "tests/rig/files.h"
 
 namespace varnel::rig {
@@ -25,6 +27,7 @@ bool Program::Start(const std::wstring& more) {
   PROCESS_INFORMATION process = {};
   if (!::CreateProcessW(exe.c_str(), command.data(), nullptr, nullptr, FALSE, CREATE_SUSPENDED,
                         nullptr, nullptr, &startup, &process)) {
+    ADD_FAILURE() << "The program cannot be started: error " << ::GetLastError();
     return false;
   }
   const UniqueKernelHandle thread(process.hThread);
@@ -33,7 +36,11 @@ bool Program::Start(const std::wstring& more) {
   killed_ = false;
   job_ = EndingJob();
   ::AssignProcessToJobObject(job_.get(), process_.get());
-  return ::ResumeThread(thread.get()) != static_cast<DWORD>(-1);
+  if (::ResumeThread(thread.get()) == static_cast<DWORD>(-1)) {
+    ADD_FAILURE() << "The program does not go on: error " << ::GetLastError();
+    return false;
+  }
+  return true;
 }
 
 bool Program::running() const {
