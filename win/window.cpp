@@ -33,8 +33,7 @@ Window* Window::FromHandle(HWND handle) {
   return reinterpret_cast<Window*>(::GetWindowLongPtrW(handle, GWLP_USERDATA));
 }
 
-// Makes the class on first use.
-bool Window::HasClass(const wchar_t* name) const {
+bool Window::EnsureClass(const wchar_t* name) const {
   WNDCLASSEXW description = {};
   description.cbSize = sizeof description;
   if (::GetClassInfoExW(ui_.instance, name, &description)) return true;
@@ -48,7 +47,7 @@ bool Window::HasClass(const wchar_t* name) const {
 }
 
 bool Window::Create(const Creation& creation) {
-  if (!HasClass(creation.class_name)) return false;
+  if (!EnsureClass(creation.class_name)) return false;
   const Rect& place = creation.place;
   return ::CreateWindowExW(creation.extended_style, creation.class_name, creation.title.c_str(),
                            creation.style, place.left, place.top, place.width(), place.height(),

@@ -65,7 +65,8 @@ class Window {
   static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam);
   LRESULT Guarded(UINT message, WPARAM wparam, LPARAM lparam) noexcept;
   void OnTimer(UINT_PTR id);
-  bool HasClass(const wchar_t* name) const;
+  // Registers the window class on first use; false when the system refuses.
+  bool EnsureClass(const wchar_t* name) const;
 
   Ui& ui_;
   HWND handle_ = nullptr;

@@ -187,6 +187,22 @@ TEST_F(Start, ShellThatStartsAnewGetsTheTrayIconAgain) {
   EXPECT_TRUE(WaitForMenus(program(), 0));
 }
 
+TEST_F(Start, KilledWhileSettingsAreWrittenItComesBackAsItWas) {
+  for (int round = 0; round < 6; ++round) {
+    HWND manager = StartWithManager();
+    const Rect place = RectOf(manager);
+    // Each toggle writes a flag and a place; the kill comes somewhere among them.
+    for (int i = 0; i <= round; ++i) Choose(manager, L"mnuDCWIDGETS", 0);
+    program().Kill();
+    const std::wstring flag = Flag(L"Start-Load-Clock");
+    EXPECT_TRUE(flag.empty() || flag == L"True" || flag == L"False") << flag;
+    manager = StartWithManager();
+    EXPECT_EQ(RectOf(manager), place);
+    EXPECT_EQ(FindForm(program(), L"frmCLKwg") != nullptr, flag == L"True");
+    program().Kill();
+  }
+}
+
 TEST_F(Start, HostileSettingsKeepEveryWindowReachable) {
   const Registry& settings = root().settings();
   const std::wstring huge(5000, L'9');
