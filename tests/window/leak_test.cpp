@@ -35,15 +35,41 @@ int FreeDrawingObjects() {
   return static_cast<int>(brushes.size());
 }
 
-TEST(Leaks, AThousandMenusLeaveNothingBehind) {
+// Closes every menu as soon as it has opened.
+class MenuOwner : public Window {
+ public:
+  explicit MenuOwner(Ui& ui) : Window(ui) {
+    Creation creation;
+    creation.class_name = L"VarnelMenuOwner";
+    EXPECT_TRUE(Create(creation));
+  }
+
+  int opened = 0;
+
+ private:
+  LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override {
+    if (message == WM_INITMENUPOPUP) {
+      ++opened;
+      ::PostMessageW(handle(), WM_CANCELMODE, 0, 0);
+    }
+    return Window::OnMessage(message, wparam, lparam);
+  }
+};
+
+TEST(Leaks, AThousandMenusOpenedLeaveNothingBehind) {
+  Ui ui{::GetModuleHandleW(nullptr), {}, {}};
+  MenuOwner owner(ui);
   const std::vector<MenuItem> items = BuildSharedMenu({});
-  const auto open = [&] { ASSERT_GE(::GetMenuItemCount(BuildPopupMenu(items).get()), 10); };
+  const auto open = [&] { ASSERT_EQ(ShowPopupMenu(owner.handle(), {10, 10}, items), 0); };
   for (int i = 0; i < 10; ++i) open();
   FreeMenus();
-  const int before = FreeMenus();
+  const int menus = FreeMenus();
+  const int drawing_objects = FreeDrawingObjects();
   for (int i = 0; i < 1000; ++i) open();
   // Each menu is four with its submenus; the count itself drifts by a few.
-  EXPECT_NEAR(FreeMenus(), before, 20);
+  EXPECT_NEAR(FreeMenus(), menus, 20);
+  EXPECT_NEAR(FreeDrawingObjects(), drawing_objects, 20);
+  EXPECT_EQ(owner.opened, 1010);
 }
 
 TEST(Leaks, AThousandThemesPaintedLeaveNothingBehind) {
