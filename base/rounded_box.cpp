@@ -8,6 +8,9 @@ namespace {
 
 // `over` laid on `under` with `coverage` from 0 to 1.
 std::uint32_t Mixed(std::uint32_t under, std::uint32_t over, double coverage) {
+  constexpr std::uint32_t kColour = 0xFFFFFF;
+  if (coverage <= 0) return under & kColour;
+  if (coverage >= 1) return over & kColour;  // nearly every pixel
   std::uint32_t result = 0;
   for (int shift = 0; shift <= 16; shift += 8) {
     const double low = under >> shift & 0xFF;
@@ -21,7 +24,9 @@ std::uint32_t Mixed(std::uint32_t under, std::uint32_t over, double coverage) {
 double EdgeDistance(double x, double y, double half_width, double half_height, double radius) {
   const double across = std::abs(x) - half_width + radius;
   const double down = std::abs(y) - half_height + radius;
-  return std::hypot(std::max(across, 0.0), std::max(down, 0.0)) +
+  const double beyond_side = std::max(across, 0.0);
+  const double beyond_end = std::max(down, 0.0);
+  return std::sqrt(beyond_side * beyond_side + beyond_end * beyond_end) +
          std::min(std::max(across, down), 0.0) - radius;
 }
 

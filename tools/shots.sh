@@ -35,6 +35,19 @@ symbols() {
     "label:$lines" -border 16 "$shots/sheets/weather-symbols.png"
 }
 
+# The six windows of the README's picture, in a theme each.
+desktop() {
+  local window=5900x3471 name
+  local pictures=()
+  for name in manager-$window clock-$window-Glass-Orange calculator-$window-Slate-Forest \
+    stopwatch-$window-Soft-Pink countdown-$window-Neon-Cyan weather-$window-Frosted-Sky; do
+    [ -f "$shots/$name.png" ] || return 0
+    pictures+=("$shots/$name.png")
+  done
+  imagemagick montage "${pictures[@]}" -tile 3x -geometry '+8+8' -background '#256f96' \
+    "$shots/sheets/desktop.png"
+}
+
 imagemagick mogrify -format png "$shots"/*.bmp
 rm "$shots"/*.bmp
 sheet presets 14 'presets-*'
@@ -44,4 +57,5 @@ for size in 2400x1600 5900x3471 7500x5250; do
   sheet "widgets-$size-presets" 6 "*-$size-[A-Z]*"
 done
 symbols
+desktop
 echo "The pictures are in build/shots"
