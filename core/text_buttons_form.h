@@ -51,6 +51,8 @@ class TextButtons {
   // Notes that the mouse is over `control` (any window). True when it has just come to a button;
   // one that shows a glyph then tells its word.
   bool OnMouseOver(HWND control);
+  // While not allowed no button tells its word.
+  void AllowTooltip(bool allowed) { tooltip_.Allow(allowed); }
   // Looks where the mouse is now. True when it has left the button that it was over.
   bool MouseHasLeft();
 

@@ -48,6 +48,11 @@ void ThemeDialog::OnNameBox(int code) {
 void ThemeDialog::NewPreset() {
   const std::wstring name = ControlText(txtPRESETNEW);
   const std::wstring title(kApplicationTitle);
+  if (presets_.Find(Trim(name)) >= 0) {
+    const std::wstring question =
+        L"Replace the preset \"" + Trim(name) + L"\" of the style \"" + editor_.folder() + L"\"?";
+    if (!AskYesNo(handle(), question, title) || !handle()) return;
+  }
   switch (editor_.NewPreset(name)) {
     case PresetSaved::kNoName:
       ShowInformation(handle(), L"Please make sure you type it in correctly.",

@@ -119,6 +119,7 @@ class WidgetForm : public PaintedWindow, public LiveForm {
   bool on_top_ = false;
   bool own_on_top_ = false;  // on_top_ was chosen for this window alone
   bool sizing_ = false;
+  bool moving_ = false;  // the system moves the window after the mouse
   bool focus_shown_ = false;
   HWND last_focus_ = nullptr;
   TextButtons buttons_;

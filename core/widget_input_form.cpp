@@ -71,10 +71,15 @@ void WidgetForm::ShowMenu(Point at) {
     if (item.id == CommandId(kTopCommand)) item.id = CommandId(TopCommand());
     items.push_back(std::move(item));
   }
-  RunCommand(ShowPopupMenu(handle(), at, items));
+  buttons_.AllowTooltip(false);  // it would lie over the menu
+  const int chosen = ShowPopupMenu(handle(), at, items);
+  if (handle()) buttons_.AllowTooltip(true);
+  RunCommand(chosen);
 }
 
 void WidgetForm::OnContextMenu(LPARAM position) {
+  // A menu would keep the end of the movement from the window, which would follow the mouse on.
+  if (moving_ || sizing_) return;
   if (position == -1) {  // asked for by key
     const Rect window = screen_rect();
     ShowMenu({window.left + layout_.title_text.left, window.top + layout_.pfrBAR.bottom});
@@ -108,7 +113,9 @@ void WidgetForm::OnLeftButtonDown(Point at) {
 
 void WidgetForm::DragStart() {
   ::ReleaseCapture();
+  moving_ = true;
   ::SendMessageW(handle(), WM_NCLBUTTONDOWN, HTCAPTION, 0);
+  moving_ = false;
   if (handle()) SnapAndKeep();
 }
 

@@ -9,6 +9,7 @@ namespace varnel {
 
 bool Dialog::Open(HWND owner) {
   if (!handle_) {
+    opener_ = ::GetActiveWindow();
     WNDCLASSEXW description = {};
     description.cbSize = sizeof description;
     description.lpfnWndProc = ::DefDlgProcW;
@@ -30,7 +31,10 @@ bool Dialog::Open(HWND owner) {
 }
 
 void Dialog::Close() {
-  if (handle_) ::DestroyWindow(handle_);
+  if (!handle_) return;
+  // Back to where the user came from; the system would go by the order of the windows.
+  if (::GetActiveWindow() == handle_ && ::IsWindowVisible(opener_)) ::SetForegroundWindow(opener_);
+  ::DestroyWindow(handle_);
 }
 
 std::wstring Dialog::ControlText(int id) const {

@@ -49,6 +49,7 @@ class Dialog {
   Ui& ui_;
   const wchar_t* form_name_;
   HWND handle_ = nullptr;
+  HWND opener_ = nullptr;  // the window that was active before
 };
 
 }  // namespace varnel

@@ -27,4 +27,8 @@ void Tooltip::Attach(HWND form, HWND control, const std::wstring& text) {
   ::SendMessageW(window_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
+void Tooltip::Allow(bool allowed) {
+  if (window_) ::SendMessageW(window_, TTM_ACTIVATE, allowed, 0);
+}
+
 }  // namespace varnel

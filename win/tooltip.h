@@ -13,6 +13,8 @@ class Tooltip {
  public:
   // `text` appears when the mouse rests on `control`, which it has just come to.
   void Attach(HWND form, HWND control, const std::wstring& text);
+  // While not allowed none appears, and one that is shown goes.
+  void Allow(bool allowed);
 
  private:
   HWND window_ = nullptr;

@@ -169,6 +169,10 @@ TEST_F(ThemeDialogScene, PresetsAreMadeCompletedAndDeleted) {
   EXPECT_SOON(FileExists(PresetPath(L"My blue")));
   EXPECT_SOON_EQ(Items(Part(flbLIST)).size(), 16u);
   Slide(hsbOPACITY, 200);
+  ASSERT_TRUE(ClickOn(Part(btnNEW)));
+  HWND replace = WaitForDialog(program());
+  EXPECT_EQ(DialogText(replace), L"Replace the preset \"My blue\" of the style \"Soft\"?");
+  ASSERT_TRUE(CloseDialog(replace, IDNO));
   ASSERT_TRUE(Select(Part(flbLIST), L"My blue.dcp"));
   EXPECT_SOON_EQ(AlphaOf(clock_), 77);
   ASSERT_TRUE(ClickOn(Part(btnDELETE)));
