@@ -3,6 +3,7 @@
 #include <exception>
 
 #include "base/text.h"
+#include "win/window.h"
 #include "win/window_text.h"
 
 namespace varnel {
@@ -10,15 +11,7 @@ namespace varnel {
 bool Dialog::Open(HWND owner) {
   if (!handle_) {
     opener_ = ::GetActiveWindow();
-    WNDCLASSEXW description = {};
-    description.cbSize = sizeof description;
-    description.lpfnWndProc = ::DefDlgProcW;
-    description.cbWndExtra = DLGWINDOWEXTRA;
-    description.hInstance = ui_.instance;
-    description.hCursor = ::LoadCursorW(nullptr, MAKEINTRESOURCEW(32512));  // the arrow
-    description.hIcon = ::LoadIconW(ui_.instance, MAKEINTRESOURCEW(kApplicationIcon));
-    description.lpszClassName = form_name_;
-    ::RegisterClassExW(&description);
+    EnsureClass(ui_, form_name_, ::DefDlgProcW, DLGWINDOWEXTRA);
     ::CreateDialogParamW(ui_.instance, form_name_, owner, &Procedure,
                          reinterpret_cast<LPARAM>(this));
     if (!handle_) return false;

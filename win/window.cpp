@@ -33,21 +33,22 @@ Window* Window::FromHandle(HWND handle) {
   return reinterpret_cast<Window*>(::GetWindowLongPtrW(handle, GWLP_USERDATA));
 }
 
-bool Window::EnsureClass(const wchar_t* name) const {
+bool EnsureClass(Ui& ui, const wchar_t* name, WNDPROC procedure, int extra) {
   WNDCLASSEXW description = {};
   description.cbSize = sizeof description;
-  if (::GetClassInfoExW(ui_.instance, name, &description)) return true;
-  description.lpfnWndProc = &Procedure;
-  description.hInstance = ui_.instance;
+  if (::GetClassInfoExW(ui.instance, name, &description)) return true;
+  description.lpfnWndProc = procedure;
+  description.cbWndExtra = extra;
+  description.hInstance = ui.instance;
   description.hCursor = ::LoadCursorW(nullptr, MAKEINTRESOURCEW(32512));  // the arrow
-  if (!ui_.icon) ui_.icon = ::LoadIconW(ui_.instance, MAKEINTRESOURCEW(kApplicationIcon));
-  description.hIcon = ui_.icon;
+  if (!ui.icon) ui.icon = ::LoadIconW(ui.instance, MAKEINTRESOURCEW(kApplicationIcon));
+  description.hIcon = ui.icon;
   description.lpszClassName = name;
   return ::RegisterClassExW(&description) != 0;
 }
 
 bool Window::Create(const Creation& creation) {
-  if (!EnsureClass(creation.class_name)) return false;
+  if (!EnsureClass(ui_, creation.class_name, &Procedure)) return false;
   const Rect& place = creation.place;
   return ::CreateWindowExW(creation.extended_style, creation.class_name, creation.title.c_str(),
                            creation.style, place.left, place.top, place.width(), place.height(),

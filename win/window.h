@@ -65,8 +65,6 @@ class Window {
   static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam);
   LRESULT Guarded(UINT message, WPARAM wparam, LPARAM lparam) noexcept;
   void OnTimer(UINT_PTR id);
-  // Registers the window class on first use; false when the system refuses.
-  bool EnsureClass(const wchar_t* name) const;
 
   Ui& ui_;
   HWND handle_ = nullptr;
@@ -74,6 +72,10 @@ class Window {
   int depth_ = 0;          // of messages within messages
   std::vector<Timer*> timers_;
 };
+
+// Registers a window class with the program's icon on first use; false when the system refuses.
+// `extra` is the bytes that `procedure` wants kept for each window.
+bool EnsureClass(Ui& ui, const wchar_t* name, WNDPROC procedure, int extra = 0);
 
 // Moves and sizes a window (pixels of the screen, of the parent for a child) and leaves its order
 // among the others and the focus alone; does nothing where it is there already. `flags` are further

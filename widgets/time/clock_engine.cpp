@@ -51,6 +51,7 @@ ClockDisplay ReadDisplay(const ClockSettings& settings, const LocalTime& time,
   }
   display.date = formatter.Format(
       time, settings.system_date ? std::wstring_view(L"Long Date") : settings.custom_date);
+  display.short_date = formatter.Format(time, L"Short Date");
   return display;
 }
 

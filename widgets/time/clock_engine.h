@@ -44,6 +44,7 @@ struct ClockDisplay {
   std::wstring date;     // lbl7Sept2010
   bool seconds_shown = false;
   bool marker_shown = false;
+  std::wstring short_date{};  // in figures, for where `date` has no room
   bool operator==(const ClockDisplay&) const = default;
 };
 

@@ -53,6 +53,10 @@ void ClockForm::LayOutPanel(const Rect& panel) {
   labels_ = LayOutClock({panel.width(), panel.height()}, dpi(), shape_,
                         FontMeasure(theme().strTHEMEPANELFONTNAME, false));
   PlaceLabels();
+  const TextStyle strip = StripTextStyle(paint(), dpi());
+  const TextExtent date =
+      FontMeasure(strip.font.face, false).Measure(shape_.date, strip.font.height);
+  strip_is_narrow_ = date.width > layout().status_text.width();
 }
 
 void ClockForm::PlaceLabels() {
@@ -71,13 +75,9 @@ void ClockForm::PlaceLabels() {
 }
 
 std::wstring ClockForm::StatusText() const {
+  // A date that the panel has no room for stands in the strip.
   if (labels_.date.shown()) return {};
-  // A date that the panel has no room for stands in the strip, in figures where that is narrow.
-  const TextStyle strip = StripTextStyle(paint(), dpi());
-  const FontMeasure measure(strip.font.face, false);
-  const bool fits =
-      measure.Measure(shown_.date, strip.font.height).width <= layout().status_text.width();
-  return fits ? shown_.date : services().formatter.Format(services().clock.Now(), L"Short Date");
+  return strip_is_narrow_ ? shown_.short_date : shown_.date;
 }
 
 std::vector<MenuItem> ClockForm::MenuGroup() const {

@@ -121,7 +121,8 @@ bool Readable(const Texts& texts, const ClockLayout& layout, int dpi) {
 
 ClockDisplay ShapeOf(const ClockDisplay& display) {
   ClockDisplay shape = display;
-  for (std::wstring* text : {&shape.time, &shape.seconds, &shape.marker, &shape.date}) {
+  for (std::wstring* text :
+       {&shape.time, &shape.seconds, &shape.marker, &shape.date, &shape.short_date}) {
     for (wchar_t& unit : *text) {
       if (unit >= L'0' && unit <= L'9') unit = L'0';
     }
