@@ -65,7 +65,6 @@ std::optional<double> TimeOf(const Press& press, HWND watched) {
 
 void Measure(const Press& press) {
   Root root;
-  root.settings().SetText(L"Settings\\Details", L"Web Address", L"http://127.0.0.1:9/");
   root.settings().SetText(L"frmVRNpr\\Details", press.flag, L"True");
   root.settings().SetText(L"frmVRNpr\\Details", L"Program Minimize on Start", L"1");
   Program program(root);

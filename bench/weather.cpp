@@ -90,7 +90,6 @@ int main() {
   HttpServer server;
   server.Answer(Feed(-1, 3));
   const Root root;
-  root.settings().SetText(L"Settings\\Details", L"Web Address", L"http://127.0.0.1:9/");
   root.settings().SetText(L"frmWTHpr\\Details", L"Weather Feed Endpoint", server.address());
   root.settings().SetText(L"frmWTHpr\\Details", L"Temp-Selected", L"1");
   root.settings().SetText(L"frmVRNpr\\Details", L"Start-Load-Weather", L"True");
