@@ -1,8 +1,10 @@
 #include "catalogue_win.h"
 
 #include "core/options_dialog.h"
-#include "core/theme_dialog.h"
+#include "dialogs/theme/theme_dialog.h"
+#include "widgets/boards/board_folders.h"
 #include "widgets/calculator/calculator_form.h"
+#include "widgets/notes/notes_folder.h"
 #include "widgets/time/alarm_dialog.h"
 #include "widgets/time/clock_dialog.h"
 #include "widgets/time/clock_form.h"
@@ -24,7 +26,8 @@ constexpr CatalogueDialog kDialogs[] = {{L"frmVRNpr", MakeDialog<OptionsDialog>}
                                         {L"frmCLKpr", MakeDialog<ClockDialog>},
                                         {L"frmWTHpr", MakeDialog<WeatherDialog>},
                                         {L"frmCLKas", MakeDialog<AlarmDialog>, true}};
-constexpr Catalogue kCatalogue{kWidgets, kDialogs};
+constexpr FolderSetting kFolders[] = {kWhiteboardFolder, kNotesFolder, kCalendarFolder};
+constexpr Catalogue kCatalogue{kWidgets, kDialogs, kFolders};
 
 }  // namespace
 

@@ -1,6 +1,6 @@
 # Which source belongs where is told by its name: sources in win/ and those that end in _form,
 # _dialog or _win know the platform; every other source of a room is an engine, built natively too.
-set(rooms base core theme widgets)
+set(rooms base theme frame core dialogs widgets)
 set(VARNEL_ENGINES)
 file(GLOB VARNEL_PLATFORM CONFIGURE_DEPENDS win/*.cpp)
 foreach(room IN LISTS rooms)

@@ -4,9 +4,9 @@
 
 #include "core/application_win.h"
 #include "core/core_settings.h"
-#include "core/screens_win.h"
 #include "core/shared_menu.h"
-#include "core/sizes.h"
+#include "frame/screens_win.h"
+#include "frame/sizes.h"
 #include "win/shell.h"
 
 namespace varnel {
@@ -66,7 +66,7 @@ std::vector<MenuItem> Application::SharedMenu() const {
     state.available[i] = Available(i);
     state.open[i] = manager_.IsOpen(i);
   }
-  const LiveForm* current = CurrentForm();
+  const LiveForm* current = OpenCurrentForm();
   state.has_widget = current != nullptr;
   state.sizable = current && WidgetNamed(current_widget_);
   state.on_top = current && current->on_top();
@@ -77,8 +77,13 @@ std::vector<MenuItem> Application::SharedMenu() const {
   return BuildSharedMenu(state);
 }
 
+LiveForm& Application::CurrentForm() {
+  LiveForm* form = OpenCurrentForm();
+  return form ? *form : manager_;
+}
+
 void Application::RunSizeCommand(int id) {
-  LiveForm* form = WidgetNamed(current_widget_) ? CurrentForm() : nullptr;
+  LiveForm* form = WidgetNamed(current_widget_) ? OpenCurrentForm() : nullptr;
   if (!form) return;
   std::optional<Size> twips = FixedSize(ArrayCommandIndex(L"mnuWIDGRESETA", 3, id));
   if (id == CommandId(L"mnuWIDGRESETD")) twips = DefaultSize();
@@ -107,7 +112,7 @@ void Application::RunCommand(int id) {
       {L"mnuDCMANAGERHIDE", [](Application& self) { self.HideToTray(); }},
       {kTopCommand,
        [](Application& self) {
-         if (LiveForm* form = self.CurrentForm()) form->SetOnTop(!form->on_top());
+         if (LiveForm* form = self.OpenCurrentForm()) form->SetOnTop(!form->on_top());
        }},
       {L"mnuDCSETTINGS", [](Application& self) { self.OpenDialog(L"frmTHEME"); }},
       {L"mnuDCGENSET", [](Application& self) { self.OpenDialog(L"frmVRNpr"); }},

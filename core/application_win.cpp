@@ -3,6 +3,7 @@
 #include <exception>
 #include <utility>
 
+#include "base/path.h"
 #include "base/text.h"
 #include "core/core_settings.h"
 #include "core/start_options.h"
@@ -37,8 +38,7 @@ Application::Application(HINSTANCE instance, const CommandLine& command_line,
       settings_(registry_, RegistryRoot(command_line.settings_title)),
       sound_(instance),
       services_{ui_,      settings_, files_, clock_, formatter_,
-                colours_, forms_,    *this,  sound_, ProgramFolder(command_line),
-                {}},
+                colours_, forms_,    *this,  sound_, ProgramFolder(command_line)},
       menus_(ui_, *this, [this] { SaveEverything(); }),
       tray_(ui_, *this),
       manager_(services_, *this) {}
@@ -75,7 +75,9 @@ void Application::Main() {
     if (!LoadFontResource(ui_.instance, L"ICONWORKS")) ui_.log.Write(L"no symbol font");
   });
   Guarded(L"data folders", [this] {
-    services_.folders = PrepareDataFolders(settings_, files_, services_.program_folder);
+    for (const FolderSetting& folder : catalogue_.folders) {
+      PrepareFolder(settings_, files_, folder, services_.program_folder);
+    }
   });
   Guarded(L"theme folders",
           [this] { EnsureThemeFolders(files_, services_.program_folder, colours_); });

@@ -6,7 +6,6 @@
 #include <memory>
 #include <string>
 
-#include "core/alarm_tick.h"
 #include "core/command_line.h"
 #include "core/manager_form.h"
 #include "core/menus_form.h"
@@ -14,6 +13,7 @@
 #include "core/tray_form.h"
 #include "core/update_check.h"
 #include "core/widget_catalogue_win.h"
+#include "frame/alarm_tick.h"
 #include "theme/system_colours_win.h"
 #include "win/disk_files.h"
 #include "win/local_time.h"
@@ -44,7 +44,7 @@ class Application : public Program, private WidgetHost {
   void OpenDialog(std::wstring_view form) override;
   bool HasDialog(std::wstring_view form) const override;
   void SetCurrentWidget(std::wstring_view form) override { current_widget_ = form; }
-  std::wstring_view CurrentWidget() const override { return current_widget_; }
+  LiveForm& CurrentForm() override;
   std::vector<MenuItem> SharedMenu() const override;
   void RunCommand(int id) override;
 
@@ -67,7 +67,8 @@ class Application : public Program, private WidgetHost {
   void ShowStartupWindow();
   void UpdateCheckDone(const HttpResult& page);
   void SaveEverything();
-  LiveForm* CurrentForm() const { return services_.forms.Find(current_widget_); }
+  // Null when no menu was opened yet, or its widget is closed.
+  LiveForm* OpenCurrentForm() const { return forms_.Find(current_widget_); }
   void RunSizeCommand(int id);
   void OpenPage(const std::wstring& address);
   void ShowHelp();

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "base/path.h"
 #include "base/text.h"
-#include "core/folders.h"
 
 namespace varnel {
 namespace {

@@ -4,17 +4,15 @@
 #include <string_view>
 
 #include "base/settings.h"
+#include "frame/product.h"
 
 namespace varnel {
-
-inline constexpr std::wstring_view kApplicationTitle = L"Widget Varnel";
 
 inline constexpr std::wstring_view kProgramSection = L"frmVRNpr\\Details";
 
 // Check boxes, "1" or "0".
 inline constexpr Setting kProgramLaunch{kProgramSection, L"Program Launch", L"1"};
 inline constexpr Setting kMinimizeOnStart{kProgramSection, L"Program Minimize on Start", L"0"};
-inline constexpr Setting kOnTop{kProgramSection, L"On-Top", L"0"};
 
 // One flag a widget, "True" while it is open; in the order of the widget index.
 inline constexpr Setting kStartLoad[] = {

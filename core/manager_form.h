@@ -2,8 +2,8 @@
 #pragma once
 
 #include "core/manager_layout.h"
-#include "core/widget_form.h"
 #include "core/widget_states.h"
+#include "frame/widget_form.h"
 
 namespace varnel {
 

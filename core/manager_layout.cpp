@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "core/frame_layout.h"
+#include "frame/frame_layout.h"
 
 namespace varnel {
 namespace {

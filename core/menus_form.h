@@ -4,7 +4,7 @@
 #include <functional>
 #include <vector>
 
-#include "core/program.h"
+#include "frame/program.h"
 #include "win/http.h"
 #include "win/timer.h"
 #include "win/window.h"

@@ -1,6 +1,7 @@
 #include "core/options_dialog.h"
 
 #include "core/core_settings.h"
+#include "frame/frame_settings.h"
 #include "resources/control_ids.h"
 #include "win/ui.h"
 

@@ -1,7 +1,7 @@
 // The start-up options of the program.
 #pragma once
 
-#include "core/services.h"
+#include "frame/services.h"
 #include "win/dialog.h"
 
 namespace varnel {

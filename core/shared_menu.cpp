@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "base/number_text.h"
 #include "core/widget_index.h"
 
 namespace varnel {
@@ -64,16 +63,6 @@ std::vector<MenuItem> HelpItems(const SharedMenuState& state) {
 
 }  // namespace
 
-MenuItem ItemOf(const Command& command, bool enabled, bool checked) {
-  MenuItem item;
-  item.id = CommandId(command.name);
-  item.caption = command.caption;
-  item.key = command.key;
-  item.enabled = enabled;
-  item.checked = checked;
-  return item;
-}
-
 std::vector<MenuItem> BuildSharedMenu(const SharedMenuState& state) {
   return {Submenu(L"&Widgets", WidgetItems(state)),
           ItemOf({L"mnuDCSHOWALL", L"Show &all widgets"}),
@@ -89,17 +78,6 @@ std::vector<MenuItem> BuildSharedMenu(const SharedMenuState& state) {
           MenuSeparator(),
           Submenu(L"H&elp", HelpItems(state)),
           ItemOf({L"mnuDCEXIT", L"E&xit"})};
-}
-
-std::uint16_t ArrayCommandId(std::wstring_view name, int index) {
-  return CommandId(std::wstring(name) + L"(" + NumberText(index) + L")");
-}
-
-int ArrayCommandIndex(std::wstring_view name, int count, int id) {
-  for (int i = 0; i < count; ++i) {
-    if (ArrayCommandId(name, i) == id) return i;
-  }
-  return -1;
 }
 
 }  // namespace varnel

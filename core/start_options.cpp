@@ -1,7 +1,7 @@
 #include "core/start_options.h"
 
+#include "base/path.h"
 #include "core/core_settings.h"
-#include "core/folders.h"
 
 namespace varnel {
 

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "core/program.h"
+#include "frame/program.h"
 #include "win/timer.h"
 #include "win/tray_icon.h"
 #include "win/window.h"

@@ -5,8 +5,9 @@
 #include <span>
 #include <string_view>
 
-#include "core/services.h"
-#include "core/widget_form.h"
+#include "frame/data_folder.h"
+#include "frame/services.h"
+#include "frame/widget_form.h"
 #include "win/dialog.h"
 
 namespace varnel {
@@ -25,6 +26,7 @@ struct CatalogueDialog {
 struct Catalogue {
   std::span<const CatalogueWidget> widgets;
   std::span<const CatalogueDialog> dialogs;
+  std::span<const FolderSetting> folders;  // made at start-up when they are missing
 };
 
 // For catalogue entries: makes a form or dialog of that class.

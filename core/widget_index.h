@@ -4,17 +4,9 @@
 #include <string_view>
 
 #include "base/settings.h"
+#include "frame/form_entry.h"
 
 namespace varnel {
-
-struct FormEntry {
-  std::wstring_view form_name;
-  std::wstring_view title;          // as shown to the user
-  std::wstring_view theme_caption;  // of the theme dialog opened from this form
-  wchar_t glyph;                    // in the font "Icon-works": the form is closed
-  wchar_t open_glyph;               // the same, filled: the form is open
-  std::wstring_view top_command;    // of its menu: keep on top; may be empty
-};
 
 struct WidgetEntry : FormEntry {
   int index;

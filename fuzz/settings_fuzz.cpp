@@ -8,20 +8,22 @@
 #include <utility>
 #include <vector>
 
+#include "base/path.h"
+#include "base/setting_lists.h"
 #include "base/text.h"
 #include "core/command_line.h"
 #include "core/core_settings.h"
-#include "core/folders.h"
-#include "core/placement.h"
-#include "core/setting_lists.h"
 #include "core/settings_store.h"
-#include "core/sizes.h"
 #include "core/start_options.h"
 #include "core/update_check.h"
 #include "core/widget_states.h"
+#include "frame/placement.h"
+#include "frame/sizes.h"
 #include "fuzz/require.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/memory_registry.h"
+#include "widgets/boards/board_folders.h"
+#include "widgets/notes/notes_folder.h"
 
 namespace varnel {
 namespace {
@@ -91,7 +93,7 @@ void CheckStart(SettingsStore& store) {
     states.WidgetCheck(i);
   }
   test::MemoryFiles files;
-  Require(IsAbsolutePath(PrepareDataFolders(store, files, L"C:\\Program").notes));
+  Require(IsAbsolutePath(PrepareFolder(store, files, kNotesFolder, L"C:\\Program")));
   const std::wstring page = ReadWebAddresses(store).update;
   Require(EqualsIgnoreCase(page.substr(0, 4), L"http"));
   UpdateAvailable(store.Read(kWebAddress), L"1.00");

@@ -17,15 +17,18 @@ from sources import AID_ROOMS, ROOT, TEST_ROOMS, find_sources, product_sources, 
 INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*([<"])([^>"]+)[>"]', re.MULTILINE)
 PLATFORM_NAME = re.compile(r"_(form|dialog|win)$")
 
-# Which rooms a room may include besides itself; "widgets" stands for every folder in widgets.
+# Which rooms a room may include besides itself; "widgets" and "dialogs" stand for every folder in
+# them.
 MAY_INCLUDE = {
     "base": (),
     "resources": (),
     "win": ("base",),
     "theme": ("win", "base", "resources"),
-    "core": ("theme", "win", "base", "resources"),
-    "widgets": ("core", "theme", "win", "base", "resources"),
-    "catalogue": ("widgets", "core", "theme", "win", "base"),
+    "frame": ("theme", "win", "base", "resources"),
+    "core": ("frame", "theme", "win", "base", "resources"),
+    "dialogs": ("frame", "theme", "win", "base", "resources"),
+    "widgets": ("frame", "theme", "win", "base", "resources"),
+    "catalogue": ("widgets", "dialogs", "core", "frame", "theme", "win", "base"),
     "main": ("catalogue", "core", "win", "base"),
 }
 ENGINES_STAY_OUT_OF = ("win", "resources")
@@ -41,10 +44,10 @@ PURE_TESTS = ("tests/engine", "tests/support", "fuzz")
 
 
 def room_of(path):
-    """Returns the room: the first folder, "widgets/NAME", or "main" and "catalogue" at the top."""
+    """Returns the room: the first folder, "widgets/NAME", "dialogs/NAME", or "main" and "catalogue" at the top."""
     if len(path.parts) == 1:
         return path.stem.removesuffix("_win")
-    depth = 2 if path.parts[0] in ("widgets", "tests") else 1
+    depth = 2 if path.parts[0] in ("widgets", "dialogs", "tests") else 1
     return "/".join(path.parts[:depth])
 
 

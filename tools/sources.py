@@ -4,7 +4,7 @@ import re
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
-PRODUCT_ROOMS = ("base", "win", "core", "theme", "widgets", "resources")
+PRODUCT_ROOMS = ("base", "win", "theme", "frame", "core", "dialogs", "widgets", "resources")
 TEST_ROOMS = ("tests", "fuzz")
 AID_ROOMS = ("bench", "tools", "cmake")
 SUFFIXES = (".cpp", ".h")

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "base/rounded_box.h"
-#include "core/frame_layout.h"
 #include "core/manager_layout.h"
+#include "frame/frame_layout.h"
 #include "tests/support/boxes.h"
 
 namespace varnel {

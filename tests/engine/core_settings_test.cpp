@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "base/number_text.h"
+#include "base/setting_lists.h"
 #include "core/core_settings.h"
-#include "core/setting_lists.h"
 #include "core/settings_store.h"
 #include "core/start_options.h"
 #include "tests/support/cases.h"

@@ -4,14 +4,16 @@
 #include <string>
 #include <vector>
 
+#include "base/path.h"
 #include "core/command_line.h"
 #include "core/core_settings.h"
-#include "core/folders.h"
 #include "core/update_check.h"
 #include "tests/support/cases.h"
 #include "tests/support/garbage_values.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/memory_settings.h"
+#include "widgets/boards/board_folders.h"
+#include "widgets/notes/notes_folder.h"
 
 namespace varnel {
 namespace {
@@ -43,10 +45,12 @@ TEST(Folders, DataFoldersAreBelowTheProgramUnlessChosen) {
     settings.Write(L"frmNOTpr\\Details", L"Notes Folder Location", L"E:\\My notes");
     settings.Write(L"frmCALpr\\Details", L"Calendar Folder Location", L"D:");
     test::MemoryFiles files;
-    const DataFolders folders = PrepareDataFolders(settings, files, program);
-    EXPECT_EQ(folders.whiteboard, L"C:\\Tools\\Varnel\\wboard\\");
-    EXPECT_EQ(folders.notes, L"E:\\My notes\\");
-    EXPECT_EQ(folders.calendar, L"D:");
+    const auto prepared = [&](const FolderSetting& folder) {
+      return PrepareFolder(settings, files, folder, program);
+    };
+    EXPECT_EQ(prepared(kWhiteboardFolder), L"C:\\Tools\\Varnel\\wboard\\");
+    EXPECT_EQ(prepared(kNotesFolder), L"E:\\My notes\\");
+    EXPECT_EQ(prepared(kCalendarFolder), L"D:");
     EXPECT_EQ(files.folders,
               (std::set<std::wstring>{L"C:\\Tools\\Varnel\\wboard", L"D:", L"E:\\My notes"}));
   }

@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "core/core_settings.h"
-#include "core/sizes.h"
 #include "core/widget_index.h"
 #include "core/widget_states.h"
+#include "frame/sizes.h"
 #include "tests/support/cases.h"
 #include "tests/support/memory_settings.h"
 

@@ -1,4 +1,4 @@
-#include "core/form_registry.h"
+#include "frame/form_registry.h"
 
 #include <gtest/gtest.h>
 
@@ -7,6 +7,7 @@ namespace {
 
 class StillForm : public LiveForm {
  public:
+  const FormEntry& entry() const override { return kNoForm; }
   ThemeRecord& theme() override { return theme_; }
   void Form_Resize() override {}
   void WidgetRefresh() override {}

@@ -1,8 +1,9 @@
-#include "core/theme_editor.h"
+#include "dialogs/theme/theme_editor.h"
 
 #include <gtest/gtest.h>
 
-#include "core/place_beside.h"
+#include "core/widget_index.h"
+#include "dialogs/theme/place_beside.h"
 #include "tests/support/cases.h"
 #include "tests/support/fixed_system_colours.h"
 #include "tests/support/memory_files.h"
@@ -21,14 +22,10 @@ class ThemeEditorTest : public ::testing::Test {
 };
 
 TEST_F(ThemeEditorTest, NamesTheFormInItsCaption) {
-  const test::Cases<const wchar_t*, const wchar_t*> captions = {
-      {L"frmCLKwg", L"Alarm Clock Theme Settings"},
-      {L"frmVRNwg", L"Varnel Theme Settings"},
-      {L"", L"Varnel Theme Settings"}};
-  for (const auto& [form, caption] : captions) {
-    editor_.Open(form, {});
-    EXPECT_EQ(editor_.caption(), caption);
-    EXPECT_EQ(editor_.target(), *form ? form : L"frmVRNwg");
+  for (const FormEntry* form : {FormNamed(L"frmCLKwg"), &kManagerForm}) {
+    editor_.Open(*form, {});
+    EXPECT_EQ(editor_.caption(), form->theme_caption);
+    EXPECT_EQ(editor_.target(), form->form_name);
   }
 }
 
@@ -36,7 +33,7 @@ TEST_F(ThemeEditorTest, StoresNothingBeforeApplyAndThenOnlyForItsForm) {
   settings_.Write(kThemeSection, L"frmCLKwgTheme-Main-Opacity", L"99");
   ThemeRecord current;
   current.lngTHEMECONTRAST = 7;
-  editor_.Open(L"frmSTWwg", current);
+  editor_.Open(*FormNamed(L"frmSTWwg"), current);
   EXPECT_FALSE(editor_.changed());
   editor_.theme().lngTHEMECOLOR = 255;
   editor_.theme().strTHEMEPANELFONTNAME = L"Verdana";
@@ -60,7 +57,7 @@ TEST_F(ThemeEditorTest, RemembersTheStyleFolderWhenTold) {
       {L"Neon", L"Neon"}, {L"neon", L"Neon"}, {L"..\\secret", L"Soft"}, {L"", L"Soft"}};
   for (const auto& [text, style] : stored) {
     settings_.Write(kThemeFolderSetting, text);
-    editor_.Open(L"frmCLKwg", {});
+    editor_.Open(*FormNamed(L"frmCLKwg"), {});
     EXPECT_EQ(editor_.folder(), style);
   }
   editor_.SelectFolder(L"Glass");
@@ -71,7 +68,7 @@ TEST_F(ThemeEditorTest, RemembersTheStyleFolderWhenTold) {
 }
 
 TEST_F(ThemeEditorTest, PresetsAreSavedListedLoadedAndDeleted) {
-  editor_.Open(L"frmCLKwg", {});
+  editor_.Open(*FormNamed(L"frmCLKwg"), {});
   EXPECT_TRUE(editor_.Presets().empty());
   editor_.theme().lngTHEMECOLOR = 4711;
   EXPECT_EQ(editor_.NewPreset(L" Mine "), PresetSaved::kSaved);

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "core/shared_menu.h"
+#include "frame/command.h"
 
 namespace varnel::rig {
 namespace {

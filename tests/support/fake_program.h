@@ -4,7 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "core/program.h"
+#include "frame/form_registry.h"
+#include "frame/program.h"
 
 namespace varnel::test {
 
@@ -23,12 +24,13 @@ class FakeProgram : public Program {
   }
   bool HasDialog(std::wstring_view) const override { return true; }
   void SetCurrentWidget(std::wstring_view form) override { current = form; }
-  std::wstring_view CurrentWidget() const override { return current; }
+  LiveForm& CurrentForm() override { return *forms->Find(current); }
   std::vector<MenuItem> SharedMenu() const override { return {}; }
   void RunCommand(int) override {}
 
   std::vector<std::wstring> calls;
   std::wstring current;
+  FormRegistry* forms = nullptr;  // to be set before anything asks for the current form
 };
 
 }  // namespace varnel::test

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "core/shared_menu.h"
-#include "core/theme_preview_win.h"
 #include "core/widget_index.h"
+#include "dialogs/theme/theme_preview_win.h"
 #include "tests/support/fake_program.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/memory_settings.h"
@@ -150,8 +150,8 @@ class WidgetLeaks : public ::testing::Test {
   FormRegistry forms_;
   test::FakeProgram program_;
   Sound sound_{nullptr};
-  Services services_{ui_,    settings_, files_, clock_,  formatter_, colours_,
-                     forms_, program_,  sound_, L"C:\\", {}};
+  Services services_{ui_,      settings_, files_,   clock_, formatter_,
+                     colours_, forms_,    program_, sound_, L"C:\\"};
   ClockForm form_{services_, *WidgetAt(0), 0};
 };
 

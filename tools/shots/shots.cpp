@@ -7,8 +7,8 @@
 
 #include "base/text.h"
 #include "core/core_settings.h"
-#include "core/sizes.h"
 #include "core/widget_index.h"
+#include "frame/sizes.h"
 #include "tests/rig/files.h"
 #include "tests/rig/http_server.h"
 #include "tests/rig/input.h"

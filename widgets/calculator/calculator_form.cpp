@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "base/number_text.h"
-#include "core/folders.h"
-#include "core/shared_menu.h"
+#include "base/path.h"
+#include "frame/command.h"
 #include "resources/control_ids.h"
 #include "widgets/calculator/pasted_number.h"
 #include "win/clipboard.h"

@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "core/widget_form.h"
+#include "frame/widget_form.h"
 #include "theme/themed_label_win.h"
 #include "widgets/calculator/calculation_log.h"
 #include "widgets/calculator/calculator_engine.h"

@@ -2,8 +2,8 @@
 // ring, whether it or the clock is open or not.
 #pragma once
 
-#include "core/alarm_tick.h"
-#include "core/services.h"
+#include "frame/alarm_tick.h"
+#include "frame/services.h"
 #include "widgets/time/alarm_popup_form.h"
 #include "widgets/time/alarms.h"
 #include "win/dialog.h"

@@ -1,6 +1,6 @@
 #include "widgets/time/alarm_popup_form.h"
 
-#include "core/screens_win.h"
+#include "frame/screens_win.h"
 #include "resources/control_ids.h"
 #include "theme/theme_store.h"
 #include "win/user_look.h"

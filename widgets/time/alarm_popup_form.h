@@ -1,8 +1,8 @@
 // The alarm popup: one window that comes up beside the system's clock without taking the focus.
 #pragma once
 
-#include "core/services.h"
-#include "core/text_buttons_form.h"
+#include "frame/services.h"
+#include "frame/text_buttons_form.h"
 #include "theme/themed_label_win.h"
 #include "theme/widget_paint.h"
 #include "widgets/time/alarms.h"

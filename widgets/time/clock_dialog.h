@@ -1,7 +1,7 @@
 // The clock's properties: time style, date style, what is shown, and the alarm sound.
 #pragma once
 
-#include "core/services.h"
+#include "frame/services.h"
 #include "widgets/time/alarms.h"
 #include "win/dialog.h"
 

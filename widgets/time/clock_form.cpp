@@ -1,7 +1,7 @@
 #include "widgets/time/clock_form.h"
 
-#include "core/frame_painter_win.h"
-#include "core/shared_menu.h"
+#include "frame/command.h"
+#include "frame/frame_painter_win.h"
 #include "resources/control_ids.h"
 #include "win/font_measure.h"
 

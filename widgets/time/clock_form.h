@@ -1,7 +1,7 @@
 // The clock widget.
 #pragma once
 
-#include "core/widget_form.h"
+#include "frame/widget_form.h"
 #include "theme/themed_label_win.h"
 #include "widgets/time/clock_layout.h"
 

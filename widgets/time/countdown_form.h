@@ -4,7 +4,7 @@
 #include <array>
 #include <memory>
 
-#include "core/widget_form.h"
+#include "frame/widget_form.h"
 #include "theme/themed_label_win.h"
 #include "widgets/time/countdown_engine.h"
 #include "widgets/time/timer_layout.h"

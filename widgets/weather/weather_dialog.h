@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "core/services.h"
+#include "frame/services.h"
 #include "widgets/weather/live_source.h"
 #include "widgets/weather/places.h"
 #include "widgets/weather/weather_feed.h"

@@ -2,8 +2,8 @@
 
 #include "base/image.h"
 #include "base/rounded_box.h"
-#include "core/frame_painter_win.h"
-#include "core/shared_menu.h"
+#include "frame/command.h"
+#include "frame/frame_painter_win.h"
 #include "resources/control_ids.h"
 #include "widgets/weather/live_source.h"
 #include "widgets/weather/weather_dialog.h"

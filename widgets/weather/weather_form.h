@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "core/widget_form.h"
+#include "frame/widget_form.h"
 #include "theme/themed_label_win.h"
 #include "widgets/weather/weather_layout.h"
 #include "widgets/weather/weather_status.h"

@@ -1,0 +1,64 @@
+// The theme dialog: edits the theme of the form whose menu was opened last, which shows the changes
+// at once and keeps them when they are applied.
+#pragma once
+
+#include <array>
+
+#include "dialogs/theme/font_box_win.h"
+#include "dialogs/theme/preset_list_win.h"
+#include "dialogs/theme/theme_editor.h"
+#include "frame/services.h"
+#include "win/colour_picker.h"
+#include "win/dialog.h"
+
+namespace varnel {
+
+class ThemeDialog : public Dialog {  // frmTHEME
+ public:
+  explicit ThemeDialog(Services& services);
+
+ private:
+  void OnOpen() override;
+  void OnReopen() override;
+  void OnCommand(int id, int code) override;
+  bool OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
+  LRESULT OnNotify(const NMHDR& notice);
+  void Draw(const DRAWITEMSTRUCT& item);
+
+  // Takes up the current form; the dialog goes beside it.
+  void TakeTarget();
+  // Gives the target the theme that is kept.
+  void ReturnTarget();
+  // What the target shows, when it is open: nothing is stored.
+  void ShowOnTarget(const ThemeRecord& theme);
+  void MoveBeside(const LiveForm& form);
+
+  void FillTabs();
+  void ShowPage(int page);
+  // The working theme has changed: the target and the controls follow.
+  void Changed();
+  void ShowValues();
+  void ShowReadability();
+  void EnableButtons();
+
+  void SelectFolder();
+  void FillPresets();
+  void SelectPreset(int place);
+  void OnNameBox(int code);
+  void NewPreset();
+  void DeletePreset();
+  void DeleteAllPresets();
+  void OnSlider(HWND slider);
+  void OnFont(int combo, int code);
+  void PickColour(int button);
+  void Apply();
+
+  Services& services_;
+  ThemeEditor editor_;
+  PresetList presets_;
+  std::array<FontBox, 2> fonts_;
+  ColourPicker colours_;
+  bool filling_ = false;  // controls change by our own hand
+};
+
+}  // namespace varnel

@@ -1,0 +1,92 @@
+// The part of the theme dialog that keeps the presets.
+#include <iterator>
+
+#include "base/number_text.h"
+#include "base/text.h"
+#include "dialogs/theme/theme_dialog.h"
+#include "frame/product.h"
+#include "resources/control_ids.h"
+#include "theme/preset_generator.h"
+#include "win/shell.h"
+
+namespace varnel {
+
+void ThemeDialog::SelectFolder() {
+  const LRESULT place = ::SendMessageW(Control(lstFOLDERS), LB_GETCURSEL, 0, 0);
+  if (place < 0 || place >= static_cast<LRESULT>(kStyleFolders.size())) return;
+  editor_.SelectFolder(kStyleFolders[place]);
+  FillPresets();
+  EnableButtons();
+}
+
+void ThemeDialog::FillPresets() {
+  filling_ = true;
+  presets_.Fill(editor_.Presets());
+  filling_ = false;
+  ::SendMessageW(Control(flbLIST), LB_RESETCONTENT, 0, 0);
+  for (const PresetSwatch& preset : presets_.presets()) {
+    const std::wstring file = preset.name + std::wstring(kPresetEnding);
+    ::SendMessageW(Control(flbLIST), LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(file.c_str()));
+  }
+}
+
+void ThemeDialog::SelectPreset(int place) {
+  const std::wstring name = presets_.presets()[place].name;
+  ::SendMessageW(Control(flbLIST), LB_SETCURSEL, place, 0);
+  SetControlText(txtPRESETNEW, name);
+  editor_.SelectPreset(name);
+  Changed();
+}
+
+void ThemeDialog::OnNameBox(int code) {
+  if (code == EN_CHANGE) EnableButtons();
+  // Enter in the box makes the preset that is named in it.
+  if (code == EN_SETFOCUS) ::SendMessageW(handle(), DM_SETDEFID, btnNEW, 0);
+  if (code == EN_KILLFOCUS) ::SendMessageW(handle(), DM_SETDEFID, btnAPPLY, 0);
+}
+
+void ThemeDialog::NewPreset() {
+  const std::wstring name = ControlText(txtPRESETNEW);
+  const std::wstring title(kApplicationTitle);
+  if (presets_.Find(Trim(name)) >= 0) {
+    const std::wstring question =
+        L"Replace the preset \"" + Trim(name) + L"\" of the style \"" + editor_.folder() + L"\"?";
+    if (!AskYesNo(handle(), question, title) || !handle()) return;
+  }
+  switch (editor_.NewPreset(name)) {
+    case PresetSaved::kNoName:
+      ShowInformation(handle(), L"Please make sure you type it in correctly.",
+                      L"You Have not Entered a File Name");
+      break;
+    case PresetSaved::kBadName:
+      ShowInformation(handle(), L"A preset cannot have that name.", title);
+      break;
+    case PresetSaved::kFailed:
+      ShowInformation(handle(), L"The preset could not be saved.", title);
+      break;
+    case PresetSaved::kSaved:
+      FillPresets();
+      filling_ = true;
+      presets_.Choose(presets_.Find(Trim(name)));
+      filling_ = false;
+      EnableButtons();
+      break;
+  }
+}
+
+void ThemeDialog::DeletePreset() {
+  editor_.RemovePreset(ControlText(txtPRESETNEW));
+  FillPresets();
+  EnableButtons();
+}
+
+void ThemeDialog::DeleteAllPresets() {
+  const std::wstring question = L"Delete all " + NumberText(std::ssize(presets_.presets())) +
+                                L" presets of the style \"" + editor_.folder() + L"\"?";
+  if (!AskYesNo(handle(), question, L"Delete all presets") || !handle()) return;
+  editor_.RemoveAllPresets();
+  FillPresets();
+  EnableButtons();
+}
+
+}  // namespace varnel

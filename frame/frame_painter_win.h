@@ -1,0 +1,28 @@
+// Paints what a widget's frame shows itself: bar, panel ground, strip, border and their texts.
+#pragma once
+
+#include <string>
+
+#include "frame/frame_layout.h"
+#include "theme/text_painter_win.h"
+#include "theme/widget_paint.h"
+
+namespace varnel {
+
+struct FramePainting {
+  const FrameLayout& layout;
+  const WidgetPaint& paint;
+  std::wstring title;
+  wchar_t glyph = 0;
+  std::wstring status;
+  int dpi = kDefaultDpi;
+};
+
+// Fills the whole surface, which has the window's size.
+void PaintFrame(Ui& ui, Surface& surface, const FramePainting& frame);
+
+// The style of texts on the title bar, and of those on the bottom strip.
+TextStyle BarTextStyle(const WidgetPaint& paint, int dpi);
+TextStyle StripTextStyle(const WidgetPaint& paint, int dpi);
+
+}  // namespace varnel

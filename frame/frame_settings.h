@@ -1,0 +1,11 @@
+// The settings of the frame, each declared once for readers and writers.
+#pragma once
+
+#include "base/settings.h"
+
+namespace varnel {
+
+// Check box, "1" or "0": every widget stays above other windows.
+inline constexpr Setting kOnTop{L"frmVRNpr\\Details", L"On-Top", L"0"};
+
+}  // namespace varnel

@@ -1,0 +1,111 @@
+#include "frame/text_buttons_form.h"
+
+#include <algorithm>
+
+#include "base/image.h"
+#include "base/rounded_box.h"
+#include "win/window_text.h"
+
+namespace varnel {
+namespace {
+
+constexpr double kCornerRadius = 4;  // at 96 dpi
+
+}  // namespace
+
+bool TextButtons::Add(int id, const std::wstring& word, wchar_t glyph, bool on_bar) {
+  HWND handle = ::CreateWindowExW(
+      0, L"BUTTON", word.c_str(), WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW, 0, 0, 0, 0,
+      owner_.handle(), reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
+  if (!handle) return false;
+  buttons_.push_back({id, handle, glyph, on_bar});
+  return true;
+}
+
+const TextButton* TextButtons::Find(int id) const {
+  const auto found = std::ranges::find(buttons_, id, &TextButton::id);
+  return found == buttons_.end() ? nullptr : &*found;
+}
+
+void TextButtons::SetText(int id, std::wstring_view text) {
+  const TextButton* button = Find(id);
+  if (!button || WindowText(button->handle) == text) return;
+  ::SetWindowTextW(button->handle, std::wstring(text).c_str());
+  if (id == hovered_) TellWord(*button);
+  Repaint(id);
+}
+
+void TextButtons::Place(int id, const Rect& box) {
+  const TextButton* button = Find(id);
+  if (!button) return;
+  PlaceWindow(button->handle, box);
+  Repaint(id);
+}
+
+void TextButtons::Enable(int id, bool on) {
+  if (const TextButton* button = Find(id)) ::EnableWindow(button->handle, on);
+}
+
+bool TextButtons::OnMouseOver(HWND control) {
+  const auto found = std::ranges::find(buttons_, control, &TextButton::handle);
+  const int id = found == buttons_.end() ? 0 : found->id;
+  if (id == 0 || id == hovered_) return false;
+  Repaint(hovered_);
+  hovered_ = id;
+  Repaint(hovered_);
+  TellWord(*found);
+  return true;
+}
+
+void TextButtons::TellWord(const TextButton& button) {
+  if (button.glyph) tooltip_.Attach(owner_.handle(), button.handle, WindowText(button.handle));
+}
+
+bool TextButtons::MouseHasLeft() {
+  POINT point = {};
+  ::GetCursorPos(&point);
+  const TextButton* button = hovered();
+  if (button && ::WindowFromPoint(point) == button->handle) return false;
+  Repaint(hovered_);
+  hovered_ = 0;
+  return true;
+}
+
+ButtonLook TextButtons::LookOf(const TextButton& button, const DRAWITEMSTRUCT& item) const {
+  if (item.itemState & ODS_SELECTED) return ButtonLook::kPressed;
+  return button.id == hovered_ ? ButtonLook::kHover : ButtonLook::kNormal;
+}
+
+void TextButtons::Repaint(int id) const {
+  if (const TextButton* button = Find(id)) ::InvalidateRect(button->handle, nullptr, FALSE);
+}
+
+void PaintButtonFace(const ButtonPainting& painting, int dpi) {
+  Surface& surface = painting.surface;
+  const double unit = dpi / static_cast<double>(kDefaultDpi);
+  const std::uint32_t face = OpaquePixel(painting.colours.first);
+  DrawRoundedBox(surface.pixels(), surface.size(), painting.bounds, kCornerRadius * unit, face,
+                 OpaquePixel(painting.colours.second));
+  if (!painting.focused) return;
+  // Black and white, one inside the other: one of them is seen on any face.
+  const Rect outer = Inset(painting.bounds, Scaled(1, dpi));
+  DrawRoundedBox(surface.pixels(), surface.size(), outer, 3 * unit, face, OpaquePixel(kBlack));
+  DrawRoundedBox(surface.pixels(), surface.size(), Inset(outer, 1), 2 * unit, face,
+                 OpaquePixel(kWhite));
+}
+
+void PaintTextButton(Ui& ui, const ButtonPainting& painting, const ThemeRecord& theme,
+                     const std::wstring& face, int height, int dpi) {
+  PaintButtonFace(painting, dpi);
+  const TextButton& button = painting.button;
+  TextStyle style;
+  style.font = {button.glyph ? kIconFontName : face, height, false};
+  style.colour = button.on_bar ? theme.lngTHEMEBARFONTCOLOR : theme.lngTHEMEPANELFONTCOLOR;
+  style.ground = painting.colours.first;
+  style.halo_base = theme.lngTHEMECOLOR;
+  style.dpi = dpi;
+  PaintText(ui, painting.surface, painting.bounds,
+            button.glyph ? std::wstring(1, button.glyph) : WindowText(button.handle), style);
+}
+
+}  // namespace varnel

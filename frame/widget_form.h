@@ -1,0 +1,129 @@
+// The frame that every widget's window has: title bar, panel, bottom strip, theme, place and menu.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "base/menu.h"
+#include "frame/form_registry.h"
+#include "frame/frame_layout.h"
+#include "frame/placement.h"
+#include "frame/services.h"
+#include "frame/text_buttons_form.h"
+#include "theme/widget_paint.h"
+#include "win/painted_window.h"
+#include "win/timer.h"
+
+namespace varnel {
+
+class WidgetForm : public PaintedWindow, public LiveForm {
+ public:
+  // `entry` outlives the form; `index` is the widget's number or kManagerIndex.
+  WidgetForm(Services& services, const FormEntry& entry, int index);
+  ~WidgetForm() override;
+
+  // Makes the window, hidden, in its place and theme. False when the system refuses.
+  bool Load();
+  // Saves the place and removes the window.
+  void Unload();
+  void SavePlace();
+  void Show(bool shown);
+
+  const FormEntry& entry() const override { return entry_; }
+  ThemeRecord& theme() override { return theme_; }
+  void Form_Resize() override;
+  void WidgetRefresh() override;
+  void ApplyChrome() override;
+  void SetSize(int width, int height) override;
+  // Goes back to the place that the form had when it was first opened.
+  void MoveToDefaultPlace();
+  Rect Bounds() const override { return screen_rect(); }
+  bool on_top() const override { return on_top_; }
+  void SetOnTop(bool on) override;
+  void FollowOnTopSetting() override;
+
+ protected:
+  // What a widget adds to the frame. OnLoad makes its controls; OnShown starts what ticks.
+  virtual void OnLoad() {}
+  virtual void OnUnload() {}
+  // Places the controls on the panel (pixels of the window).
+  virtual void LayOutPanel(const Rect&) {}
+  // Brings the controls' texts up to date.
+  virtual void RefreshContent() {}
+  // Paints on the panel what is not a control.
+  virtual void PaintPanel(Surface&, const Rect&) {}
+  virtual void DrawPanelButton(const ButtonPainting& painting);
+  // A button was clicked, or another control sent notification `code`.
+  virtual void OnControl(int /*id*/, int /*code*/) {}
+  virtual std::wstring StatusText() const { return {}; }
+  // The widget's own commands, shown above the shared ones; not the one of its FormEntry.
+  virtual std::vector<MenuItem> MenuGroup() const { return {}; }
+  // Runs one of them; false when `id` is none.
+  virtual bool RunOwnCommand(int /*id*/) { return false; }
+  // The title bar's buttons for closing and for going out of sight.
+  virtual void OnCloseButton();
+  virtual void OnMinimiseButton() { Show(false); }
+
+  LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
+  bool OnKey(const MSG& message) override;
+
+  Services& services() const { return services_; }
+  const FrameLayout& layout() const { return layout_; }
+  // What the widget is painted with: colours are to be taken from here, not from theme().
+  const WidgetPaint& paint() const { return paint_; }
+  const ChromeColours& chrome() const { return paint_.chrome; }
+  TextButtons& buttons() { return buttons_; }
+  // A style for texts on the panel: the theme's panel font and colour.
+  TextStyle PanelTextStyle(int font_height) const;
+  // A button's face and outline; a face that is lost in the panel gets an outline that is not.
+  ColourPair SeenOnPanel(const ColourPair& button) const;
+  void RepaintStatus();
+
+ private:
+  void CreateBarButtons();
+  // The system's colours or the user's wishes have changed.
+  void OnLookChanged();
+  // The focus is shown once the keyboard is used, until the mouse is.
+  void ShowFocus(bool shown);
+  void Paint(Surface& surface) override;
+  void DrawButton(const DRAWITEMSTRUCT& item);
+  void OnCommand(int id, int code, HWND control);
+  void RunCommand(int id);
+  void ShowMenu(Point at);
+  // The name of the widget's command that keeps it on top.
+  std::wstring_view TopCommand() const;
+  void OnContextMenu(LPARAM position);
+  // True when the pointer has been given its shape.
+  bool OnMouseOver(HWND control);
+  void HoverTick(Timer& timer);
+  void OnLeftButtonDown(Point at);
+  void DragStart();
+  void DragSize();
+  bool OnArrow(WPARAM key, bool sizing);
+  // The first shows the form at its new place as far as the screens allow; the second saves, too.
+  void MoveTo(const Place& place);
+  void Settle(const Place& place);
+  void SnapAndKeep();
+  void ReturnToScreen();
+  void OnDpiChanged(const RECT& suggested);
+
+  Services& services_;
+  const FormEntry& entry_;
+  const int index_;
+  ThemeRecord theme_;
+  WidgetPaint paint_;
+  FrameLayout layout_;
+  Place place_;  // as the user wished it; the window may have had to go elsewhere
+  SnappedPosition snapped_;
+  bool on_top_ = false;
+  bool own_on_top_ = false;  // on_top_ was chosen for this window alone
+  bool sizing_ = false;
+  bool moving_ = false;  // the system moves the window after the mouse
+  bool focus_shown_ = false;
+  HWND last_focus_ = nullptr;
+  TextButtons buttons_;
+  Timer tmrBARBTNS_;
+  Timer tmrPANBTNS_;
+};
+
+}  // namespace varnel
