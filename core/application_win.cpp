@@ -143,9 +143,12 @@ void Application::CheckForUpdate(int mode) {
 }
 
 void Application::UpdateCheckDone(const HttpResult& page) {
-  // Without an answer the check is never completed, and nothing is shown.
-  if (!page.ok) return;
-  if (UpdateAvailable(WideFromUtf8(page.body), version_)) {
+  if (!page.ok) {
+    ui_.log.Write(L"update check: " + page.reason);
+    if (update_mode_ == 0) return;
+    ShowInformation(menus_.handle(), L"The newest version is not known: " + page.reason + L".",
+                    L"No Answer to the Update Check");
+  } else if (UpdateAvailable(WideFromUtf8(page.body), version_)) {
     OpenPage(pages_.update);
   } else if (update_mode_ != 0) {
     ShowInformation(menus_.handle(),

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "base/number_text.h"
+#include "base/text.h"
 #include "win/late_function.h"
 
 namespace varnel {
@@ -13,7 +14,9 @@ namespace {
 
 constexpr UINT kTransferEnded = WM_APP;
 constexpr wchar_t kLibrary[] = L"winhttp.dll";
-constexpr DWORD kMostRedirects = 3;
+constexpr int kMostRedirects = 3;
+constexpr wchar_t kRedirectsToNowhere[] = L"the server redirects to nowhere";
+constexpr wchar_t kNotFetchable[] = L"the address cannot be fetched";
 constexpr DWORD kChunk = 16 * 1024;
 
 template <class Function>
@@ -38,9 +41,27 @@ struct WinHttp {
   decltype(&::WinHttpSetOption) set_option = Api<decltype(::WinHttpSetOption)>("WinHttpSetOption");
   decltype(&::WinHttpSetStatusCallback) set_callback =
       Api<decltype(::WinHttpSetStatusCallback)>("WinHttpSetStatusCallback");
-  decltype(&::WinHttpCrackUrl) crack = Api<decltype(::WinHttpCrackUrl)>("WinHttpCrackUrl");
+  decltype(&::WinHttpGetIEProxyConfigForCurrentUser) proxy =
+      Api<decltype(::WinHttpGetIEProxyConfigForCurrentUser)>(
+          "WinHttpGetIEProxyConfigForCurrentUser");
   decltype(&::WinHttpCloseHandle) close = Api<decltype(::WinHttpCloseHandle)>("WinHttpCloseHandle");
 };
+
+std::wstring StatusReason(DWORD status) {
+  return L"the server answered with status " + NumberText(status);
+}
+
+// The user has named a proxy server, or a script that does, for everything that is fetched.
+bool ProxyIsSet() {
+  const WinHttp api;
+  WINHTTP_CURRENT_USER_IE_PROXY_CONFIG config = {};
+  if (!api.proxy || !api.proxy(&config)) return false;
+  const bool set = config.lpszProxy || config.lpszAutoConfigUrl;
+  for (wchar_t* text : {config.lpszProxy, config.lpszProxyBypass, config.lpszAutoConfigUrl}) {
+    if (text) ::GlobalFree(text);
+  }
+  return set;
+}
 
 std::wstring ErrorReason(DWORD error) {
   switch (error) {
@@ -54,7 +75,7 @@ std::wstring ErrorReason(DWORD error) {
     case ERROR_WINHTTP_SECURE_FAILURE:
       return L"the server could not prove who it is";
     case ERROR_WINHTTP_REDIRECT_FAILED:
-      return L"the server redirects to nowhere";
+      return kRedirectsToNowhere;
     case ERROR_WINHTTP_INVALID_SERVER_RESPONSE:
       return L"the server's answer makes no sense";
     default:
@@ -84,7 +105,7 @@ struct HttpFetch::Transfer {
     if (session) api.close(session);
   }
 
-  bool Open(const std::wstring& address, const std::shared_ptr<Transfer>& self);
+  bool Open(const WebAddress& address, const std::shared_ptr<Transfer>& self);
   void OnStatus(DWORD status, void* information, DWORD length);
   void OnHeaders();
   void OnRead(DWORD length);
@@ -93,27 +114,26 @@ struct HttpFetch::Transfer {
                                 void* information, DWORD length);
 };
 
-bool HttpFetch::Transfer::Open(const std::wstring& address, const std::shared_ptr<Transfer>& self) {
+bool HttpFetch::Transfer::Open(const WebAddress& address, const std::shared_ptr<Transfer>& self) {
   if (!api.close) return false;
-  URL_COMPONENTS parts = {};
-  parts.dwStructSize = sizeof parts;
-  parts.dwSchemeLength = parts.dwHostNameLength = parts.dwUrlPathLength = MAXDWORD;
-  parts.dwExtraInfoLength = parts.dwUserNameLength = MAXDWORD;
-  if (!api.crack(address.c_str(), 0, 0, &parts) || parts.dwUserNameLength > 0) return false;
-  const std::wstring host(parts.lpszHostName, parts.dwHostNameLength);
-  const std::wstring path(parts.lpszUrlPath, parts.dwUrlPathLength + parts.dwExtraInfoLength);
-  const DWORD secure = parts.nScheme == INTERNET_SCHEME_HTTPS ? WINHTTP_FLAG_SECURE : 0;
-
   session = api.open(L"WidgetVarnel/1.0", WINHTTP_ACCESS_TYPE_AUTOMATIC_PROXY, nullptr, nullptr,
                      WINHTTP_FLAG_ASYNC);
-  if (session) connection = api.connect(session, host.c_str(), parts.nPort, 0);
+  if (session) {
+    connection = api.connect(session, WideFromUtf8(address.host).c_str(),
+                             static_cast<INTERNET_PORT>(address.port), 0);
+  }
   if (connection) {
-    request = api.open_request(connection, L"GET", path.c_str(), nullptr, nullptr, nullptr, secure);
+    request = api.open_request(
+        connection, L"GET", WideFromUtf8(address.path).c_str(), nullptr, nullptr, nullptr,
+        WINHTTP_FLAG_ESCAPE_DISABLE | (address.secure ? WINHTTP_FLAG_SECURE : 0));
   }
   if (!request) return false;
   DWORD redirects = kMostRedirects;
   api.set_option(request, WINHTTP_OPTION_MAX_HTTP_AUTOMATIC_REDIRECTS, &redirects,
                  sizeof redirects);
+  DWORD header_bytes = kMostHeaderBytes;
+  api.set_option(request, WINHTTP_OPTION_MAX_RESPONSE_HEADER_SIZE, &header_bytes,
+                 sizeof header_bytes);
   // The request keeps the transfer alive until it says that it is closed for good.
   auto keep = std::make_unique<std::shared_ptr<Transfer>>(self);
   auto context = reinterpret_cast<DWORD_PTR>(keep.get());
@@ -172,7 +192,7 @@ void HttpFetch::Transfer::OnHeaders() {
   api.headers(request, WINHTTP_QUERY_STATUS_CODE | WINHTTP_QUERY_FLAG_NUMBER, nullptr, &code, &size,
               nullptr);
   if (code != HTTP_STATUS_OK) {
-    End(L"the server answered with status " + NumberText(code));
+    End(StatusReason(code));
     return;
   }
   DWORD promised = 0;
@@ -206,7 +226,7 @@ void HttpFetch::Transfer::End(std::wstring reason) {
 }
 
 HttpFetch::HttpFetch(Ui& ui, HttpLimits limits)
-    : Window(ui), limits_(limits), deadline_(*this, limits.deadline_ms, [this] {
+    : Window(ui), limits_(limits), plain_(ui), deadline_(*this, limits.deadline_ms, [this] {
         Finish({false, {}, L"the server took too long"});
       }) {
   Creation creation;
@@ -222,20 +242,54 @@ HttpFetch::~HttpFetch() {
 void HttpFetch::Start(const std::wstring& address, std::function<void(const HttpResult&)> done) {
   Cancel();
   done_ = std::move(done);
+  redirects_ = 0;
+  deadline_.Start();
+  const auto parsed = ParseWebAddress(address);
+  if (parsed && !parsed->secure && !ProxyIsSet()) {
+    StartPlain(*parsed);
+  } else {
+    StartBySystem(parsed);
+  }
+}
+
+// Without an address the transfer ends at once.
+void HttpFetch::StartBySystem(const std::optional<WebAddress>& address) {
   transfer_ = std::make_shared<Transfer>();
   transfer_->owner = handle();
   transfer_->number = ++started_;
   transfer_->most_bytes = limits_.most_bytes;
-  if (transfer_->Open(address, transfer_)) {
-    deadline_.Start();
+  if (!address || !transfer_->Open(*address, transfer_)) transfer_->End(kNotFetchable);
+}
+
+void HttpFetch::StartPlain(const WebAddress& address) {
+  plain_.Start(address, limits_.most_bytes,
+               [this, address](PlainHttpResult result) { OnPlain(address, std::move(result)); });
+}
+
+void HttpFetch::OnPlain(const WebAddress& asked, PlainHttpResult result) {
+  const bool redirect = result.status >= 300 && result.status < 400 && !result.location.empty();
+  if (!redirect) {
+    const bool ok = result.status == kHttpOk;
+    const bool other_status = !ok && result.status != 0;
+    Finish({ok, std::move(result.body),
+            other_status ? StatusReason(static_cast<DWORD>(result.status)) : result.reason,
+            result.unreachable});
+    return;
+  }
+  const auto target = RedirectTarget(asked, WideFromUtf8(result.location));
+  if (!target || ++redirects_ > kMostRedirects) {
+    Finish({false, {}, kRedirectsToNowhere});
+  } else if (target->secure) {
+    StartBySystem(target);
   } else {
-    transfer_->End(L"the address cannot be fetched");
+    StartPlain(*target);
   }
 }
 
 void HttpFetch::Cancel() {
   deadline_.Stop();
   done_ = nullptr;
+  plain_.Cancel();
   // Closing wakes the system's threads, which then let go of the transfer in their own time.
   if (transfer_ && transfer_->request) transfer_->api.close(transfer_->request);
   transfer_.reset();

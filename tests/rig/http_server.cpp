@@ -84,6 +84,7 @@ struct HttpServer::State {
   Sockets sockets;
   Socket listener = ListenOnLoopback();
   std::atomic<bool> closing = false;
+  std::atomic<int> connections = 0;
   std::mutex lock;  // for the next three
   std::string body;
   Manner manner = Manner::kGood;
@@ -96,6 +97,7 @@ struct HttpServer::State {
   void Talk(const Socket& client);
   // The path and query of the next request; empty when none comes whole.
   std::string Listen(const Socket& client) const;
+  void SendForEver(const Socket& client, std::string_view beginning) const;
   void Respond(const Socket& client, const std::string& path, const std::string& text, Manner how);
 };
 
@@ -110,7 +112,12 @@ void HttpServer::State::Host() {
   while (!closing) {
     if (!listener.Readable()) continue;
     Socket client(::accept(listener.get(), nullptr, nullptr));
-    if (client) talks.emplace_back([this, taken = std::move(client)] { Talk(taken); });
+    if (!client) continue;
+    ++connections;
+    talks.emplace_back([this, taken = std::move(client)] {
+      Talk(taken);
+      --connections;
+    });
   }
 }
 
@@ -141,6 +148,13 @@ std::string HttpServer::State::Listen(const Socket& client) const {
   return request.substr(path, request.find(' ', path) - path);
 }
 
+void HttpServer::State::SendForEver(const Socket& client, std::string_view beginning) const {
+  std::string block;
+  while (block.size() < 64 * 1024) block += "xxxxxxxx\r\nX-More: ";
+  if (!client.Send(beginning)) return;
+  while (!closing && client.Send(block)) continue;
+}
+
 void HttpServer::State::Respond(const Socket& client, const std::string& path,
                                 const std::string& text, Manner how) {
   switch (how) {
@@ -154,12 +168,12 @@ void HttpServer::State::Respond(const Socket& client, const std::string& path,
       if (!client.Send(Response("200 OK", "", 100'000))) return;
       while (!closing && client.Send("x")) ::Sleep(kDripMs);
       break;
-    case Manner::kEndless: {
-      const std::string block(64 * 1024, 'x');
-      if (!client.Send("HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n")) return;
-      while (!closing && client.Send(block)) continue;
+    case Manner::kEndless:
+      SendForEver(client, "HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n");
       break;
-    }
+    case Manner::kEndlessHeaders:
+      SendForEver(client, "HTTP/1.1 200 OK\r\nX: ");
+      break;
     case Manner::kLyingLength:
       client.Send(Response("200 OK", text, text.size() + 1'000));
       break;
@@ -204,6 +218,10 @@ void HttpServer::Answer(std::string body, Manner manner) {
   const std::lock_guard hold(state_->lock);
   state_->body = std::move(body);
   state_->manner = manner;
+}
+
+int HttpServer::connections() const {
+  return state_->connections;
 }
 
 std::vector<std::string> HttpServer::requests() const {

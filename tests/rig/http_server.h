@@ -13,6 +13,7 @@ enum class Manner {
   kSilent,          // nothing at all
   kDrip,            // one byte of the body at a time, for ever
   kEndless,         // a body that never ends, as fast as it goes
+  kEndlessHeaders,  // headers that never end, as fast as it goes
   kLyingLength,     // less than the promised length
   kBadChunk,        // chunks whose sizes are no numbers
   kRedirectLoop,    // to the same address again
@@ -34,6 +35,9 @@ class HttpServer {
 
   // What requests get from now on.
   void Answer(std::string body, Manner manner = Manner::kGood);
+
+  // Connections that neither side has closed.
+  int connections() const;
 
   // What was asked for so far, as the request lines name it: path and query.
   std::vector<std::string> requests() const;

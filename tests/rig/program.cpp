@@ -1,6 +1,7 @@
 #include "tests/rig/program.h"
 
 #include <gtest/gtest.h>
+#include <psapi.h>
 
 #include "tests/rig/files.h"
 
@@ -59,6 +60,12 @@ std::optional<DWORD> Program::WaitForExit(int deadline) const {
     return std::nullopt;
   }
   return code;
+}
+
+std::size_t Program::Memory() const {
+  PROCESS_MEMORY_COUNTERS counters = {};
+  ::K32GetProcessMemoryInfo(process_.get(), &counters, sizeof counters);
+  return counters.WorkingSetSize;
 }
 
 void Program::Kill() {

@@ -38,6 +38,9 @@ class Program {
   // The exit code of a process that has ended.
   std::optional<DWORD> exit_code() const { return WaitForExit(0); }
 
+  // The memory in use by it, in bytes.
+  std::size_t Memory() const;
+
   // Ends the process in the middle of whatever it does, and waits for that.
   void Kill();
   // It was ended by Kill.

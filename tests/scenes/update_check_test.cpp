@@ -64,14 +64,25 @@ TEST_F(UpdateCheck, NewerVersionOpensItsPageInTheBrowser) {
   opening.SetText(L"", L"", browser);
 }
 
-TEST_F(UpdateCheck, HostileServersAreNotNoticed) {
-  server_.Answer("", Manner::kEndless);
+TEST_F(UpdateCheck, HostileServersAreNoticedOnlyWhenAsked) {
+  server_.Answer("", Manner::kEndlessHeaders);
   ASSERT_TRUE(program().Start());
   ASSERT_TRUE(WaitForForm(program(), L"frmVRNwg"));
-  ASSERT_TRUE(WaitForRequests(1));
+  const auto logged = [this] { return FileBytes(root().folder() + L"\\debug.log").value_or(""); };
+  EXPECT_SOON(logged().find("update check: the answer was too large") != std::string::npos);
+  EXPECT_SOON(server_.connections() == 0);
+  EXPECT_FALSE(FindDialog(program()));
+
+  server_.Answer("9.99", Manner::kNotFound);
+  HWND box = Check();
+  EXPECT_EQ(Text(box), L"No Answer to the Update Check");
+  EXPECT_EQ(DialogText(box),
+            L"The newest version is not known: the server answered with status 404.");
+  ASSERT_TRUE(CloseDialog(box, IDOK));
+
   server_.Answer("", Manner::kSilent);
   ASSERT_TRUE(ChooseShared(program(), L"mnuDCUPDATES"));
-  ASSERT_TRUE(WaitForRequests(2));
+  ASSERT_TRUE(WaitForRequests(3));
   EXPECT_FALSE(FindDialog(program()));
   EXPECT_EQ(LeaveByMenu(program(), 1'000), 0u) << "the exit waits for the answer";
 }

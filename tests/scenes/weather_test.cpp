@@ -211,11 +211,14 @@ TEST_F(Weather, FailingServerKeepsTheDataAndSaysWhy) {
   Start();
   EXPECT_SOON_EQ(Label(lblTEMPERATURE), L"10C");
   const auto shown = Shown();
+  const std::size_t memory = program().Memory();
+  ASSERT_GT(memory, 1'000'000u);
   const std::string junk(5'000, '\xE9');
   const test::Cases<std::string, Manner, std::wstring> kCases = {
       {good, Manner::kNotFound, L"the server answered with status 404"},
       {good, Manner::kServerError, L"the server answered with status 500"},
       {"", Manner::kEndless, L"the answer was too large"},
+      {"", Manner::kEndlessHeaders, L"the answer was too large"},
       {good, Manner::kLyingLength, L"the answer was cut short"},
       {good, Manner::kBadChunk, L"the "},  // in which words is the platform's choice
       {good, Manner::kRedirectLoop, L"the server redirects to nowhere"},
@@ -230,7 +233,12 @@ TEST_F(Weather, FailingServerKeepsTheDataAndSaysWhy) {
     Choose(widget_, L"mnuWEATHERREFRESH");
     EXPECT_TRUE(WaitForStatus(L" \u00B7 " + reason)) << Label(lblUPDATED);
     EXPECT_EQ(Shown(), shown);
+    EXPECT_TRUE(WaitUntil([&] { return server_.connections() == 0; }, 1'000));
+    EXPECT_LT(program().Memory(), memory + 5'000'000);
     EXPECT_FALSE(FileExists(root().folder() + L"\\web.txt"));
+    EXPECT_TRUE(FileBytes(root().folder() + L"\\debug.log")
+                    .value_or("")
+                    .find("weather: " + Utf8FromWide(reason)) != std::string::npos);
     server_.Answer(good);
     Choose(widget_, L"mnuWEATHERREFRESH");
     EXPECT_TRUE(WaitForGoodStatus()) << Label(lblUPDATED);
@@ -277,6 +285,7 @@ TEST_F(Weather, HangingServersBlockNothing) {
   // No second request while the first is under way.
   Choose(widget_, L"mnuWEATHERREFRESH");
   EXPECT_TRUE(WaitForStatus(L"The server took too long", kGivesUp));
+  EXPECT_TRUE(WaitUntil([&] { return server_.connections() == 0; }, 1'000));
   EXPECT_EQ(server_.requests().size(), 1u);
 }
 

@@ -149,6 +149,8 @@ void WeatherDialog::TakeResponse(const std::wstring& text, bool live) {
 
 void WeatherDialog::Fail(std::wstring reason) {
   fetching_ = false;
+  // One line for a fault that goes on, however often it is tried again.
+  if (reason != failure_) ui().log.Write(L"weather: " + reason);
   failure_ = std::move(reason);
   ShowOnWidget();
 }
