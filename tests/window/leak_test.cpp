@@ -11,8 +11,8 @@
 #include "tests/support/fake_program.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/memory_settings.h"
+#include "tests/window/drawing_objects.h"
 #include "theme/system_colours_win.h"
-#include "widgets/calculator/log_list_win.h"
 #include "widgets/time/clock_form.h"
 #include "win/local_time.h"
 #include "win/popup_menu.h"
@@ -26,13 +26,6 @@ int FreeMenus() {
   std::vector<UniqueMenu> menus;
   while (UniqueMenu menu{::CreatePopupMenu()}) menus.push_back(std::move(menu));
   return static_cast<int>(menus.size());
-}
-
-// How many more drawing objects the system gives.
-int FreeDrawingObjects() {
-  std::vector<UniqueBrush> brushes;
-  while (UniqueBrush brush{::CreateSolidBrush(0x123456)}) brushes.push_back(std::move(brush));
-  return static_cast<int>(brushes.size());
 }
 
 // Closes every menu as soon as it has opened.
@@ -64,11 +57,11 @@ TEST(Leaks, AThousandMenusOpenedLeaveNothingBehind) {
   for (int i = 0; i < 10; ++i) open();
   FreeMenus();
   const int menus = FreeMenus();
-  const int drawing_objects = FreeDrawingObjects();
+  const int drawing_objects = test::FreeDrawingObjects();
   for (int i = 0; i < 1000; ++i) open();
   // Each menu is four with its submenus; the count itself drifts by a few.
   EXPECT_NEAR(FreeMenus(), menus, 20);
-  EXPECT_NEAR(FreeDrawingObjects(), drawing_objects, 20);
+  EXPECT_NEAR(test::FreeDrawingObjects(), drawing_objects, 20);
   EXPECT_EQ(owner.opened, 1010);
 }
 
@@ -84,54 +77,9 @@ TEST(Leaks, AThousandThemesPaintedLeaveNothingBehind) {
     PaintSwatch(surface.dc(), {10, 10, 40, 24}, theme.lngTHEMECOLOR, 96, UserSystemColours());
   };
   for (int i = 0; i < 10; ++i) paint(i);
-  const int before = FreeDrawingObjects();
+  const int before = test::FreeDrawingObjects();
   for (int i = 0; i < 1000; ++i) paint(i);
-  EXPECT_EQ(FreeDrawingObjects(), before);
-}
-
-class LogOwner : public Window {
- public:
-  explicit LogOwner(Ui& ui)
-      : Window(ui),
-        list(
-            ui, [](LogList::Line line) { return std::to_wstring(line) + L" + 0 = 1.0"; },
-            [](LogList::Line) {}) {
-    Creation creation;
-    creation.class_name = L"VarnelLogOwner";
-    creation.style = WS_POPUP | WS_VISIBLE;
-    creation.place = {0, 0, 300, 200};
-    EXPECT_TRUE(Create(creation) && list.Load(handle(), 1));
-  }
-
-  LogList list;
-
- private:
-  LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override {
-    if (message == WM_NOTIFY) return list.OnNotify(*reinterpret_cast<NMHDR*>(lparam));
-    return Window::OnMessage(message, wparam, lparam);
-  }
-};
-
-TEST(Leaks, LogsShownLeaveNothingBehind) {
-  Ui ui{::GetModuleHandleW(nullptr), {}, {}};
-  LogOwner owner(ui);
-  const auto show = [&](int i) {
-    LogListLook look;
-    look.text.font = {L"Tahoma", 10 + i % 20, false};
-    look.text.ground = i * 15'485;
-    owner.list.Place({10, 10, 100 + i % 190, 190}, look);
-    owner.list.ShowLines(static_cast<std::size_t>(i), static_cast<std::size_t>(i));
-    owner.list.Select(static_cast<std::size_t>(i / 2));
-    ::RedrawWindow(owner.handle(), nullptr, nullptr,
-                   RDW_ALLCHILDREN | RDW_INVALIDATE | RDW_UPDATENOW);
-    ui.fonts.Trim(0);
-  };
-  for (int i = 0; i < 40; ++i) show(i);
-  const int before = FreeDrawingObjects();
-  for (int i = 0; i < 100; ++i) show(i);
-  // The list view keeps a few of its own.
-  EXPECT_NEAR(FreeDrawingObjects(), before, 20);
-  EXPECT_EQ(owner.list.Selected(), std::vector<LogList::Line>{49});
+  EXPECT_EQ(test::FreeDrawingObjects(), before);
 }
 
 class WidgetLeaks : public ::testing::Test {
@@ -167,11 +115,11 @@ TEST_F(WidgetLeaks, AThousandRepaintsAndThemesLeaveNothingBehind) {
     Repaint();
   };
   for (int i = 0; i < 20; ++i) change(i);  // fonts and caches
-  const int before = FreeDrawingObjects();
+  const int before = test::FreeDrawingObjects();
   for (int i = 0; i < 1000; ++i) Repaint();
-  EXPECT_EQ(FreeDrawingObjects(), before) << "repaints";
+  EXPECT_EQ(test::FreeDrawingObjects(), before) << "repaints";
   for (int i = 0; i < 1000; ++i) change(i);
-  EXPECT_EQ(FreeDrawingObjects(), before) << "theme changes";
+  EXPECT_EQ(test::FreeDrawingObjects(), before) << "theme changes";
 }
 
 TEST_F(WidgetLeaks, SizesComeAndGoWithoutLeakingFonts) {
@@ -184,10 +132,10 @@ TEST_F(WidgetLeaks, SizesComeAndGoWithoutLeakingFonts) {
     }
   };
   grow();
-  const int before = FreeDrawingObjects();
+  const int before = test::FreeDrawingObjects();
   for (int i = 0; i < 5; ++i) grow();
   // Fonts of the sizes seen may be kept, but only a bounded number of them.
-  EXPECT_GE(FreeDrawingObjects(), before - 250);
+  EXPECT_GE(test::FreeDrawingObjects(), before - 250);
 }
 
 }  // namespace

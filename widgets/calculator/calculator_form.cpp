@@ -27,11 +27,6 @@ int ShiftState() {
   return held(VK_SHIFT, kShiftHeld) | held(VK_CONTROL, kCtrlHeld) | held(VK_MENU, kAltHeld);
 }
 
-// Keys with which a list moves from line to line.
-bool IsListKey(WPARAM key) {
-  return (key >= VK_PRIOR && key <= VK_DOWN) || key == VK_SPACE;
-}
-
 }  // namespace
 
 int ButtonOf(CalculatorKey key) {
@@ -53,9 +48,7 @@ CalculatorForm::CalculatorForm(Services& services, const FormEntry& entry, int i
       lbl01234567890_(services.ui),
       lblDISPLAYFUNC_(services.ui),
       lblSUB_(services.ui),
-      lvwFILES_(
-          services.ui, [this](std::size_t line) { return log_.Line(line); },
-          [this](std::size_t line) { Recall(line); }),
+      lvwFILES_(services.ui, *this),
       release_timer_(*this, kStruckMs, [this] { ReleaseStruck(); }) {}
 
 void CalculatorForm::OnLoad() {
@@ -68,7 +61,7 @@ void CalculatorForm::OnLoad() {
     buttons().Add(ButtonOf(key), std::wstring(KeyName(key)),
                   named_as_drawn ? L'\0' : KeyFace(key)[0], false);
   }
-  lvwFILES_.Load(handle(), lvwFILES);
+  lvwFILES_.Load(handle(), lvwFILES, L"Log", SideListKind::kLog);
   log_.Load();
   ShowLog(log_.count());
 }
@@ -91,27 +84,21 @@ void CalculatorForm::Press(CalculatorKey key) {
   const std::wstring line = engine_.Press(key);
   if (!line.empty()) {
     log_.Append(line);
-    ShowLog(log_.count());
+    lvwFILES_.AddRows(log_.count());
+    RepaintStatus();
   }
   RefreshContent();
 }
 
 bool CalculatorForm::OnKey(const MSG& message) {
-  if (message.message == WM_KEYDOWN) {
-    // With Ctrl the same keys move the widget.
-    list_struck_ = ListHasFocus() && IsListKey(message.wParam) && (ShiftState() & kCtrlHeld) == 0;
-    if (OnKeyDown(static_cast<int>(message.wParam))) return true;
-  }
-  // By now the list has done what the key asks.
-  if (message.message == WM_KEYUP && std::exchange(list_struck_, false)) {
-    if (const auto line = lvwFILES_.Focused()) Recall(*line);
-  }
+  if (message.message == WM_KEYDOWN && OnKeyDown(static_cast<int>(message.wParam))) return true;
+  lvwFILES_.OnKey(message);
   return WidgetForm::OnKey(message);
 }
 
 bool CalculatorForm::OnKeyDown(int virtual_key) {
   const int shift_state = ShiftState();
-  if (ListHasFocus() && virtual_key == 'A' && shift_state == kCtrlHeld) {
+  if (lvwFILES_.HasFocus() && virtual_key == 'A' && shift_state == kCtrlHeld) {
     lvwFILES_.SelectAll();
     return true;
   }
@@ -159,7 +146,7 @@ void CalculatorForm::ReleaseStruck() {
 
 void CalculatorForm::Copy() {
   std::wstring text;
-  if (ListHasFocus()) {
+  if (lvwFILES_.HasFocus()) {
     for (const std::size_t line : lvwFILES_.Selected()) {
       if (!text.empty()) text += L"\r\n";
       text += log_.Line(line);
@@ -175,13 +162,13 @@ void CalculatorForm::PasteNumber() {
   RefreshContent();
 }
 
-void CalculatorForm::Recall(std::size_t line) {
-  engine_.Recall(log_.Line(line));
+void CalculatorForm::OnRowChosen(std::size_t row) {
+  engine_.Recall(log_.Line(row));
   RefreshContent();
 }
 
 void CalculatorForm::ShowLog(std::size_t visible_line) {
-  lvwFILES_.ShowLines(log_.count(), visible_line);
+  lvwFILES_.ShowRows(log_.count(), visible_line);
   RepaintStatus();
 }
 

@@ -3,12 +3,12 @@
 
 #include <optional>
 
+#include "frame/side_list_win.h"
 #include "frame/widget_form.h"
 #include "theme/themed_label_win.h"
 #include "widgets/calculator/calculation_log.h"
 #include "widgets/calculator/calculator_engine.h"
 #include "widgets/calculator/calculator_layout.h"
-#include "widgets/calculator/log_list_win.h"
 
 namespace varnel {
 
@@ -17,7 +17,7 @@ namespace varnel {
 int ButtonOf(CalculatorKey key);
 std::optional<CalculatorKey> KeyOf(int id);
 
-class CalculatorForm : public WidgetForm {  // frmCLCwg
+class CalculatorForm : public WidgetForm, private SideListOwner {  // frmCLCwg
  public:
   CalculatorForm(Services& services, const FormEntry& entry, int index);
 
@@ -39,12 +39,14 @@ class CalculatorForm : public WidgetForm {  // frmCLCwg
   bool RunOwnCommand(int id) override;
   bool OnKey(const MSG& message) override;
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
+  std::wstring RowText(std::size_t row) const override { return log_.Line(row); }
+  void PaintRow(Surface& surface, const SideRow& row) override;
+  void OnRowChosen(std::size_t row) override;
 
   void Press(CalculatorKey key);
   bool OnKeyDown(int virtual_key);
   void Strike(CalculatorKey key);
   void ReleaseStruck();
-  void Recall(std::size_t line);
   void Copy();
   void PasteNumber();
   void ClearHistory();
@@ -54,7 +56,6 @@ class CalculatorForm : public WidgetForm {  // frmCLCwg
   void PlaceKeys();
   void OrderKeys(const std::vector<CalculatorKey>& keys);
   void PlaceLog();
-  bool ListHasFocus() const { return ::GetFocus() == lvwFILES_.handle(); }
   void ScrollDisplay(int units);
   void OnWheel(Point at, int turn);
   Colour Toned(Colour colour, int weight) const;
@@ -66,15 +67,14 @@ class CalculatorForm : public WidgetForm {  // frmCLCwg
   CalculatorLayout places_;
   int key_font_height_ = 0;
   std::vector<CalculatorKey> tab_order_;
-  int first_unit_ = 0;        // of the display that is seen
-  int units_beyond_ = 0;      // that have no room beside the others
-  int wheel_turn_ = 0;        // not yet a whole step
-  bool list_struck_ = false;  // a key that moves in the list is down
-  int struck_id_ = 0;         // the button that a key of the keyboard holds down
+  int first_unit_ = 0;    // of the display that is seen
+  int units_beyond_ = 0;  // that have no room beside the others
+  int wheel_turn_ = 0;    // not yet a whole step
+  int struck_id_ = 0;     // the button that a key of the keyboard holds down
   ThemedLabel lbl01234567890_;
   ThemedLabel lblDISPLAYFUNC_;
   ThemedLabel lblSUB_;
-  LogList lvwFILES_;
+  SideList lvwFILES_;
   Timer release_timer_;
 };
 

@@ -17,6 +17,9 @@ constexpr int kLeastKeyFont = 9;
 constexpr int kLogFontHeight = 13;
 constexpr int kMostLogFontHeight = 22;
 constexpr int kLogMargin = 4;
+constexpr int kRowSideRoom = 4;
+constexpr int kLeastRowFont = 10;
+constexpr int kLeastSumWidth = 28;
 constexpr double kWellRadius = 4;
 
 constexpr double kDarkFace = 0.06;  // the luminance below which nothing darker can be told apart
@@ -26,6 +29,8 @@ constexpr int kSunk = 232;
 constexpr int kOutstanding = 225;
 constexpr int kMostOutstanding = 185;
 constexpr int kHalf = 128;
+
+constexpr std::wstring_view kBeforeResult = L"= ";
 
 int FaceWeight(CalculatorKey key) {
   if (key < CalculatorKey::kAdd) return 255;
@@ -131,7 +136,7 @@ void CalculatorForm::PlaceLog() {
   const Rect place = Inset(Within(layout().pfrPANEL, places_.log), Scaled(kLogMargin, dpi()));
   const int font_height = std::clamp(place.width() / 18, Scaled(kLogFontHeight, dpi()),
                                      Scaled(kMostLogFontHeight, dpi()));
-  LogListLook look{PanelTextStyle(font_height)};
+  SideListLook look{PanelTextStyle(font_height)};
   look.text.ground = WellColour();
   const ButtonLook chosen = paint().high_contrast ? ButtonLook::kPressed : ButtonLook::kNormal;
   const Colour face = ButtonColours(paint(), chosen, services().colours).first;
@@ -140,8 +145,38 @@ void CalculatorForm::PlaceLog() {
   look.selected = ContrastRatio(face, well) > ContrastRatio(toned, well) ? face : toned;
   look.selected_without_focus = Blend(look.selected, well, kHalf, services().colours);
   // What cannot be seen must not have the focus.
-  if (places_.log.empty() && ListHasFocus()) ::SetFocus(::GetDlgItem(handle(), lblEQUALS));
+  if (places_.log.empty() && lvwFILES_.HasFocus()) ::SetFocus(::GetDlgItem(handle(), lblEQUALS));
   lvwFILES_.Place(places_.log.empty() ? Rect{} : place, look);
+}
+
+// The results stand in a column at the right. A line too long becomes smaller, then its sum is cut,
+// not its result.
+void CalculatorForm::PaintRow(Surface& surface, const SideRow& row) {
+  PaintRowGround(surface, row);
+  const std::wstring text = log_.Line(row.index);
+  const std::size_t equals = text.find(kBeforeResult);
+  const std::size_t result_at =
+      equals == std::wstring::npos ? text.size() : equals + kBeforeResult.size();
+  TextStyle style = row.text;
+  style.side_room = Scaled(kRowSideRoom, dpi());
+  const FontMeasure measure(style.font.face, false);
+  Rect box = row.box;
+  const int room = box.width() - 3 * style.side_room;
+  if (measure.Measure(text, style.font.height).width > room) {
+    style.font.height =
+        std::max(FittingHeight(text, {room, box.height()}, style.font.height, measure),
+                 Scaled(kLeastRowFont, dpi()));
+  }
+  if (result_at < text.size()) {
+    const std::wstring result = text.substr(result_at);
+    style.align = Align::kRight;
+    PaintText(ui(), surface, box, result, style);
+    box.right -= measure.Measure(result, style.font.height).width + style.side_room;
+  }
+  if (box.width() >= Scaled(kLeastSumWidth, dpi())) {
+    style.align = Align::kLeft;
+    PaintText(ui(), surface, box, text.substr(0, result_at), style);
+  }
 }
 
 void CalculatorForm::PaintPanel(Surface& surface, const Rect& panel) {
