@@ -6,33 +6,58 @@
 #include "widgets/calculator/calculator_form.h"
 #include "widgets/notes/notes_folder.h"
 #include "widgets/time/alarm_dialog.h"
+#include "widgets/time/alarm_service_win.h"
 #include "widgets/time/clock_dialog.h"
 #include "widgets/time/clock_form.h"
 #include "widgets/time/countdown_form.h"
 #include "widgets/time/stopwatch_form.h"
 #include "widgets/weather/weather_dialog.h"
 #include "widgets/weather/weather_form.h"
+#include "widgets/weather/weather_service_win.h"
 
 namespace varnel {
 namespace {
 
-constexpr CatalogueWidget kWidgets[] = {{0, MakeWidget<ClockForm>},
-                                        {1, MakeWidget<CalculatorForm>},
-                                        {4, MakeWidget<StopwatchForm>},
-                                        {5, MakeWidget<CountdownForm>},
-                                        {7, MakeWidget<WeatherForm>}};
-constexpr CatalogueDialog kDialogs[] = {{L"frmVRNpr", MakeDialog<OptionsDialog>},
-                                        {L"frmTHEME", MakeDialog<ThemeDialog>},
-                                        {L"frmCLKpr", MakeDialog<ClockDialog>},
-                                        {L"frmWTHpr", MakeDialog<WeatherDialog>},
-                                        {L"frmCLKas", MakeDialog<AlarmDialog>, true}};
-constexpr FolderSetting kFolders[] = {kWhiteboardFolder, kNotesFolder, kCalendarFolder};
-constexpr Catalogue kCatalogue{kWidgets, kDialogs, kFolders};
+void AddProgram(Catalogue& catalogue) {
+  catalogue.AddDialog<OptionsDialog>(L"frmVRNpr");
+  catalogue.AddDialog<ThemeDialog>(L"frmTHEME");
+}
+
+void AddTime(Catalogue& catalogue) {
+  auto& alarms = catalogue.AddService<AlarmService>();
+  catalogue.AddWidget<ClockForm>(0);
+  catalogue.AddWidget<StopwatchForm>(4);
+  catalogue.AddWidget<CountdownForm>(5);
+  catalogue.AddDialog<ClockDialog>(L"frmCLKpr", alarms);
+  catalogue.AddDialog<AlarmDialog>(L"frmCLKas", alarms);
+}
+
+void AddCalculator(Catalogue& catalogue) {
+  catalogue.AddWidget<CalculatorForm>(1);
+}
+
+void AddWeather(Catalogue& catalogue) {
+  auto& weather = catalogue.AddService<WeatherService>();
+  catalogue.AddWidget<WeatherForm>(7, weather);
+  catalogue.AddDialog<WeatherDialog>(L"frmWTHpr", weather);
+}
+
+void AddBoards(Catalogue& catalogue) {
+  catalogue.AddFolder(kWhiteboardFolder);
+  catalogue.AddFolder(kCalendarFolder);
+}
+
+void AddNotes(Catalogue& catalogue) {
+  catalogue.AddFolder(kNotesFolder);
+}
+
+constexpr Family kFamilies[] = {AddProgram, AddTime,   AddCalculator,
+                                AddWeather, AddBoards, AddNotes};
 
 }  // namespace
 
-const Catalogue& ProgramCatalogue() {
-  return kCatalogue;
+std::span<const Family> ProgramFamilies() {
+  return kFamilies;
 }
 
 }  // namespace varnel

@@ -1,10 +1,12 @@
-// The catalogue of this build: every widget and dialog there is.
+// The catalogue of this build: every widget, dialog and family service there is.
 #pragma once
+
+#include <span>
 
 #include "core/widget_catalogue_win.h"
 
 namespace varnel {
 
-const Catalogue& ProgramCatalogue();
+std::span<const Family> ProgramFamilies();
 
 }  // namespace varnel

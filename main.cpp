@@ -32,5 +32,5 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, wchar_t*, int) {
     ShowFirstInstance(name);
     return 0;
   }
-  return varnel::Application(instance, command_line, varnel::ProgramCatalogue()).Run();
+  return varnel::Application(instance, command_line, varnel::ProgramFamilies()).Run();
 }

@@ -26,25 +26,11 @@ constexpr wchar_t kHelpText[] =
 
 }  // namespace
 
-Dialog* Application::FindDialog(std::wstring_view form) {
-  if (const auto found = dialogs_.find(form); found != dialogs_.end()) return found->second.get();
-  for (const CatalogueDialog& entry : catalogue_.dialogs) {
-    if (entry.form_name != form) continue;
-    Dialog* dialog =
-        dialogs_.emplace(std::wstring(form), entry.create(services_)).first->second.get();
-    if (auto* listener = dynamic_cast<AlarmTickListener*>(dialog)) {
-      tick_listeners_.push_back(listener);
-    }
-    return dialog;
-  }
-  return nullptr;
-}
-
 void Application::OpenDialog(std::wstring_view form) {
-  Dialog* dialog = FindDialog(form);
-  if (!dialog) return;
+  if (!HasDialog(form)) return;
   const HourglassPointer pointer;
-  if (!dialog->Open(menus_.handle())) {
+  const Dialog* dialog = dialogs_.Open(form, menus_.handle());
+  if (!dialog) {
     ui_.log.Write(L"no window for " + std::wstring(form));
     return;
   }
@@ -53,17 +39,10 @@ void Application::OpenDialog(std::wstring_view form) {
   KeepOnTop(dialog->handle(), std::ranges::any_of(forms_.all(), kept_on_top));
 }
 
-bool Application::HasDialog(std::wstring_view form) const {
-  for (const CatalogueDialog& entry : catalogue_.dialogs) {
-    if (entry.form_name == form) return true;
-  }
-  return false;
-}
-
 std::vector<MenuItem> Application::SharedMenu() const {
   SharedMenuState state;
   for (int i = 0; i < kWidgetCount; ++i) {
-    state.available[i] = Available(i);
+    state.available[i] = widgets_.Available(i);
     state.open[i] = manager_.IsOpen(i);
   }
   const LiveForm* current = OpenCurrentForm();

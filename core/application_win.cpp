@@ -31,17 +31,22 @@ std::wstring ProgramFolder(const CommandLine& command_line) {
 }  // namespace
 
 Application::Application(HINSTANCE instance, const CommandLine& command_line,
-                         const Catalogue& catalogue)
+                         std::span<const Family> families)
     : command_line_(command_line),
-      catalogue_(catalogue),
+      families_(families),
       ui_{instance, {}, {}},
       settings_(registry_, RegistryRoot(command_line.settings_title)),
       sound_(instance),
       services_{ui_,      settings_, files_, clock_, formatter_,
                 colours_, forms_,    *this,  sound_, ProgramFolder(command_line)},
+      catalogue_(services_),
       menus_(ui_, *this, [this] { SaveEverything(); }),
+      update_checker_(ui_, menus_.webDATA(),
+                      [this](std::function<void()> work) { menus_.Post(std::move(work)); }),
       tray_(ui_, *this),
-      manager_(services_, *this) {}
+      widgets_(catalogue_),
+      dialogs_(catalogue_),
+      manager_(services_, widgets_) {}
 
 std::wstring Application::InstanceName(const CommandLine& command_line) {
   return command_line.settings_title + L" menus";
@@ -67,15 +72,18 @@ void Application::Main() {
   const HourglassPointer pointer;
   ui_.log.SetFile(services_.program_folder + L"debug.log");
   Guarded(L"constants", [this] {
-    version_ = VersionText(VARNEL_VERSION_MAJOR, VARNEL_VERSION_MINOR);
     pages_ = ReadWebAddresses(settings_);
+    update_checker_.SetPages(pages_);
   });
   closing_ = false;
   Guarded(L"fonts", [this] {
     if (!LoadFontResource(ui_.instance, L"ICONWORKS")) ui_.log.Write(L"no symbol font");
   });
+  for (const Family family : families_) {
+    Guarded(L"family", [&] { family(catalogue_); });
+  }
   Guarded(L"data folders", [this] {
-    for (const FolderSetting& folder : catalogue_.folders) {
+    for (const FolderSetting& folder : catalogue_.folders()) {
       PrepareFolder(settings_, files_, folder, services_.program_folder);
     }
   });
@@ -86,7 +94,7 @@ void Application::Main() {
     if (manager_.WidgetForm::Load()) manager_.StartUp();
   });
   Guarded(L"menus", [this] {
-    LoadResidents();
+    menus_.OnAlarmTick([this] { OnAlarmTick(); });
     menus_.Load(InstanceName(command_line_));
   });
   Guarded(L"tray icon", [this] {
@@ -97,16 +105,9 @@ void Application::Main() {
   Guarded(L"first window", [this] { ShowStartupWindow(); });
 }
 
-void Application::LoadResidents() {
-  for (const CatalogueDialog& entry : catalogue_.dialogs) {
-    if (entry.resident) FindDialog(entry.form_name);
-  }
-  menus_.OnAlarmTick([this] { OnAlarmTick(); });
-}
-
 void Application::OnAlarmTick() {
-  std::erase_if(retired_, [](const auto& form) { return !form->busy(); });
-  for (AlarmTickListener* listener : tick_listeners_) listener->OnAlarmTick();
+  widgets_.DropRetired();
+  for (const auto& service : catalogue_.family_services()) service->OnAlarmTick();
 }
 
 void Application::ShowStartupWindow() {
@@ -133,36 +134,10 @@ void Application::RegisterRunAtLogon() {
   varnel::RegisterRunAtLogon(settings_, RunAtLogonCommand(FolderOf(path), BaseName(path)));
 }
 
-void Application::CheckForUpdate(int mode) {
-  update_mode_ = mode;
-  menus_.Post([this] {
-    const HourglassPointer pointer;
-    menus_.webDATA().Start(pages_.version_file,
-                           [this](const HttpResult& page) { UpdateCheckDone(page); });
-  });
-}
-
-void Application::UpdateCheckDone(const HttpResult& page) {
-  if (!page.ok) {
-    ui_.log.Write(L"update check: " + page.reason);
-    if (update_mode_ == 0) return;
-    ShowInformation(menus_.handle(), L"The newest version is not known: " + page.reason + L".",
-                    L"No Answer to the Update Check");
-  } else if (UpdateAvailable(WideFromUtf8(page.body), version_)) {
-    OpenPage(pages_.update);
-  } else if (update_mode_ != 0) {
-    ShowInformation(menus_.handle(),
-                    L"If you are in need of updates due to bugs or whatever then let me know.",
-                    L"There Are No Updates Available as Yet");
-  }
-}
-
 void Application::SaveEverything() {
   Guarded(L"saving", [this] {
     manager_.SavePlace();
-    for (const auto& widget : widgets_) {
-      if (widget) widget->SavePlace();
-    }
+    widgets_.ForEach([](WidgetForm& widget) { widget.SavePlace(); });
   });
 }
 
@@ -170,62 +145,10 @@ void Application::ExitProgram() {
   if (std::exchange(closing_, true)) return;
   Guarded(L"tray icon", [this] { tray_.Unload(); });
   Guarded(L"manager", [this] { manager_.WidgetForm::Unload(); });
-  for (const auto& widget : widgets_) {
-    Guarded(L"widget", [&] {
-      if (widget) widget->Unload();
-    });
-  }
-  for (const auto& [name, dialog] : dialogs_) {
-    Guarded(L"dialog", [&] { dialog->Close(); });
-  }
+  widgets_.ForEach([this](WidgetForm& widget) { Guarded(L"widget", [&] { widget.Unload(); }); });
+  dialogs_.ForEach([this](Dialog& dialog) { Guarded(L"dialog", [&] { dialog.Close(); }); });
   Guarded(L"menus", [this] { menus_.Unload(); });
   ::PostQuitMessage(0);
-}
-
-bool Application::Available(int index) const {
-  for (const CatalogueWidget& entry : catalogue_.widgets) {
-    if (entry.index == index) return true;
-  }
-  return false;
-}
-
-bool Application::LoadWidget(int index) {
-  if (widgets_[index]) return true;
-  for (const CatalogueWidget& entry : catalogue_.widgets) {
-    if (entry.index != index) continue;
-    auto form = entry.create(services_, *WidgetAt(index), index);
-    if (!form->Load()) return false;
-    widgets_[index] = std::move(form);
-    return true;
-  }
-  return false;
-}
-
-void Application::UnloadWidget(int index) {
-  if (!widgets_[index]) return;
-  widgets_[index]->Unload();
-  // The call may come from one of the form's own handlers, so the form itself goes a little later.
-  retired_.push_back(std::move(widgets_[index]));
-}
-
-void Application::ShowWidget(int index, bool shown) {
-  if (widgets_[index]) widgets_[index]->Show(shown);
-}
-
-void Application::BringToFront() {
-  for (const auto& widget : widgets_) {
-    if (widget && widget->visible()) ::BringWindowToTop(widget->handle());
-  }
-}
-
-void Application::ArrangeAll() {
-  for (const auto& widget : widgets_) {
-    if (widget) widget->MoveToDefaultPlace();
-  }
-}
-
-void Application::OpenSupportPage() {
-  OpenPage(pages_.support);
 }
 
 void Application::OpenPage(const std::wstring& address) {

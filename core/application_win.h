@@ -1,19 +1,20 @@
 // The application: owns every service and form, starts the program and ends it.
 #pragma once
 
-#include <array>
-#include <map>
-#include <memory>
+#include <span>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "core/command_line.h"
+#include "core/dialog_shelf_win.h"
 #include "core/manager_form.h"
 #include "core/menus_form.h"
 #include "core/settings_store.h"
 #include "core/tray_form.h"
-#include "core/update_check.h"
+#include "core/update_checker_win.h"
 #include "core/widget_catalogue_win.h"
-#include "frame/alarm_tick.h"
+#include "core/widget_shelf_win.h"
 #include "theme/system_colours_win.h"
 #include "win/disk_files.h"
 #include "win/local_time.h"
@@ -22,9 +23,10 @@
 
 namespace varnel {
 
-class Application : public Program, private WidgetHost {
+class Application : public Program {
  public:
-  Application(HINSTANCE instance, const CommandLine& command_line, const Catalogue& catalogue);
+  Application(HINSTANCE instance, const CommandLine& command_line,
+              std::span<const Family> families);
 
   // Starts the program, runs it until its last form is gone, and gives the process's exit code.
   int Run();
@@ -38,11 +40,10 @@ class Application : public Program, private WidgetHost {
   void ShowManager() override;
   void HideToTray() override;
   void RegisterRunAtLogon() override;
-  void CheckForUpdate(int mode) override;
+  void CheckForUpdate(int mode) override { update_checker_.CheckForUpdate(mode); }
   void WidgetCheck(int index) override { manager_.WidgetCheck(index); }
-  Dialog* FindDialog(std::wstring_view form) override;
   void OpenDialog(std::wstring_view form) override;
-  bool HasDialog(std::wstring_view form) const override;
+  bool HasDialog(std::wstring_view form) const override { return dialogs_.Has(form); }
   void SetCurrentWidget(std::wstring_view form) override { current_widget_ = form; }
   LiveForm& CurrentForm() override;
   std::vector<MenuItem> SharedMenu() const override;
@@ -53,19 +54,9 @@ class Application : public Program, private WidgetHost {
   template <class Step>
   void Guarded(const wchar_t* name, Step step);
 
-  bool Available(int index) const override;
-  bool LoadWidget(int index) override;
-  void UnloadWidget(int index) override;
-  void ShowWidget(int index, bool shown) override;
-  void BringToFront() override;
-  void ArrangeAll() override;
-  void OpenSupportPage() override;
-
   void Main();
-  void LoadResidents();
   void OnAlarmTick();
   void ShowStartupWindow();
-  void UpdateCheckDone(const HttpResult& page);
   void SaveEverything();
   // Null when no menu was opened yet, or its widget is closed.
   LiveForm* OpenCurrentForm() const { return forms_.Find(current_widget_); }
@@ -74,7 +65,7 @@ class Application : public Program, private WidgetHost {
   void ShowHelp();
 
   CommandLine command_line_;
-  const Catalogue& catalogue_;
+  std::span<const Family> families_;
   Ui ui_;
   SystemRegistry registry_;
   SettingsStore settings_;
@@ -85,18 +76,16 @@ class Application : public Program, private WidgetHost {
   FormRegistry forms_;
   Sound sound_;
   Services services_;
-  std::wstring version_;
+  Catalogue catalogue_;
   WebAddresses pages_;
   bool closing_ = false;
-  int update_mode_ = 0;
   std::wstring current_widget_;
   MenusForm menus_;
+  UpdateChecker update_checker_;
   TrayForm tray_;
+  WidgetShelf widgets_;
+  DialogShelf dialogs_;
   ManagerForm manager_;
-  std::array<std::unique_ptr<WidgetForm>, kWidgetCount> widgets_;
-  std::vector<std::unique_ptr<WidgetForm>> retired_;  // unloaded, but perhaps still at work
-  std::map<std::wstring, std::unique_ptr<Dialog>, std::less<>> dialogs_;
-  std::vector<AlarmTickListener*> tick_listeners_;  // among the dialogs
 };
 
 }  // namespace varnel

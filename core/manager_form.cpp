@@ -94,7 +94,7 @@ void ManagerForm::WidgetSel(int mode) {
       host_.ArrangeAll();
       break;
     case 5:
-      host_.OpenSupportPage();
+      services().program.RunCommand(CommandId(L"mnuDCWEB"));
       break;
     case 8:
       for (int i = 0; i < kWidgetCount; ++i) {

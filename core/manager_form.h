@@ -19,7 +19,6 @@ class WidgetHost {
   // Brings the shown widgets before other windows / all open ones to the places they first had.
   virtual void BringToFront() = 0;
   virtual void ArrangeAll() = 0;
-  virtual void OpenSupportPage() = 0;
 };
 
 class ManagerForm : public WidgetForm, private WidgetWindows {  // frmVRNwg

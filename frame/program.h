@@ -9,7 +9,6 @@
 
 namespace varnel {
 
-class Dialog;
 class LiveForm;
 
 class Program {
@@ -27,10 +26,8 @@ class Program {
 
   // Opens a closed widget and closes an open one; an unknown index does nothing.
   virtual void WidgetCheck(int index) = 0;
-  // The dialog of that form name, loaded when it is not yet, open or not; it stays until the
-  // program ends. Null for an unknown name.
-  virtual Dialog* FindDialog(std::wstring_view form) = 0;
-  // Opens the dialog of that form name, or brings it to the front. Unknown names do nothing.
+  // Opens the dialog of that form name, or brings it to the front; once made it stays until
+  // the program ends. Unknown names do nothing.
   virtual void OpenDialog(std::wstring_view form) = 0;
   // Whether this build has the dialog.
   virtual bool HasDialog(std::wstring_view form) const = 0;

@@ -18,7 +18,6 @@ class FakeProgram : public Program {
   void RegisterRunAtLogon() override { calls.push_back(L"RegisterRunAtLogon"); }
   void CheckForUpdate(int) override { calls.push_back(L"CheckForUpdate"); }
   void WidgetCheck(int) override { calls.push_back(L"WidgetCheck"); }
-  Dialog* FindDialog(std::wstring_view) override { return nullptr; }
   void OpenDialog(std::wstring_view form) override {
     calls.push_back(L"open " + std::wstring(form));
   }

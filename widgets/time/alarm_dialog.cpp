@@ -1,8 +1,6 @@
 #include "widgets/time/alarm_dialog.h"
 
 #include "resources/control_ids.h"
-#include "widgets/time/sound_commands.h"
-#include "win/sound.h"
 
 namespace varnel {
 namespace {
@@ -12,29 +10,12 @@ constexpr int kLongestTime = 20;
 
 }  // namespace
 
-void PlayAlarmSound(Services& services, const AlarmSound& sound) {
-  if (sound.bell) {
-    services.sound.PlayResource(kBellName);
-  } else {
-    PlayFile(services.sound, sound.file);
-  }
-}
-
-AlarmDialog::AlarmDialog(Services& services)
-    : Dialog(services.ui, L"frmCLKas"),
-      services_(services),
-      presets_(LoadAlarmPresets(services.settings)),
-      popup_(services) {}
-
-void AlarmDialog::OnAlarmTick() {
-  for (const AlarmRing& ring : AlarmRefresh(presets_, services_.clock.Now())) {
-    PlayAlarmSound(services_, LoadAlarmSound(services_.settings));
-    popup_.Ring(ring);
-  }
-}
+AlarmDialog::AlarmDialog(Services& services, AlarmService& alarms)
+    : Dialog(services.ui, L"frmCLKas"), alarms_(alarms) {}
 
 void AlarmDialog::OnOpen() {
   const std::vector<std::wstring> hours = QuarterHours();
+  const AlarmPresets& presets = alarms_.presets();
   for (int i = 0; i < kAlarmPresets; ++i) {
     HWND times = Control(cboTIME + i);
     for (const std::wstring& hour : hours) {
@@ -42,24 +23,25 @@ void AlarmDialog::OnOpen() {
     }
     ::SendMessageW(times, CB_LIMITTEXT, kLongestTime, 0);
     ::SendMessageW(Control(txtMESSAGE + i), EM_LIMITTEXT, kLongestMessage, 0);
-    SetChecked(chkSET + i, presets_[i].use);
-    SetControlText(cboTIME + i, presets_[i].time);
-    SetControlText(txtMESSAGE + i, presets_[i].message);
+    SetChecked(chkSET + i, presets[i].use);
+    SetControlText(cboTIME + i, presets[i].time);
+    SetControlText(txtMESSAGE + i, presets[i].message);
   }
 }
 
 void AlarmDialog::OnCommand(int id, int code) {
   if (code != BN_CLICKED) return;
-  if (id == cmdAlarmPreview) PlayAlarmSound(services_, LoadAlarmSound(services_.settings));
+  if (id == cmdAlarmPreview) alarms_.PlayChosen();
   if (id == cmdOKfrmCLKas) Store();
   if (id == cmdOKfrmCLKas || id == cmdCancelfrmCLKas) Close();
 }
 
 void AlarmDialog::Store() {
+  AlarmPresets presets;
   for (int i = 0; i < kAlarmPresets; ++i) {
-    presets_[i] = {Checked(chkSET + i), ControlText(cboTIME + i), ControlText(txtMESSAGE + i)};
+    presets[i] = {Checked(chkSET + i), ControlText(cboTIME + i), ControlText(txtMESSAGE + i)};
   }
-  SaveAlarmPresets(services_.settings, presets_);
+  alarms_.SetPresets(presets);
 }
 
 }  // namespace varnel

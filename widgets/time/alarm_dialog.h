@@ -1,32 +1,22 @@
-// The alarm settings, and the alarms themselves: the dialog stays loaded and keeps the presets that
-// ring, whether it or the clock is open or not.
+// The dialog in which the alarms are set.
 #pragma once
 
-#include "frame/alarm_tick.h"
 #include "frame/services.h"
-#include "widgets/time/alarm_popup_form.h"
-#include "widgets/time/alarms.h"
+#include "widgets/time/alarm_service_win.h"
 #include "win/dialog.h"
 
 namespace varnel {
 
-// Plays what is set as the alarm sound, once.
-void PlayAlarmSound(Services& services, const AlarmSound& sound);
-
-class AlarmDialog : public Dialog, public AlarmTickListener {  // frmCLKas
+class AlarmDialog : public Dialog {  // frmCLKas
  public:
-  explicit AlarmDialog(Services& services);
-
-  void OnAlarmTick() override;
+  AlarmDialog(Services& services, AlarmService& alarms);
 
  private:
   void OnOpen() override;
   void OnCommand(int id, int code) override;
   void Store();
 
-  Services& services_;
-  AlarmPresets presets_;
-  AlarmPopup popup_;
+  AlarmService& alarms_;
 };
 
 }  // namespace varnel

@@ -1,7 +1,6 @@
 #include "widgets/time/clock_dialog.h"
 
 #include "resources/control_ids.h"
-#include "widgets/time/alarm_dialog.h"
 #include "widgets/time/clock_engine.h"
 #include "win/shell.h"
 #include "win/ui.h"
@@ -14,8 +13,8 @@ constexpr int kLongestPattern = 254;  // characters that a setting can hold
 
 }  // namespace
 
-ClockDialog::ClockDialog(Services& services)
-    : Dialog(services.ui, L"frmCLKpr"), services_(services) {}
+ClockDialog::ClockDialog(Services& services, AlarmService& alarms)
+    : Dialog(services.ui, L"frmCLKpr"), services_(services), alarms_(alarms) {}
 
 void ClockDialog::OnOpen() {
   const ClockSettings values = LoadClockSettings(services_.settings);
@@ -54,7 +53,7 @@ void ClockDialog::OnCommand(int id, int code) {
       Browse();
       break;
     case cmdTest:
-      PlayAlarmSound(services_, ChosenSound());
+      alarms_.Play(ChosenSound());
       break;
     default:
       EnableDependents();

@@ -2,14 +2,14 @@
 #pragma once
 
 #include "frame/services.h"
-#include "widgets/time/alarms.h"
+#include "widgets/time/alarm_service_win.h"
 #include "win/dialog.h"
 
 namespace varnel {
 
 class ClockDialog : public Dialog {  // frmCLKpr
  public:
-  explicit ClockDialog(Services& services);
+  ClockDialog(Services& services, AlarmService& alarms);
 
  private:
   void OnOpen() override;
@@ -20,6 +20,7 @@ class ClockDialog : public Dialog {  // frmCLKpr
   void EnableDependents();
 
   Services& services_;
+  AlarmService& alarms_;  // whose sound can be tried here
 };
 
 }  // namespace varnel

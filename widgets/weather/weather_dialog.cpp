@@ -1,4 +1,3 @@
-// The part of the dialog in which the place and the scale are chosen.
 #include "widgets/weather/weather_dialog.h"
 
 #include <algorithm>
@@ -16,6 +15,13 @@ constexpr int kLongestName = 254;  // characters that a setting can hold
 
 }  // namespace
 
+WeatherDialog::WeatherDialog(Services& services, WeatherService& weather)
+    : Dialog(services.ui, L"frmWTHpr"),
+      services_(services),
+      weather_(weather),
+      countries_{cboCOUNTRY, {}, {}},
+      cities_{cboCOUNTRYAREA, {}, {}} {}
+
 bool WeatherDialog::United() const {
   return Checked(optLOCATIONS + 1);
 }
@@ -32,7 +38,7 @@ void WeatherDialog::OnOpen() {
 
 void WeatherDialog::ChooseList(bool united) {
   SetControlText(lblCountry, united ? L"&State:" : L"&Country:");
-  Fill(countries_, AreaNames(DataList(united ? L"STATES" : L"COUNTRIES")));
+  Fill(countries_, weather_.places().Areas(united));
   const bool stored = united == ReadFlag(services_.settings, kWeatherWorld);
   SetBoxText(countries_, stored ? services_.settings.Read(kWeatherCountry) : L"");
   FillCities();
@@ -55,7 +61,7 @@ void WeatherDialog::Fill(PlaceBox& box, std::vector<std::wstring> items) {
 void WeatherDialog::FillCities() {
   listed_country_ = ControlText(countries_.id);
   const std::wstring city = ControlText(cities_.id);
-  Fill(cities_, CityNames(DataList(United() ? L"USTATES" : L"INTERNATIONAL"), listed_country_));
+  Fill(cities_, weather_.places().Cities(United(), listed_country_));
   // The city stays if the country has one of that name too.
   SetBoxText(cities_, std::ranges::count(cities_.items, city) ? city : L"");
 }
@@ -152,7 +158,7 @@ void WeatherDialog::CompleteBox(PlaceBox& box) {
 void WeatherDialog::ShowPick() {
   const std::wstring area = Completed(countries_);
   const std::wstring city = Completed(cities_);
-  const auto place = Resolve(United(), area, city);
+  const auto place = weather_.places().Resolve(United(), area, city);
   SetControlText(lblPICK, place ? L"Weather for " + place->city + L", " + place->area + L"."
                           : city.empty() || area != listed_country_
                               ? L"Type the first letters, or choose from the lists."
@@ -165,7 +171,7 @@ void WeatherDialog::Store() {
   settings.Write(kWeatherWorld, Checked(optLOCATIONS) ? L"0" : L"1");
   settings.Write(kWeatherCountry, ControlText(countries_.id));
   settings.Write(kWeatherCity, ControlText(cities_.id));
-  WeatherDataGet();
+  weather_.WeatherDataGet();
 }
 
 }  // namespace varnel

@@ -1,41 +1,18 @@
-// The weather's properties, and the weather itself: the dialog stays loaded, fetches and reads the
-// data whether it is open or not, and keeps what the widget shows.
+// The dialog in which the weather's place and scale are chosen.
 #pragma once
 
-#include <cstdint>
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "frame/services.h"
-#include "widgets/weather/live_source.h"
-#include "widgets/weather/places.h"
-#include "widgets/weather/weather_feed.h"
-#include "widgets/weather/weather_status.h"
+#include "widgets/weather/weather_service_win.h"
 #include "win/dialog.h"
-#include "win/http.h"
 
 namespace varnel {
 
 class WeatherDialog : public Dialog {  // frmWTHpr
  public:
-  explicit WeatherDialog(Services& services);
-
-  // Starts to fetch the weather of the chosen place. The live source is spared: what it has
-  // answered for that place is good for an hour.
-  void WeatherDataGet();
-  // Fetches it however young the data is, unless a fetch is under way.
-  void WeatherRefresh();
-  // Asks the live source anew when an hour has passed since, or could not be reached at all. To be
-  // called now and then.
-  void KeepUpToDate();
-  // Reads the stored response again.
-  void DataFileRead();
-
-  // What the widget is to show; the forecast is empty and the temperature "-" while nothing is
-  // known.
-  const WeatherLabels& labels() const { return labels_; }
-  WeatherStatus status() const;
+  WeatherDialog(Services& services, WeatherService& weather);
 
  private:
   // A combo box in which places are chosen or typed.
@@ -62,41 +39,12 @@ class WeatherDialog : public Dialog {  // frmWTHpr
   void ShowPick();
   void Store();
 
-  std::wstring DataList(const wchar_t* name) const;
-  std::optional<WeatherPlace> Resolve(bool united, const std::wstring& area,
-                                      const std::wstring& city) const;
-  bool live_source() const;  // it is asked, because no feed's address is set
-  void LoadPlace();
-  bool AnswerIsFresh() const;
-  std::wstring Address() const;  // empty when the place is not known
-  void Fetch();
-  void OnFetched(const HttpResult& result, const WeatherPlace& place, bool live);
-  LiveFeed LiveFeedOf(const std::string& answer, const WeatherPlace& place) const;
-  void ReadLiveAnswer();
-  void TakeResponse(const std::wstring& text, bool live);
-  void Fail(std::wstring reason);
-  void ShowOnWidget();
-
   Services& services_;
+  WeatherService& weather_;
   PlaceBox countries_;
   PlaceBox cities_;
   std::wstring listed_country_;  // whose cities are listed
   bool filling_ = false;         // the boxes are being written by the program
-
-  HttpFetch webDATA_;
-  WeatherPlace place_;  // its code is txtADDR
-  std::wstring txtDATA_;
-  WeatherData data_;
-  WeatherLabels labels_;
-  std::string answer_;                // the live source's last good one
-  WeatherPlace answer_place_;         // the place it is for
-  std::uint64_t answered_ = 0;        // when it came, in milliseconds since the system started
-  bool live_data_ = false;            // txtDATA comes from it
-  std::optional<LocalTime> updated_;  // when txtDATA came
-  std::uint64_t asked_ = 0;           // when the last fetch began, in those milliseconds
-  bool fetching_ = false;
-  std::wstring failure_;  // of the last fetch
-  bool unreachable_ = false;
 };
 
 }  // namespace varnel

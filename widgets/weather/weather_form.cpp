@@ -6,8 +6,8 @@
 #include "frame/frame_painter_win.h"
 #include "resources/control_ids.h"
 #include "widgets/weather/live_source.h"
-#include "widgets/weather/weather_dialog.h"
 #include "widgets/weather/weather_glyphs.h"
+#include "widgets/weather/weather_service_win.h"
 #include "win/font_measure.h"
 #include "win/shell.h"
 #include "win/window_text.h"
@@ -27,8 +27,10 @@ constexpr Command kRefresh{L"mnuWEATHERREFRESH", L"Re&fresh now", L"F5"};
 
 }  // namespace
 
-WeatherForm::WeatherForm(Services& services, const FormEntry& entry, int index)
+WeatherForm::WeatherForm(Services& services, const FormEntry& entry, int index,
+                         WeatherService& weather)
     : WidgetForm(services, entry, index),
+      weather_(weather),
       lblWeatherCountry_(services.ui),
       lblWeathersymbol_(services.ui),
       lblTEMPERATURE_(services.ui),
@@ -38,10 +40,10 @@ WeatherForm::WeatherForm(Services& services, const FormEntry& entry, int index)
       tmrWEATHER_(*this, kFirstReadingMs,
                   [this] {
                     tmrWEATHER_.Stop();
-                    dialog_->WeatherDataGet();
+                    weather_.WeatherDataGet();
                   }),
       minutely_(*this, kMinuteMs, [this] {
-        dialog_->KeepUpToDate();
+        weather_.KeepUpToDate();
         RefreshContent();  // the data may be of yesterday by now
       }) {}
 
@@ -58,8 +60,6 @@ void WeatherForm::OnLoad() {
   }
   lblUPDATED_.Load(handle(), lblUPDATED);
   buttons().Add(lblATTRIBUTION, L"", 0, false);
-  dialog_ = dynamic_cast<WeatherDialog*>(services().program.FindDialog(L"frmWTHpr"));
-  if (!dialog_) return;
   tmrWEATHER_.Start();
   minutely_.Start();
 }
@@ -70,8 +70,7 @@ void WeatherForm::OnUnload() {
 }
 
 void WeatherForm::LayOutPanel(const Rect& panel) {
-  if (!dialog_) return;
-  places_ = LayOutWeather({panel.width(), panel.height()}, dpi(), dialog_->labels(),
+  places_ = LayOutWeather({panel.width(), panel.height()}, dpi(), weather_.labels(),
                           FontMeasure(theme().strTHEMEPANELFONTNAME, false));
   PlaceLabels(panel);
   PlaceStrip();
@@ -106,7 +105,7 @@ void WeatherForm::PlaceStrip() {
   const FontMeasure measure(style.font.face, false);
   Rect room = layout().status_text;
   room.top += 1;  // below the line that the frame draws
-  const WeatherStrip texts = ChooseStrip(dialog_->status(), room.width(), Scaled(kStripGap, dpi()),
+  const WeatherStrip texts = ChooseStrip(weather_.status(), room.width(), Scaled(kStripGap, dpi()),
                                          style.font.height, measure);
   const int width = measure.Measure(texts.attribution, style.font.height).width;
   lblUPDATED_.SetText(texts.status);
@@ -123,9 +122,8 @@ Colour WeatherForm::CardColour() {
 }
 
 void WeatherForm::RefreshContent() {
-  if (!dialog_) return;
   const auto glyph = [](int icon) { return std::wstring(1, WeatherGlyph(icon)); };
-  const WeatherLabels& shown = dialog_->labels();
+  const WeatherLabels& shown = weather_.labels();
   lblWeatherCountry_.SetText(shown.location);
   lblWeathersymbol_.SetText(glyph(shown.symbol));
   lblTEMPERATURE_.SetText(shown.temperature);
@@ -187,7 +185,7 @@ bool WeatherForm::RunOwnCommand(int id) {
   if (id == CommandId(kProperties.name)) {
     services().program.OpenDialog(L"frmWTHpr");
   } else if (id == CommandId(kRefresh.name)) {
-    if (dialog_) dialog_->WeatherRefresh();
+    weather_.WeatherRefresh();
   } else {
     return false;
   }

@@ -10,11 +10,11 @@
 
 namespace varnel {
 
-class WeatherDialog;
+class WeatherService;
 
 class WeatherForm : public WidgetForm {  // frmWTHwg
  public:
-  WeatherForm(Services& services, const FormEntry& entry, int index);
+  WeatherForm(Services& services, const FormEntry& entry, int index, WeatherService& weather);
 
  private:
   struct DayLabels {
@@ -40,7 +40,7 @@ class WeatherForm : public WidgetForm {  // frmWTHwg
   void PlaceStrip();
   Colour CardColour();
 
-  WeatherDialog* dialog_ = nullptr;  // frmWTHpr, which keeps the weather
+  WeatherService& weather_;
   WeatherLayout places_;
   ThemedLabel lblWeatherCountry_;
   ThemedLabel lblWeathersymbol_;

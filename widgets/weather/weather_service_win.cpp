@@ -1,14 +1,11 @@
-// The part of the dialog that fetches and reads the weather.
+#include "widgets/weather/weather_service_win.h"
+
 #include <utility>
 
-#include "resources/control_ids.h"
 #include "widgets/weather/feed_address.h"
 #include "widgets/weather/feed_text.h"
-#include "widgets/weather/live_source.h"
-#include "widgets/weather/weather_dialog.h"
 #include "widgets/weather/weather_settings.h"
 #include "win/code_page.h"
-#include "win/resource_data.h"
 #include "win/shell.h"
 
 namespace varnel {
@@ -19,45 +16,32 @@ constexpr std::uint64_t kHourMs = 60 * 60 * 1000;
 
 }  // namespace
 
-WeatherDialog::WeatherDialog(Services& services)
-    : Dialog(services.ui, L"frmWTHpr"),
-      services_(services),
-      countries_{cboCOUNTRY, {}, {}},
-      cities_{cboCOUNTRYAREA, {}, {}},
-      webDATA_(services.ui, kLimits) {
+WeatherService::WeatherService(Services& services)
+    : services_(services), places_(services.ui.instance), webDATA_(services.ui, kLimits) {
   labels_.temperature = L"-";
   labels_.condition = L"No weather yet";
   labels_.location =
       services.settings.Read(kWeatherCity) + L", " + services.settings.Read(kWeatherCountry);
 }
 
-std::wstring WeatherDialog::DataList(const wchar_t* name) const {
-  return WideFromCodePage(ResourceData(ui().instance, name, L"DATA"));
-}
-
-std::optional<WeatherPlace> WeatherDialog::Resolve(bool united, const std::wstring& area,
-                                                   const std::wstring& city) const {
-  return ResolvePlace(DataList(united ? L"USTATES" : L"INTERNATIONAL"), area, city);
-}
-
-void WeatherDialog::LoadPlace() {
+void WeatherService::LoadPlace() {
   const Settings& settings = services_.settings;
-  if (auto place = Resolve(ReadFlag(settings, kWeatherWorld), settings.Read(kWeatherCountry),
-                           settings.Read(kWeatherCity))) {
+  if (auto place = places_.Resolve(ReadFlag(settings, kWeatherWorld),
+                                   settings.Read(kWeatherCountry), settings.Read(kWeatherCity))) {
     place_ = *std::move(place);
     if (txtDATA_.empty()) labels_.location = place_.city + L", " + place_.area;
   }
 }
 
-bool WeatherDialog::live_source() const {
+bool WeatherService::live_source() const {
   return services_.settings.Read(kWeatherFeedEndpoint).empty();
 }
 
-bool WeatherDialog::AnswerIsFresh() const {
+bool WeatherService::AnswerIsFresh() const {
   return !answer_.empty() && answer_place_ == place_ && ::GetTickCount64() - answered_ < kHourMs;
 }
 
-void WeatherDialog::WeatherDataGet() {
+void WeatherService::WeatherDataGet() {
   // Place and scale may be others now.
   const WeatherPlace former = place_;
   LoadPlace();
@@ -72,23 +56,23 @@ void WeatherDialog::WeatherDataGet() {
   if (!fetching_ && !(live_source() && AnswerIsFresh())) Fetch();
 }
 
-void WeatherDialog::WeatherRefresh() {
+void WeatherService::WeatherRefresh() {
   if (!fetching_) Fetch();
 }
 
-void WeatherDialog::KeepUpToDate() {
+void WeatherService::KeepUpToDate() {
   if (!live_source() || fetching_) return;
   if (unreachable_ || ::GetTickCount64() - asked_ >= kHourMs) Fetch();
 }
 
-std::wstring WeatherDialog::Address() const {
+std::wstring WeatherService::Address() const {
   const Settings& settings = services_.settings;
   if (!live_source()) return FeedAddress(settings.Read(kWeatherFeedEndpoint), place_.code);
-  const auto point = CoordinatesOf(DataList(L"COORDINATES"), place_.code);
+  const auto point = places_.CoordinatesOf(place_.code);
   return point ? LiveAddress(settings.Read(kLiveWeatherAddress), *point) : L"";
 }
 
-void WeatherDialog::Fetch() {
+void WeatherService::Fetch() {
   const std::wstring address = Address();
   if (address.empty()) {
     webDATA_.Cancel();
@@ -103,7 +87,7 @@ void WeatherDialog::Fetch() {
   ShowOnWidget();
 }
 
-void WeatherDialog::OnFetched(const HttpResult& result, const WeatherPlace& place, bool live) {
+void WeatherService::OnFetched(const HttpResult& result, const WeatherPlace& place, bool live) {
   unreachable_ = result.unreachable;
   if (!result.ok) {
     Fail(result.reason);
@@ -119,15 +103,15 @@ void WeatherDialog::OnFetched(const HttpResult& result, const WeatherPlace& plac
   }
 }
 
-LiveFeed WeatherDialog::LiveFeedOf(const std::string& answer, const WeatherPlace& place) const {
+LiveFeed WeatherService::LiveFeedOf(const std::string& answer, const WeatherPlace& place) const {
   return FeedFromLiveAnswer(answer, place, ReadFlag(services_.settings, kTempSelected));
 }
 
-void WeatherDialog::ReadLiveAnswer() {
+void WeatherService::ReadLiveAnswer() {
   txtDATA_ = NormaliseFeed(LiveFeedOf(answer_, answer_place_).text);
 }
 
-void WeatherDialog::TakeResponse(const std::wstring& text, bool live) {
+void WeatherService::TakeResponse(const std::wstring& text, bool live) {
   const HourglassPointer pointer;
   const std::wstring file = services_.program_folder + L"web.txt";
   const std::string printed = CodePageFromWide(text) + "\r\n";
@@ -147,15 +131,15 @@ void WeatherDialog::TakeResponse(const std::wstring& text, bool live) {
   services_.files.Remove(file);
 }
 
-void WeatherDialog::Fail(std::wstring reason) {
+void WeatherService::Fail(std::wstring reason) {
   fetching_ = false;
   // One line for a fault that goes on, however often it is tried again.
-  if (reason != failure_) ui().log.Write(L"weather: " + reason);
+  if (reason != failure_) services_.ui.log.Write(L"weather: " + reason);
   failure_ = std::move(reason);
   ShowOnWidget();
 }
 
-void WeatherDialog::DataFileRead() {
+void WeatherService::DataFileRead() {
   if (auto labels =
           varnel::DataFileRead(txtDATA_, ReadFlag(services_.settings, kTempSelected), data_)) {
     labels_ = *std::move(labels);
@@ -163,7 +147,7 @@ void WeatherDialog::DataFileRead() {
   ShowOnWidget();
 }
 
-WeatherStatus WeatherDialog::status() const {
+WeatherStatus WeatherService::status() const {
   WeatherStatus status{L"", fetching_, failure_, live_data_};
   if (!updated_) return status;
   const TimeFormatter& formatter = services_.formatter;
@@ -175,7 +159,7 @@ WeatherStatus WeatherDialog::status() const {
   return status;
 }
 
-void WeatherDialog::ShowOnWidget() {
+void WeatherService::ShowOnWidget() {
   LiveForm* widget = services_.forms.Find(L"frmWTHwg");
   if (!widget) return;
   widget->Form_Resize();

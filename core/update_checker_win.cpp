@@ -1,0 +1,38 @@
+#include "core/update_checker_win.h"
+
+#include <utility>
+
+#include "base/text.h"
+#include "win/shell.h"
+#include "win/ui.h"
+
+namespace varnel {
+
+UpdateChecker::UpdateChecker(Ui& ui, HttpFetch& web_data, Post post)
+    : ui_(ui), web_data_(web_data), post_(std::move(post)) {}
+
+void UpdateChecker::CheckForUpdate(int mode) {
+  mode_ = mode;
+  post_([this] {
+    const HourglassPointer pointer;
+    web_data_.Start(pages_.version_file, [this](const HttpResult& page) { UpdateCheckDone(page); });
+  });
+}
+
+void UpdateChecker::UpdateCheckDone(const HttpResult& page) {
+  if (!page.ok) {
+    ui_.log.Write(L"update check: " + page.reason);
+    if (mode_ == 0) return;
+    ShowInformation(nullptr, L"The newest version is not known: " + page.reason + L".",
+                    L"No Answer to the Update Check");
+  } else if (UpdateAvailable(WideFromUtf8(page.body),
+                             VersionText(VARNEL_VERSION_MAJOR, VARNEL_VERSION_MINOR))) {
+    OpenWebPage(nullptr, pages_.update);
+  } else if (mode_ != 0) {
+    ShowInformation(nullptr,
+                    L"If you are in need of updates due to bugs or whatever then let me know.",
+                    L"There Are No Updates Available as Yet");
+  }
+}
+
+}  // namespace varnel

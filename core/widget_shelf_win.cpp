@@ -1,0 +1,54 @@
+#include "core/widget_shelf_win.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace varnel {
+
+bool WidgetShelf::Available(int index) const {
+  return std::ranges::count(catalogue_.widgets(), index, &CatalogueWidget::index) > 0;
+}
+
+bool WidgetShelf::LoadWidget(int index) {
+  if (widgets_[index]) return true;
+  const auto entries = catalogue_.widgets();
+  const auto entry = std::ranges::find(entries, index, &CatalogueWidget::index);
+  if (entry == entries.end()) return false;
+  auto form = entry->create();
+  if (!form->Load()) return false;
+  widgets_[index] = std::move(form);
+  return true;
+}
+
+void WidgetShelf::UnloadWidget(int index) {
+  if (!widgets_[index]) return;
+  widgets_[index]->Unload();
+  // The call may come from one of the form's own handlers, so the form itself goes a little later.
+  retired_.push_back(std::move(widgets_[index]));
+}
+
+void WidgetShelf::ShowWidget(int index, bool shown) {
+  if (widgets_[index]) widgets_[index]->Show(shown);
+}
+
+void WidgetShelf::BringToFront() {
+  ForEach([](WidgetForm& widget) {
+    if (widget.visible()) ::BringWindowToTop(widget.handle());
+  });
+}
+
+void WidgetShelf::ArrangeAll() {
+  ForEach([](WidgetForm& widget) { widget.MoveToDefaultPlace(); });
+}
+
+void WidgetShelf::ForEach(const std::function<void(WidgetForm&)>& work) const {
+  for (const auto& widget : widgets_) {
+    if (widget) work(*widget);
+  }
+}
+
+void WidgetShelf::DropRetired() {
+  std::erase_if(retired_, [](const auto& form) { return !form->busy(); });
+}
+
+}  // namespace varnel
