@@ -18,8 +18,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Require(feed.complaint.size() < 200 && feed.complaint.find(L'\n') == std::wstring::npos);
     return 0;
   }
-  const std::wstring text = NormaliseFeed(feed.text);
-  Require(HoldsWeather(text));
+  const std::wstring text = NormaliseFeed(WithSections(feed.text));
+  Require(FeedComplaint(text).empty());
   WeatherData weather;
   const auto labels = DataFileRead(text, fahrenheit, weather);
   Require(labels && labels->location == L"London, Ontario");

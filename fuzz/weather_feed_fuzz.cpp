@@ -21,7 +21,8 @@ std::size_t CountOf(std::wstring_view text, wchar_t unit) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size == 0) return 0;
   const bool fahrenheit = data[0] % 2 == 1;
-  const std::wstring response = WideFromUtf8(BytesOf(data + 1, size - 1));
+  const std::wstring response = WithSections(WideFromUtf8(BytesOf(data + 1, size - 1)));
+  Require(WithSections(response) == response);
   const std::wstring text = NormaliseFeed(response);
   Require(CountOf(text, L',') == 0 && CountOf(text, L'\r') == CountOf(text, L'\n'));
   Require(text.empty() == response.empty() && (text.empty() || text.ends_with(L"\r\n")));

@@ -37,4 +37,13 @@ ColourPair ButtonColours(const WidgetPaint& paint, ButtonLook look, const System
   return {system.Resolve(face), system.Resolve(outline)};
 }
 
+ColourPair CardColours(const WidgetPaint& paint, const SystemColours& system) {
+  constexpr int kFaceWeight = 96;     // of a button's face against the ground
+  constexpr int kOutlineWeight = 96;  // of the border against the card
+  if (paint.high_contrast) return {paint.chrome.ground, paint.chrome.border};
+  const Colour button = ButtonColours(paint.theme, ButtonLook::kNormal, system).first;
+  const Colour face = Blend(button, paint.chrome.ground, kFaceWeight, system);
+  return {face, Blend(paint.chrome.border, face, kOutlineWeight, system)};
+}
+
 }  // namespace varnel

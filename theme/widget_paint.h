@@ -18,4 +18,7 @@ WidgetPaint WidgetPaintOf(ThemeRecord& theme, bool high_contrast, const SystemCo
 
 ColourPair ButtonColours(const WidgetPaint& paint, ButtonLook look, const SystemColours& system);
 
+// The face of a card on the panel, between the ground and a button's face, and its outline.
+ColourPair CardColours(const WidgetPaint& paint, const SystemColours& system);
+
 }  // namespace varnel

@@ -8,7 +8,5 @@ namespace varnel {
 
 // Bytes that mean nothing become the code page's own stand-in; never fails. At most 2^30 bytes.
 std::wstring WideFromCodePage(std::string_view bytes);
-// Characters that the code page lacks become "?".
-std::string CodePageFromWide(std::wstring_view text);
 
 }  // namespace varnel

@@ -4,7 +4,7 @@
 namespace varnel {
 
 // Libraries come from the system folder only, a damaged heap ends the process, no error box of the
-// system holds it up, old extension points stay out. What the system does not know is left out.
+// system holds it up. What the system does not know is left out.
 void HardenProcess();
 
 // Ends the process with exit code 70 on an unhandled fault, without a dialog that would keep it.

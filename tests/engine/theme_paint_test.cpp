@@ -39,6 +39,7 @@ TEST(WidgetPaint, HighContrastTakesTheSystemsColoursAndNoTranslucency) {
   EXPECT_EQ(paint.theme.lngTHEMEPANELFONTCOLOR, 0x00FFFF);
   EXPECT_EQ(paint.theme.lngTHEMEBARFONTCOLOR, 0x00FFFF);
   EXPECT_GT(ContrastRatio(paint.chrome.border, paint.chrome.ground), 4.5);
+  EXPECT_EQ(CardColours(paint, system), (ColourPair{kBlack, 0x00FFFF}));
   const ColourPair normal = ButtonColours(paint, ButtonLook::kNormal, system);
   EXPECT_EQ(normal, (ColourPair{kBlack, 0x00FFFF}));
   EXPECT_NE(ButtonColours(paint, ButtonLook::kHover, system), normal);

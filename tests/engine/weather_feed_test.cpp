@@ -6,6 +6,7 @@
 
 #include "tests/support/cases.h"
 #include "tests/support/weather_samples.h"
+#include "widgets/weather/entities.h"
 #include "widgets/weather/feed_text.h"
 
 namespace varnel {
@@ -173,14 +174,87 @@ TEST(WeatherFeed, MissingMarkersLeaveTheirSlicesEmpty) {
   EXPECT_EQ(junk.labels.symbol, kIconNotAvailable);
   EXPECT_EQ(junk.labels.forecast[0].temps, L"");
   EXPECT_EQ(junk.data.TemperatureF, 50);
-  EXPECT_FALSE(HoldsWeather(L"<html>"));
-  EXPECT_TRUE(HoldsWeather(FeedText()));
 
   using test::With;
   for (const wchar_t* marker : {L"]]></title>\n    <link>http://feed.example/now", L"<description>",
                                 L"</description>", L"/>", L"For more details", L"---"}) {
     const Reading reading = Read(With<std::wstring>(FeedText(), marker, L""), true, 50);
     EXPECT_FALSE(reading.labels.condition.empty()) << marker;
+  }
+}
+
+TEST(WeatherFeed, OnlyAWholeFeedIsTaken) {
+  const auto complaint = [](const std::wstring& raw) {
+    return FeedComplaint(NormaliseFeed(WithSections(raw)));
+  };
+  const std::wstring whole = FeedText();
+  const std::size_t begun = whole.find(L"CDATA[Current");
+  const std::size_t current_end = whole.find(L"</description>", begun);
+  const std::size_t forecast_end = whole.rfind(L"</description>");
+  for (std::size_t length = 0; length <= whole.size(); length += 10) {
+    EXPECT_EQ(complaint(whole.substr(0, length)).empty(), length >= forecast_end + 14) << length;
+  }
+  EXPECT_EQ(complaint(L"<html>"), L"the answer holds no weather");
+  EXPECT_EQ(complaint(whole.substr(0, forecast_end)), L"the answer was cut short");
+  EXPECT_EQ(complaint(whole.substr(0, current_end + 14) + L"</item></channel></rss>"), L"");
+  for (const wchar_t* end :
+       {L"</description>\n  </item>\n  <item>", L"<description><![CDATA[<img"}) {
+    EXPECT_EQ(complaint(test::With<std::wstring>(whole, end, L"")), L"the answer was cut short");
+  }
+}
+
+TEST(WeatherFeed, ATemperatureThatNeverCameIsNotShown) {
+  for (const wchar_t* temperature : {L"0", L"-4", L"N/A"}) {
+    EXPECT_EQ(ReadWith(&FeedSample::temperature, temperature).labels.temperature, L"-");
+  }
+}
+
+TEST(WeatherFeed, EntitiesMayStandForSections) {
+  FeedSample sample;
+  sample.title = L"Wei\u00DFenburg & M\u00FCnster, C\u00F4te d'Ivoire";
+  sample.condition = L"Sun & Wind";
+  const WeatherLabels sections = ReadSample(sample).labels;
+  std::wstring raw = FeedText(sample);
+  for (const wchar_t* element : {L"title>", L"description>"}) {
+    const std::wstring open = std::wstring(element) + L"<![CDATA[";
+    for (std::size_t at = raw.find(open); at != raw.npos; at = raw.find(open, at)) {
+      const std::size_t start = at + open.size();
+      const std::size_t end = raw.find(L"]]>", start);
+      std::wstring escaped;
+      for (const wchar_t unit : raw.substr(start, end - start)) {
+        if (unit < 0x80 && unit != L'<' && unit != L'>' && unit != L'&') {
+          escaped.push_back(unit);
+        } else {
+          escaped += L"&#" + std::to_wstring(static_cast<int>(unit)) + L";";
+        }
+      }
+      raw.replace(start - 9, end + 3 - (start - 9), escaped);
+    }
+  }
+  ASSERT_EQ(raw.find(L"CDATA"), raw.npos);
+  const WeatherLabels shown = Read(WithSections(raw)).labels;
+  EXPECT_EQ(shown.location, L"Wei\u00DFenburg & M\u00FCnster, C\u00F4te d'Ivoire");
+  EXPECT_EQ(shown.condition, L"Sun & Wind");
+  EXPECT_EQ(shown.txtFINALNOW, sections.txtFINALNOW);
+  EXPECT_EQ(shown.forecast[2].temps, L"64/49");
+
+  const test::Cases<const wchar_t*, const wchar_t*> cases = {
+      {L"a &amp;&lt;&gt;&quot;&apos;&nbsp;&deg; b", L"a &<>\"' \u00B0 b"},
+      {L"&#xFC;&#252;&#x1F327;", L"\u00FC\u00FC\U0001F327"},
+      {L"&amp;amp; &#13;&#0;", L"&amp;   "},
+      {L"& &; &eacute; &#; &#x; &#xD800; &#x110000; &#99999999999; &amp",
+       L"& &; &eacute; &#; &#x; &#xD800; &#x110000; &#99999999999; &amp"}};
+  for (const auto& [text, plain] : cases) EXPECT_EQ(WithoutEntities(text), plain);
+}
+
+TEST(FeedFields, AResponseSaysThatItIsUtf8) {
+  for (const char* yes : {"\xEF\xBB\xBFx", "<?xml version=\"1.0\" encoding=\"UTF-8\"?>",
+                          "<?xml version='1.0' encoding = 'utf-8' standalone='no'?>"}) {
+    EXPECT_TRUE(DeclaresUtf8(yes)) << yes;
+  }
+  for (const char* no : {"", "<?xml version=\"1.0\"?>", "<?xml encoding=\"ISO-8859-1\"?>",
+                         "<?xml ?> encoding=\"utf-8\"", "<?xml encoding=utf-8?>", "encoding"}) {
+    EXPECT_FALSE(DeclaresUtf8(no)) << no;
   }
 }
 

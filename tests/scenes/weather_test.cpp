@@ -194,6 +194,7 @@ TEST_F(Weather, UnitedStatesAndFahrenheitAreChosen) {
   ASSERT_TRUE(ClickOn(Control(dialog, optTEMP + 1)));
   Leave(dialog, IDOK);
   EXPECT_SOON_EQ(Label(lblTEMPERATURE), L"68F ");
+  ASSERT_TRUE(WaitForRequests(2));
   EXPECT_TRUE(LastRequest().starts_with("/wxdata/weather/rss/local/5368361?"));
   EXPECT_EQ(Stored(L"Weather location-world") + Stored(L"Temp-Selected"), L"11");
 
@@ -226,6 +227,7 @@ TEST_F(Weather, FailingServerKeepsTheDataAndSaysWhy) {
       {good, Manner::kJunk, L"the server's answer makes no sense"},
       {junk, Manner::kGood, L"the answer holds no weather"},
       {"", Manner::kGood, L"the answer holds no weather"},
+      {good.substr(0, good.size() / 2), Manner::kGood, L"the answer was cut short"},
   };
   for (const auto& [body, manner, reason] : kCases) {
     SCOPED_TRACE(static_cast<int>(manner));

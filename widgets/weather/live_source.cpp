@@ -200,7 +200,7 @@ std::wstring WrittenFeed(const WeatherPlace& place, const CurrentWeather& curren
       PlainWords(place.city, kMostName) + L", " + PlainWords(place.area, kMostName);
   std::wstring days;
   for (const DayForecast& day : forecast) days += WrittenDay(day, fahrenheit);
-  return L"<?xml version=\"1.0\"?>\r\n<rss version=\"2.0\">\r\n<channel>\r\n" +
+  return L"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n<rss version=\"2.0\">\r\n<channel>\r\n" +
          WrittenItem(L"Current Weather Conditions In " + where, WrittenCurrent(current)) +
          WrittenItem(L"Your 10-Day Forecast for " + where, days) + L"</channel>\r\n</rss>\r\n";
 }

@@ -5,6 +5,7 @@
 
 #include "base/number_text.h"
 #include "base/text.h"
+#include "widgets/weather/entities.h"
 
 namespace varnel {
 namespace {
@@ -12,6 +13,7 @@ namespace {
 constexpr std::wstring_view kCurrentMarker = L"CDATA[Current Weather";
 constexpr std::wstring_view kForecastMarker = L"CDATA[Your 10-Day Forecast";
 constexpr std::wstring_view kForecastStart = L"<description><![CDATA[";
+constexpr std::wstring_view kDescriptionEnd = L"</description>";
 constexpr std::wstring_view kEntryEnd = L"---";
 constexpr std::wstring_view kTitlePrefix = L"Current Weather Conditions In ";
 constexpr std::wstring_view kLineEnd = L"\r\n";
@@ -120,11 +122,21 @@ std::wstring TakeFigure(std::wstring_view& text, std::wstring_view word, std::si
   return Trim(figure.substr(0, end));
 }
 
+// Whether an item, from within its title on, has a description that ends before the next item.
+bool IsWhole(std::wstring_view item) {
+  const std::wstring_view own = item.substr(0, item.find(L"<title>"));
+  return After(own, L"<description>").find(kDescriptionEnd) != std::wstring_view::npos;
+}
+
 }  // namespace
 
-bool HoldsWeather(std::wstring_view txtDATA) {
-  return txtDATA.find(kCurrentMarker) != std::wstring_view::npos ||
-         txtDATA.find(kForecastMarker) != std::wstring_view::npos;
+std::wstring_view FeedComplaint(std::wstring_view txtDATA) {
+  const std::wstring_view current = CurrentItem(txtDATA);
+  const std::wstring_view forecast = After(txtDATA, kForecastMarker);
+  if (current.empty() && forecast.empty()) return L"the answer holds no weather";
+  const bool forecast_ends =
+      forecast.empty() ? txtDATA.find(L"</channel>") != txtDATA.npos : IsWhole(forecast);
+  return IsWhole(current) && forecast_ends ? L"" : L"the answer was cut short";
 }
 
 std::optional<WeatherLabels> DataFileRead(std::wstring_view txtDATA, bool fahrenheit,
@@ -134,7 +146,7 @@ std::optional<WeatherLabels> DataFileRead(std::wstring_view txtDATA, bool fahren
   labels.txtCURRENT = CurrentItem(txtDATA);
   const std::wstring_view item = labels.txtCURRENT;
   data.LocationTitle = TitleOf(item);
-  data.DescriptionBlock = Before(After(item, L"<description>"), L"</description>");
+  data.DescriptionBlock = Before(After(item, L"<description>"), kDescriptionEnd);
   const int feed_code = ImageCode(data.DescriptionBlock);
   labels.symbol = ReducedIcon(feed_code);
 
@@ -144,16 +156,13 @@ std::optional<WeatherLabels> DataFileRead(std::wstring_view txtDATA, bool fahren
   data.ConditionText =
       FixedCondition(std::move(report.condition), data.DescriptionBlock, feed_code);
 
-  if (report.temperature.empty()) {
-    labels.temperature = L"-";
-    report.temperature = L"No Temp";
-  } else {
-    labels.temperature = TemperatureLabel(data.TemperatureF, fahrenheit);
-  }
+  const bool known = !report.temperature.empty() && data.TemperatureF > 0;
+  labels.temperature = known ? TemperatureLabel(data.TemperatureF, fahrenheit) : L"-";
+  if (report.temperature.empty()) report.temperature = L"No Temp";
   labels.txtFINALNOW =
       data.LocationTitle + L"\r\n\r\n" + data.ConditionText + L"\r\n\r\n" + report.temperature;
-  labels.location = CountryLabel(data.LocationTitle);
-  labels.condition = data.ConditionText;
+  labels.location = WithoutEntities(CountryLabel(data.LocationTitle));
+  labels.condition = WithoutEntities(data.ConditionText);
   labels.forecast = DataFileRead10Days(txtDATA);
   return labels;
 }

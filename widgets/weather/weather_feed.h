@@ -14,7 +14,8 @@ struct WeatherData {
   std::wstring LocationTitle;     // city and country, comma-separated, as the feed names them
   std::wstring ConditionText;     // such as "Partly Cloudy"
   std::wstring DescriptionBlock;  // the description element of the current item, as it came
-  double TemperatureF = 0;        // the last feed temperature above 0 degrees Fahrenheit
+  // The last feed temperature above 0 degrees Fahrenheit; 0 while there was none.
+  double TemperatureF = 0;
 };
 
 // The icon that stands for weather not known.
@@ -37,14 +38,15 @@ struct WeatherLabels {
   std::array<ForecastSlot, 3> forecast;
 };
 
-// Whether the text holds current conditions or a forecast at all. Where it does not, the fetch
-// brought something else and the labels had better stay.
-bool HoldsWeather(std::wstring_view txtDATA);
+// What keeps the text from being taken for the weather, as words within a sentence; empty when it
+// holds the current conditions whole, and a forecast whole unless the feed ends without one. With
+// any other text the labels had better stay.
+std::wstring_view FeedComplaint(std::wstring_view txtDATA);
 
 // Reads current conditions and forecast. `fahrenheit` is the scale of the temperature label; the
 // forecast is shown as the feed gives it. Nothing for an empty text: every label then stays.
 // A temperature that is no whole number above 0 is not taken over: `data.TemperatureF`, and the
-// label with it, keep the earlier one.
+// label with it, keep the earlier one; the label is "-" where there is none.
 std::optional<WeatherLabels> DataFileRead(std::wstring_view txtDATA, bool fahrenheit,
                                           WeatherData& data);
 

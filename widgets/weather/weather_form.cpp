@@ -19,8 +19,6 @@ constexpr int kFirstReadingMs = 20;  // timers wait until the widget is painted
 constexpr int kMinuteMs = 60 * 1000;
 constexpr int kStripGap = 12;  // at 96 dpi
 constexpr double kCardCorner = 6;
-constexpr int kCardWeight = 96;     // of a button's face against the ground
-constexpr int kOutlineWeight = 96;  // of the border against the card
 
 constexpr Command kProperties{L"mnuWEATHERPROPS", L"Weather propert&ies..."};
 constexpr Command kRefresh{L"mnuWEATHERREFRESH", L"Re&fresh now", L"F5"};
@@ -88,15 +86,16 @@ void WeatherForm::PlaceLabels(const Rect& panel) {
     return made;
   };
   const Colour ground = chrome().ground;
+  const Colour card = CardColours(paint(), services().colours).first;
   place(lblWeatherCountry_, places_.location, style(places_.location, false, ground));
   place(lblWeathersymbol_, places_.symbol, style(places_.symbol, true, ground));
   place(lblTEMPERATURE_, places_.temperature, style(places_.temperature, false, ground));
   place(lblDESC_, places_.condition, style(places_.condition, false, ground));
   for (std::size_t i = 0; i < days_.size(); ++i) {
     const auto& [date, icon, temps] = places_.forecast[i];
-    place(days_[i].date, date, style(date, false, CardColour()));
-    place(days_[i].icon, icon, style(icon, true, CardColour()));
-    place(days_[i].temps, temps, style(temps, false, CardColour()));
+    place(days_[i].date, date, style(date, false, card));
+    place(days_[i].icon, icon, style(icon, true, card));
+    place(days_[i].temps, temps, style(temps, false, card));
   }
 }
 
@@ -114,11 +113,6 @@ void WeatherForm::PlaceStrip() {
   buttons().SetText(lblATTRIBUTION, texts.attribution);
   buttons().Enable(lblATTRIBUTION, width > 0);
   buttons().Place(lblATTRIBUTION, {room.right - width, room.top, room.right, room.bottom});
-}
-
-Colour WeatherForm::CardColour() {
-  const ColourPair face = ButtonColours(theme(), ButtonLook::kNormal, services().colours);
-  return Blend(face.first, chrome().ground, kCardWeight, services().colours);
 }
 
 void WeatherForm::RefreshContent() {
@@ -139,8 +133,7 @@ void WeatherForm::RefreshContent() {
 void WeatherForm::PaintPanel(Surface& surface, const Rect& panel) {
   if (places_.pfrFORECAST.empty()) return;
   // A card on a white ground is white too; then its outline shows it.
-  const Colour face = CardColour();
-  const Colour outline = Blend(chrome().border, face, kOutlineWeight, services().colours);
+  const auto [face, outline] = CardColours(paint(), services().colours);
   DrawRoundedBox(surface.pixels(), surface.size(), Within(panel, places_.pfrFORECAST),
                  kCardCorner * dpi() / kDefaultDpi, OpaquePixel(face), OpaquePixel(outline));
 }

@@ -38,7 +38,6 @@ class WeatherForm : public WidgetForm {  // frmWTHwg
 
   void PlaceLabels(const Rect& panel);
   void PlaceStrip();
-  Colour CardColour();
 
   WeatherService& weather_;
   WeatherLayout places_;

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "base/text.h"
 #include "widgets/weather/feed_address.h"
 #include "widgets/weather/feed_text.h"
 #include "widgets/weather/weather_settings.h"
@@ -13,6 +14,10 @@ namespace {
 
 constexpr HttpLimits kLimits{std::size_t{1} << 20, 20'000};
 constexpr std::uint64_t kHourMs = 60 * 60 * 1000;
+
+std::wstring FeedText(const std::string& bytes) {
+  return DeclaresUtf8(bytes) ? WideFromUtf8(bytes) : WideFromCodePage(bytes);
+}
 
 }  // namespace
 
@@ -92,14 +97,14 @@ void WeatherService::OnFetched(const HttpResult& result, const WeatherPlace& pla
   if (!result.ok) {
     Fail(result.reason);
   } else if (!live) {
-    TakeResponse(WideFromCodePage(result.body), false);
+    TakeResponse(result.body, false);
   } else if (LiveFeed feed = LiveFeedOf(result.body, place); feed.text.empty()) {
     Fail(AsReason(feed.complaint));
   } else {
     answer_ = result.body;
     answer_place_ = place;
     answered_ = ::GetTickCount64();
-    TakeResponse(feed.text, true);
+    TakeResponse(Utf8FromWide(feed.text), true);
   }
 }
 
@@ -111,14 +116,14 @@ void WeatherService::ReadLiveAnswer() {
   txtDATA_ = NormaliseFeed(LiveFeedOf(answer_, answer_place_).text);
 }
 
-void WeatherService::TakeResponse(const std::wstring& text, bool live) {
+void WeatherService::TakeResponse(const std::string& bytes, bool live) {
   const HourglassPointer pointer;
   const std::wstring file = services_.program_folder + L"web.txt";
-  const std::string printed = CodePageFromWide(text) + "\r\n";
+  const std::string printed = bytes + "\r\n";
   const bool written = services_.files.Replace(file, printed);
   const auto read = written ? services_.files.Read(file, printed.size()) : std::nullopt;
-  std::wstring response = NormaliseFeed(WideFromCodePage(read.value_or(printed)));
-  if (HoldsWeather(response)) {
+  std::wstring response = NormaliseFeed(WithSections(FeedText(read.value_or(printed))));
+  if (const std::wstring_view complaint = FeedComplaint(response); complaint.empty()) {
     txtDATA_ = std::move(response);
     live_data_ = live;
     updated_ = services_.clock.Now();
@@ -126,7 +131,7 @@ void WeatherService::TakeResponse(const std::wstring& text, bool live) {
     failure_.clear();
     DataFileRead();
   } else {
-    Fail(L"the answer holds no weather");
+    Fail(std::wstring(complaint));
   }
   services_.files.Remove(file);
 }

@@ -47,7 +47,7 @@ class WeatherService : public FamilyService {
   void OnFetched(const HttpResult& result, const WeatherPlace& place, bool live);
   LiveFeed LiveFeedOf(const std::string& answer, const WeatherPlace& place) const;
   void ReadLiveAnswer();
-  void TakeResponse(const std::wstring& text, bool live);
+  void TakeResponse(const std::string& bytes, bool live);
   void Fail(std::wstring reason);
   void ShowOnWidget();
 
