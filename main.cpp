@@ -3,6 +3,7 @@
 
 #include "catalogue_win.h"
 #include "core/application_win.h"
+#include "win/com.h"
 #include "win/hardening.h"
 #include "win/shell.h"
 #include "win/single_instance.h"
@@ -32,5 +33,6 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, wchar_t*, int) {
     ShowFirstInstance(name);
     return 0;
   }
+  const varnel::ComApartment apartment;
   return varnel::Application(instance, command_line, varnel::ProgramFamilies()).Run();
 }

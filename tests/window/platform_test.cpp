@@ -5,7 +5,7 @@
 
 #include "core/settings_store.h"
 #include "tests/support/cases.h"
-#include "win/clipboard.h"
+#include "tests/window/window_aid.h"
 #include "win/disk_files.h"
 #include "win/local_time.h"
 #include "win/system_registry.h"
@@ -14,6 +14,9 @@
 
 namespace varnel {
 namespace {
+
+using test::RunMessagesFor;
+using test::TemporaryFolder;
 
 constexpr UINT kThrow = WM_APP + 1;
 
@@ -35,21 +38,6 @@ class TestWindow : public Window {
     return Window::OnMessage(message, wparam, lparam);
   }
 };
-
-std::wstring TemporaryFolder() {
-  wchar_t path[MAX_PATH] = {};
-  ::GetTempPathW(MAX_PATH, path);
-  return std::wstring(path) + L"varnel platform test " + std::to_wstring(::GetCurrentProcessId());
-}
-
-void RunMessagesFor(DWORD milliseconds) {
-  const DWORD end = ::GetTickCount() + milliseconds;
-  MSG message;
-  while (::GetTickCount() < end) {
-    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) ::DispatchMessageW(&message);
-    ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
-  }
-}
 
 TEST(WindowBase, HandlerThatThrowsIsLoggedAndTheWindowLivesOn) {
   const std::wstring folder = TemporaryFolder();
@@ -165,14 +153,6 @@ TEST(SystemTimeFormatter, SpeaksThePatternLanguageOfTheClock) {
   const std::wstring date = formatter.Format(time, L"dddd, d mmmm");
   EXPECT_NE(date.find(L", 7 "), std::wstring::npos) << "weekday, day and month";
   EXPECT_FALSE(formatter.Format(time, L"Long Date").empty());
-}
-
-TEST(Clipboard, GivesBackWhatItWasGiven) {
-  Ui ui{::GetModuleHandleW(nullptr), {}, {}};
-  TestWindow window(ui);
-  ASSERT_TRUE(CopyText(window.handle(), L"03:27.48"));
-  EXPECT_EQ(PastedText(window.handle(), 100), L"03:27.48");
-  EXPECT_EQ(PastedText(window.handle(), 2), L"03");
 }
 
 }  // namespace
