@@ -18,13 +18,6 @@ std::vector<std::wstring> CommandLineWords();
 // is refused. Failures are silent.
 void OpenWebPage(HWND owner, const std::wstring& address);
 
-// The system's folder picker; empty when the user cancelled.
-std::wstring BrowseForFolder(HWND owner, const std::wstring& title);
-
-// The system's dialog for choosing an existing file. `filter` in the platform's form: pairs of name
-// and pattern, each ended by a zero. Empty when the user cancelled.
-std::wstring BrowseForFile(HWND owner, const wchar_t* title, const wchar_t* filter);
-
 // A message box with an OK button and the information sign, above windows that are kept on top.
 void ShowInformation(HWND owner, const std::wstring& text, const std::wstring& title);
 

@@ -1,8 +1,20 @@
 #include "tests/rig/dialogs.h"
 
+#include <shlobj.h>
+
 #include <algorithm>
 
+#include "tests/rig/remote.h"
+
 namespace varnel::rig {
+namespace {
+
+// Numbers of the controls in the system's dialogs.
+constexpr int kFileName = 1148;
+constexpr int kFileFilter = 1136;
+constexpr int kFolderPath = 14149;
+
+}  // namespace
 
 HWND FindDialog(const Program& program) {
   const std::vector<HWND> dialogs = FindForms(program, L"#32770");
@@ -33,6 +45,30 @@ void PressButton(HWND dialog, int id) {
 bool CloseDialog(HWND dialog, int id) {
   PressButton(dialog, id);
   return WaitUntil([dialog] { return !::IsWindow(dialog) || !IsShown(dialog); });
+}
+
+bool AnswerFileDialog(HWND dialog, const std::wstring& name, int filter) {
+  HWND box = Control(dialog, kFileName);
+  HWND edit = box ? ChildOfClass(box, L"Edit") : nullptr;
+  if (!edit) return false;
+  if (filter >= 0) {
+    HWND filters = Control(dialog, kFileFilter);
+    if (!Select(filters, filter)) return false;
+    // The test platform listens to this one alone.
+    Send(dialog, WM_COMMAND, MAKEWPARAM(kFileFilter, CBN_SELENDOK),
+         reinterpret_cast<LPARAM>(filters));
+  }
+  SetText(edit, name);
+  PressButton(dialog, IDOK);
+  return true;
+}
+
+bool AnswerFolderDialog(HWND dialog, const std::wstring& folder) {
+  const RemoteMemory path(dialog, folder.c_str(), (folder.size() + 1) * sizeof(wchar_t));
+  if (!path || !Control(dialog, kFolderPath)) return false;
+  Send(dialog, BFFM_SETSELECTIONW, TRUE, path.address());
+  PressButton(dialog, IDOK);
+  return true;
 }
 
 }  // namespace varnel::rig

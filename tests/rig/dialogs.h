@@ -25,4 +25,12 @@ void PressButton(HWND dialog, int id);
 // Presses the button and waits until the dialog is gone. False when it stays.
 bool CloseDialog(HWND dialog, int id);
 
+// The system's dialog for opening or saving files: puts in `name` (a path, a name, or several names
+// in quotation marks), chooses the filter of that index when there is one, and presses OK. Comes
+// back before the dialog acts on it. False when this is no such dialog.
+bool AnswerFileDialog(HWND dialog, const std::wstring& name, int filter = -1);
+
+// The system's folder picker: chooses the folder and presses OK, as above.
+bool AnswerFolderDialog(HWND dialog, const std::wstring& folder);
+
 }  // namespace varnel::rig

@@ -2,13 +2,13 @@
 
 #include "resources/control_ids.h"
 #include "widgets/time/clock_engine.h"
-#include "win/shell.h"
+#include "win/file_dialogs.h"
 #include "win/ui.h"
 
 namespace varnel {
 namespace {
 
-constexpr wchar_t kSoundFilter[] = L"MP3 Files (*.mp3)\0*.mp3\0WAV Files (*.wav)\0*.wav\0";
+constexpr wchar_t kSoundFilter[] = L"MP3 Files (*.mp3)|*.mp3|WAV Files (*.wav)|*.wav";
 constexpr int kLongestPattern = 254;  // characters that a setting can hold
 
 }  // namespace
@@ -61,7 +61,7 @@ void ClockDialog::OnCommand(int id, int code) {
 }
 
 void ClockDialog::Browse() {
-  const std::wstring path = BrowseForFile(handle(), L"Select a file", kSoundFilter);
+  const std::wstring path = BrowseForFile(handle(), {L"Select a file", kSoundFilter});
   if (!path.empty()) SetControlText(txtAUDIO, path);
 }
 
