@@ -84,6 +84,7 @@ export WINEPREFIX='$prefix'
 export WINEDEBUG='-all'
 export WINEDLLOVERRIDES='mscoree,mshtml='
 export LC_ALL='C.UTF-8'
+export XDG_DATA_HOME='$dir/data'
 export ALSA_CONFIG_PATH='$dir/sound.conf'
 export VARNEL_SOUND_FILE='$dir/sound.wav'
 EOF
