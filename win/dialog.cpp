@@ -19,7 +19,8 @@ bool Dialog::Open(HWND owner) {
     OnReopen();
   }
   ::ShowWindow(handle_, SW_SHOW);
-  ::SetForegroundWindow(handle_);
+  // A message box that the dialog is waiting for comes before it.
+  ::SetForegroundWindow(::GetLastActivePopup(handle_));
   return true;
 }
 
@@ -42,6 +43,17 @@ void Dialog::SetChecked(int id, bool on) {
   ::CheckDlgButton(handle_, id, on ? BST_CHECKED : BST_UNCHECKED);
 }
 
+// Enter presses the button that has the focus, however it came there; the system only sees to that
+// where the focus came by key.
+bool Dialog::AnswerDefaultButton() const {
+  HWND focus = ::GetFocus();
+  const LRESULT kind =
+      ::IsChild(handle_, focus) ? ::SendMessageW(focus, WM_GETDLGCODE, 0, 0) : LRESULT{0};
+  if ((kind & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) == 0) return false;
+  ::SetWindowLongPtrW(handle_, DWLP_MSGRESULT, MAKELONG(::GetDlgCtrlID(focus), DC_HASDEFID));
+  return true;
+}
+
 INT_PTR CALLBACK Dialog::Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam) {
   if (message == WM_INITDIALOG) {
     ::SetWindowLongPtrW(handle, DWLP_USER, lparam);
@@ -57,6 +69,8 @@ INT_PTR Dialog::Guarded(UINT message, WPARAM wparam, LPARAM lparam) noexcept {
       case WM_INITDIALOG:
         OnOpen();
         return TRUE;
+      case DM_GETDEFID:
+        return AnswerDefaultButton();
       case WM_COMMAND:
         OnCommand(LOWORD(wparam), HIWORD(wparam));
         return TRUE;

@@ -45,6 +45,7 @@ class Dialog {
  private:
   static INT_PTR CALLBACK Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam);
   INT_PTR Guarded(UINT message, WPARAM wparam, LPARAM lparam) noexcept;
+  bool AnswerDefaultButton() const;
 
   Ui& ui_;
   const wchar_t* form_name_;

@@ -90,7 +90,7 @@ void ThemeDialog::OnOpen() {
 }
 
 void ThemeDialog::OnReopen() {
-  if (editor_.target() == services_.program.CurrentForm().entry().form_name) return;
+  if (asking_ || editor_.target() == services_.program.CurrentForm().entry().form_name) return;
   ReturnTarget();
   TakeTarget();
 }
@@ -200,7 +200,7 @@ void ThemeDialog::ShowReadability() {
 }
 
 void ThemeDialog::EnableButtons() {
-  Enable(btnDELETE, editor_.HasPreset(ControlText(txtPRESETNEW)));
+  Enable(btnDELETE, editor_.PresetNamed(ControlText(txtPRESETNEW)).has_value());
   Enable(btnDELETEALL, !presets_.presets().empty());
   // One place, two buttons: the caption tells whether closing drops anything.
   const bool changed = editor_.changed();

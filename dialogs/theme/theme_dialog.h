@@ -46,6 +46,8 @@ class ThemeDialog : public Dialog {  // frmTHEME
   void SelectPreset(int place);
   void OnNameBox(int code);
   void NewPreset();
+  // False when the user says no. What is asked about stays taken up meanwhile.
+  bool Confirmed(const std::wstring& question, const std::wstring& title);
   void DeletePreset();
   void DeleteAllPresets();
   void OnSlider(HWND slider);
@@ -59,6 +61,7 @@ class ThemeDialog : public Dialog {  // frmTHEME
   std::array<FontBox, 2> fonts_;
   ColourPicker colours_;
   bool filling_ = false;  // controls change by our own hand
+  bool asking_ = false;   // a question about presets is open
 };
 
 }  // namespace varnel

@@ -97,9 +97,14 @@ std::vector<PresetSwatch> ThemeEditor::Presets() const {
   return ListPresets(files_, FolderPath(), working_, system_);
 }
 
-bool ThemeEditor::HasPreset(std::wstring_view typed_name) const {
+std::optional<std::wstring> ThemeEditor::PresetNamed(std::wstring_view typed_name) const {
   const auto name = SafeFileName(typed_name);
-  return name && files_.FileExists(PresetPath(FolderPath(), *name));
+  if (!name) return std::nullopt;
+  const std::wstring file = *name + std::wstring(kPresetEnding);
+  for (const std::wstring& each : files_.FileNames(FolderPath(), kPresetEnding)) {
+    if (EqualsIgnoreCase(each, file)) return each.substr(0, name->size());
+  }
+  return std::nullopt;
 }
 
 void ThemeEditor::SelectPreset(std::wstring_view name) {

@@ -1,6 +1,7 @@
 // What the theme dialog edits: a copy of one form's theme, and the presets of one style folder.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -75,7 +76,9 @@ class ThemeEditor {
   void StoreFolder();
 
   std::vector<PresetSwatch> Presets() const;
-  bool HasPreset(std::wstring_view typed_name) const;
+  // The preset of the folder that the typed name stands for, under the name that it has there: in
+  // whatever case, with blanks around it or a dot after it. Nothing when there is none.
+  std::optional<std::wstring> PresetNamed(std::wstring_view typed_name) const;
   // Loads a preset of the folder into the working copy.
   void SelectPreset(std::wstring_view name);
   // The working copy becomes a preset of the folder, which is created if it is missing.

@@ -45,13 +45,20 @@ void ThemeDialog::OnNameBox(int code) {
   if (code == EN_KILLFOCUS) ::SendMessageW(handle(), DM_SETDEFID, btnAPPLY, 0);
 }
 
+bool ThemeDialog::Confirmed(const std::wstring& question, const std::wstring& title) {
+  asking_ = true;
+  const bool yes = AskYesNo(handle(), question, title);
+  asking_ = false;
+  return yes && handle();
+}
+
 void ThemeDialog::NewPreset() {
   const std::wstring name = ControlText(txtPRESETNEW);
   const std::wstring title(kApplicationTitle);
-  if (presets_.Find(Trim(name)) >= 0) {
+  if (const auto present = editor_.PresetNamed(name)) {
     const std::wstring question =
-        L"Replace the preset \"" + Trim(name) + L"\" of the style \"" + editor_.folder() + L"\"?";
-    if (!AskYesNo(handle(), question, title) || !handle()) return;
+        L"Replace the preset \"" + *present + L"\" of the style \"" + editor_.folder() + L"\"?";
+    if (!Confirmed(question, title)) return;
   }
   switch (editor_.NewPreset(name)) {
     case PresetSaved::kNoName:
@@ -67,7 +74,7 @@ void ThemeDialog::NewPreset() {
     case PresetSaved::kSaved:
       FillPresets();
       filling_ = true;
-      presets_.Choose(presets_.Find(Trim(name)));
+      presets_.Choose(presets_.Find(editor_.PresetNamed(name).value_or(L"")));
       filling_ = false;
       EnableButtons();
       break;
@@ -75,7 +82,12 @@ void ThemeDialog::NewPreset() {
 }
 
 void ThemeDialog::DeletePreset() {
-  editor_.RemovePreset(ControlText(txtPRESETNEW));
+  const auto name = editor_.PresetNamed(ControlText(txtPRESETNEW));
+  if (!name) return;
+  const std::wstring question =
+      L"Delete the preset \"" + *name + L"\" of the style \"" + editor_.folder() + L"\"?";
+  if (!Confirmed(question, L"Delete a preset")) return;
+  editor_.RemovePreset(*name);
   FillPresets();
   EnableButtons();
 }
@@ -83,7 +95,7 @@ void ThemeDialog::DeletePreset() {
 void ThemeDialog::DeleteAllPresets() {
   const std::wstring question = L"Delete all " + NumberText(std::ssize(presets_.presets())) +
                                 L" presets of the style \"" + editor_.folder() + L"\"?";
-  if (!AskYesNo(handle(), question, L"Delete all presets") || !handle()) return;
+  if (!Confirmed(question, L"Delete all presets")) return;
   editor_.RemoveAllPresets();
   FillPresets();
   EnableButtons();

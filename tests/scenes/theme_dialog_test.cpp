@@ -169,14 +169,27 @@ TEST_F(ThemeDialogScene, PresetsAreMadeCompletedAndDeleted) {
   EXPECT_SOON(FileExists(PresetPath(L"My blue")));
   EXPECT_SOON_EQ(Items(Part(flbLIST)).size(), 16u);
   Slide(hsbOPACITY, 200);
+  SetText(Part(txtPRESETNEW), L"MY BLUE.");
   ASSERT_TRUE(ClickOn(Part(btnNEW)));
   HWND replace = WaitForDialog(program());
   EXPECT_EQ(DialogText(replace), L"Replace the preset \"My blue\" of the style \"Soft\"?");
+  // The dialog does not turn to another widget, or folder, while it asks.
+  Choose(stopwatch_, L"mnuDCSETTINGS");
+  EXPECT_SOON_EQ(Text(dialog_), L"Alarm Clock Theme Settings");
   ASSERT_TRUE(CloseDialog(replace, IDNO));
+  // The button that was clicked is the one that Enter presses.
+  PressKey(VK_RETURN);
+  HWND again = WaitForDialog(program());
+  ASSERT_TRUE(again && CloseDialog(again, IDNO));
   ASSERT_TRUE(Select(Part(flbLIST), L"My blue.dcp"));
   EXPECT_SOON_EQ(AlphaOf(clock_), 77);
-  ASSERT_TRUE(ClickOn(Part(btnDELETE)));
-  EXPECT_SOON(!FileExists(PresetPath(L"My blue")));
+  for (const int answer : {IDNO, IDYES}) {
+    ASSERT_TRUE(ClickOn(Part(btnDELETE)));
+    HWND question = WaitForDialog(program());
+    EXPECT_EQ(DialogText(question), L"Delete the preset \"My blue\" of the style \"Soft\"?");
+    ASSERT_TRUE(CloseDialog(question, answer));
+    EXPECT_SOON_EQ(FileExists(PresetPath(L"My blue")), answer == IDNO);
+  }
   EXPECT_SOON(!IsEnabled(Part(btnDELETE)));
 
   for (const int answer : {IDNO, IDYES}) {
