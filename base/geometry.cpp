@@ -24,6 +24,19 @@ Rect RectAt(Point corner, Size size) {
   return {corner.x, corner.y, corner.x + size.width, corner.y + size.height};
 }
 
+Rect Intersection(const Rect& one, const Rect& other) {
+  const Rect both{std::max(one.left, other.left), std::max(one.top, other.top),
+                  std::min(one.right, other.right), std::min(one.bottom, other.bottom)};
+  return both.empty() ? Rect{} : both;
+}
+
+Rect Union(const Rect& one, const Rect& other) {
+  if (one.empty()) return other;
+  if (other.empty()) return one;
+  return {std::min(one.left, other.left), std::min(one.top, other.top),
+          std::max(one.right, other.right), std::max(one.bottom, other.bottom)};
+}
+
 Rect Inset(const Rect& rect, int amount) {
   const int across = std::min(amount, rect.width() / 2);
   const int down = std::min(amount, rect.height() / 2);

@@ -12,6 +12,13 @@ struct Point {
   bool operator==(const Point&) const = default;
 };
 
+// A place between whole units.
+struct PointF {
+  double x = 0;
+  double y = 0;
+  bool operator==(const PointF&) const = default;
+};
+
 struct Size {
   int width = 0;
   int height = 0;
@@ -34,6 +41,12 @@ struct Rect {
 };
 
 Rect RectAt(Point corner, Size size);
+
+// What lies in both; an empty rectangle, all zero, when nothing does.
+Rect Intersection(const Rect& one, const Rect& other);
+
+// The smallest rectangle around both; an empty one counts for nothing.
+Rect Union(const Rect& one, const Rect& other);
 
 // `rect` made smaller by `amount` on every side, but never turned inside out; larger when it is
 // negative.

@@ -1,0 +1,96 @@
+// A picture that is drawn on by hand: strokes, objects laid on it, clearing, and taking back.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "base/canvas_history.h"
+#include "base/capsule.h"
+#include "base/geometry.h"
+#include "base/image.h"
+
+namespace varnel {
+
+// Pixels are premultiplied: each colour is already weakened by its opacity and never more than it.
+// So an opaque board and a transparent sheet are one thing with another ground, and a pen whose
+// pixel is 0 takes ink away. Every change says which pixels it may have changed. A picture keeps
+// all its pixels when what shows it gets smaller: it only ever grows.
+class Canvas {
+ public:
+  static constexpr int kLongestSide = 8192;
+  static constexpr std::uint32_t kWhiteBoard = 0xFFFFFFFF;
+  static constexpr std::uint32_t kClearSheet = 0;
+
+  explicit Canvas(std::uint32_t ground) : ground_(ground) {}
+
+  const Image& pixels() const { return pixels_; }
+  Size size() const { return {pixels_.width(), pixels_.height()}; }
+
+  // Shows `pixels` from now on; what was drawn before cannot be taken back any more. Sides beyond
+  // kLongestSide are cut off.
+  Rect Load(Image pixels);
+  // Makes the picture at least as large as `least`, with ground where nothing was, but no side
+  // longer than kLongestSide. A stroke that is being drawn goes on as a step of its own.
+  Rect Grow(Size least);
+
+  // A stroke is one step of undo. Its segments never darken each other: every pixel is mixed once,
+  // by the largest share that any of them covers. Segments outside a stroke draw nothing.
+  void BeginStroke(std::uint32_t pixel, PenTip tip);
+  // In pixels; the centre of the first pixel is {0.5, 0.5}. Equal points leave a dot.
+  Rect DrawSegment(PointF from, PointF to);
+  void EndStroke();
+  bool drawing() const { return drawing_; }
+
+  // Lays `object` (premultiplied) over the picture with its upper left at `corner`; what lies
+  // outside is left out. One step, which ends a stroke.
+  Rect Merge(const Image& object, Point corner);
+  // Back to ground; one step, which ends a stroke.
+  Rect Clear();
+
+  // The last step back, or the last that was taken back again; empty when there is none. An open
+  // stroke ends first, and is the step that Undo takes back.
+  Rect Undo();
+  Rect Redo();
+  bool CanUndo() const { return history_.CanUndo() || drawing_; }
+  bool CanRedo() const { return history_.CanRedo() && !drawing_; }
+
+ private:
+  static constexpr int kTile = 32;
+  static constexpr int kTilesAcross = kLongestSide / kTile;
+
+  // A part of the picture as it was when the stroke came to it, and what the stroke covers of it.
+  struct StrokeTile {
+    Rect area;
+    std::vector<std::uint32_t> before;
+    std::vector<std::uint8_t> covered;
+    std::size_t PlaceOf(int x, int y) const;
+  };
+
+  Rect Whole() const { return {0, 0, pixels_.width(), pixels_.height()}; }
+  static std::size_t IndexAt(int across, int down);
+  Rect TileArea(int across, int down) const;
+  std::vector<CanvasTile> TilesOf(const Rect& area) const;
+  StrokeTile& TileOfStroke(int across, int down);
+  void DrawInTile(const Capsule& capsule, int across, int down);
+  void DrawEdge(const Capsule& capsule, StrokeTile& tile, int y, int left, int right);
+  void FillRow(StrokeTile& tile, int y, int left, int count);
+  void KeepStroke();
+
+  std::uint32_t ground_;
+  Image pixels_;
+  CanvasHistory history_;
+  bool drawing_ = false;
+  std::uint32_t pen_pixel_ = 0;
+  PenTip pen_tip_;
+  std::vector<StrokeTile> stroke_;
+  std::vector<int> stroke_index_;  // of each tile of the largest picture; 0: not come to yet, else
+                                   // one more than its place in `stroke_`
+};
+
+// Mixes two premultiplied pixels: `share` 0 gives `below`, 255 `above`.
+std::uint32_t MixPixels(std::uint32_t below, std::uint32_t above, std::uint32_t share);
+
+// `above` laid over `below`, both premultiplied.
+std::uint32_t PixelOver(std::uint32_t below, std::uint32_t above);
+
+}  // namespace varnel
