@@ -151,9 +151,9 @@ Image RandomObject(std::mt19937& random) {
 void DoTheSameTenThousandTimes(std::uint32_t ground) {
   std::mt19937 random(11);
   Canvas canvas(ground);
-  canvas.Grow({90, 75});
-  PlainCanvas plain({90, 75}, ground);
-  const auto place = [&] { return static_cast<double>(random() % 4000) / 32 - 15; };
+  canvas.Grow({70, 40});
+  PlainCanvas plain({70, 40}, ground);
+  const auto place = [&] { return static_cast<double>(random() % 3200) / 32 - 15; };
   for (int i = 0; i < 5000 && !testing::Test::HasFailure(); ++i) {
     const Image before = canvas.pixels();
     const unsigned choice = random() % 16;
@@ -171,8 +171,8 @@ void DoTheSameTenThousandTimes(std::uint32_t ground) {
       plain.Stroke(pixel, tip, points);
     } else if (choice < 9) {
       const Image object = RandomObject(random);
-      const Point corner{static_cast<int>(random() % 120) - 20,
-                         static_cast<int>(random() % 90) - 9};
+      const Point corner{static_cast<int>(random() % 100) - 20,
+                         static_cast<int>(random() % 60) - 15};
       changed = canvas.Merge(object, corner);
       plain.Merge(object, corner);
     } else if (choice < 10) {
