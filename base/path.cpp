@@ -38,7 +38,7 @@ std::wstring DocumentFolderIn(std::wstring chosen, std::wstring_view name) {
 
 bool EnsureFolder(FileStore& files, const std::wstring& new_path, const std::wstring& old_path) {
   if (new_path != old_path && files.FolderExists(old_path)) {
-    return files.MoveFolder(old_path, new_path);
+    return files.MoveFolder(old_path, new_path) == FileResult::kDone;
   }
   return files.FolderExists(new_path) || files.CreateFolder(new_path);
 }

@@ -30,7 +30,7 @@ void CheckText(const std::string& bytes) {
 }
 
 void CheckFile(const std::string& bytes) {
-  test::MemoryFiles files;
+  test::MemoryFiles files(kFolder);
   const std::wstring path = PresetPath(kFolder, kName);
   files.files[path] = bytes;
   ThemeRecord theme;

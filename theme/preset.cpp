@@ -51,13 +51,13 @@ PresetSaved SavePreset(FileStore& files, std::wstring_view folder, std::wstring_
 
 bool DeletePreset(FileStore& files, std::wstring_view folder, std::wstring_view typed_name) {
   const auto name = SafeFileName(typed_name);
-  return name && files.Remove(PresetPath(folder, *name));
+  return name && files.Remove(PresetPath(folder, *name)) == FileResult::kDone;
 }
 
 bool DeleteAllPresets(FileStore& files, const std::wstring& folder) {
   bool all = true;
   for (const std::wstring& name : files.FileNames(folder, kPresetEnding)) {
-    all = files.Remove(folder + L"\\" + name) && all;
+    all = files.Remove(folder + L"\\" + name) == FileResult::kDone && all;
   }
   return all;
 }

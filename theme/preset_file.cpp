@@ -15,10 +15,10 @@ std::wstring Prefixed(std::wstring_view key) {
 
 void PresetFile::SelectPresetFile(std::wstring path) {
   StartPresetFile(std::move(path));
-  const auto bytes = files_.Read(path_, kLargestFile);
-  if (!bytes) {
-    writable_ = !files_.FileExists(path_);
-  } else if (auto text = IniText::FromBytes(*bytes)) {
+  const FileRead file = files_.Read(path_, kLargestFile);
+  if (!file) {
+    writable_ = file.result == FileResult::kMissing;
+  } else if (auto text = IniText::FromBytes(file.bytes)) {
     text_ = *std::move(text);
     stored_ = text_.Bytes();
   } else {

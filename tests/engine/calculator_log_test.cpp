@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "tests/support/cases.h"
+#include "tests/support/failing_files.h"
 #include "tests/support/memory_files.h"
 #include "widgets/calculator/calculation_log.h"
 
@@ -17,35 +18,14 @@ const std::wstring kOldPath = kPath + L".old";
 
 using Lines = std::vector<std::wstring>;
 
-// A disk that can refuse reads, and that does nothing any more once its last operations are used
-// up, as for a program that was ended; what is added to a file is then cut.
-class FrailFiles : public test::MemoryFiles {
- public:
-  std::optional<std::string> Read(const std::wstring& path, std::size_t limit) const override {
-    return unreadable ? std::nullopt : MemoryFiles::Read(path, limit);
-  }
-  bool Replace(const std::wstring& path, std::string_view bytes) override {
-    return operations_left-- > 0 && MemoryFiles::Replace(path, bytes);
-  }
-  bool Append(const std::wstring& path, std::size_t size, std::string_view bytes) override {
-    if (operations_left-- > 0) return MemoryFiles::Append(path, size, bytes);
-    MemoryFiles::Append(path, size, bytes.substr(0, bytes.size() / 2));
-    return false;
-  }
-  bool Rename(const std::wstring& old_path, const std::wstring& new_path) override {
-    return operations_left-- > 0 && MemoryFiles::Rename(old_path, new_path);
-  }
-
-  bool unreadable = false;
-  int operations_left = 1'000'000;
-};
-
 struct CalculatorLog : ::testing::Test {
-  FrailFiles files;
+  test::MemoryFiles disk;
+  test::FailingFiles files{disk};
   CalculationLog log{files, kPath};
 
+  CalculatorLog() { disk.CreateFolder(L"C:\\Varnel"); }
   void Start(std::string_view content) {
-    files.files[kPath] = content;
+    disk.files[kPath] = content;
     log.Load();
   }
   Lines Shown() const { return Shown(log); }
@@ -54,8 +34,10 @@ struct CalculatorLog : ::testing::Test {
     for (std::size_t i = 0; i < log.count(); ++i) lines.push_back(log.Line(i));
     return lines;
   }
-  Lines AfterRestart() {
-    CalculationLog next(files, kPath);
+  // What a start would show, without the files that it changes.
+  Lines AfterRestart() const {
+    test::MemoryFiles copy = disk;
+    CalculationLog next(copy, kPath);
     next.Load();
     return Shown(next);
   }
@@ -75,24 +57,24 @@ TEST_F(CalculatorLog, EveryChangeIsWrittenAtOnce) {
   log.Load();  // a missing file is an empty log
   EXPECT_EQ(log.count(), 0u);
   EXPECT_TRUE(log.Append(L"2 + 3 = 5.0"));
-  EXPECT_EQ(files.files[kPath], "\"2 + 3 = 5.0\"\r\n");
+  EXPECT_EQ(disk.files[kPath], "\"2 + 3 = 5.0\"\r\n");
   EXPECT_TRUE(log.Append(L"5 * 4 = 20.0"));
-  EXPECT_EQ(files.files[kPath], "\"2 + 3 = 5.0\"\r\n\"5 * 4 = 20.0\"\r\n");
+  EXPECT_EQ(disk.files[kPath], "\"2 + 3 = 5.0\"\r\n\"5 * 4 = 20.0\"\r\n");
   log.DeleteSelected({0});
-  EXPECT_EQ(files.files[kPath], "\"5 * 4 = 20.0\"\r\n");
+  EXPECT_EQ(disk.files[kPath], "\"5 * 4 = 20.0\"\r\n");
   log.DeleteSelected({7});
   log.DeleteSelected({static_cast<std::size_t>(-1)});
   EXPECT_EQ(Shown(), Lines{L"5 * 4 = 20.0"});
   log.Clear();
-  EXPECT_EQ(files.files[kPath], "");
+  EXPECT_EQ(disk.files[kPath], "");
   EXPECT_TRUE(log.Append(L"1 + 1 = 2.0"));
   EXPECT_EQ(AfterRestart(), Lines{L"1 + 1 = 2.0"});
   for (const char* meddled : {"", "\"1 + 1 = 2.0\"\r\n\"another\"\r\n"}) {
-    files.files[kPath] = meddled;
+    disk.files[kPath] = meddled;
     log.Append(L"2 + 2 = 4.0");
     EXPECT_EQ(AfterRestart(), Shown());
   }
-  files.files.erase(kPath);
+  disk.files.erase(kPath);
   log.Append(L"3 + 3 = 6.0");
   EXPECT_EQ(AfterRestart(), Shown());
 }
@@ -100,9 +82,9 @@ TEST_F(CalculatorLog, EveryChangeIsWrittenAtOnce) {
 TEST_F(CalculatorLog, AClashingKeyKeepsALineOut) {
   Start("\"a\"\r\n\"b\"\r\n\"c\"\r\n");
   log.DeleteSelected({1});
-  const int writes = files.writes;
+  const int writes = disk.writes;
   EXPECT_FALSE(log.Append(L"d"));
-  EXPECT_EQ(files.writes, writes + 1);
+  EXPECT_EQ(disk.writes, writes + 1);
   EXPECT_EQ(Shown(), (Lines{L"a", L"c"}));
   EXPECT_EQ(AfterRestart(), Shown());
 
@@ -115,41 +97,49 @@ TEST_F(CalculatorLog, AClashingKeyKeepsALineOut) {
   EXPECT_EQ(Shown(), (Lines{L"e", L"f"}));
 }
 
-TEST_F(CalculatorLog, SeededChangesOnAFrailDiskFollowTheRules) {
+// Sums are added and deleted while the file fails, and others add to it and hold it: no sum is lost
+// or comes twice, and one that was deleted stays away.
+TEST_F(CalculatorLog, SeededChangesOnAFrailDiskLoseNothing) {
   std::mt19937 random(5);
-  std::vector<std::pair<std::wstring, std::wstring>> model;  // key and text
-  Lines saved;
+  Lines model;  // in no order
+  const auto sorted = [](Lines lines) {
+    std::ranges::sort(lines);
+    return lines;
+  };
+  disk.files[kPath] = "";
   log.Load();
   for (int step = 0; step < 20000; ++step) {
     const auto pick = random() % 100;
-    files.operations_left = random() % 8 > 0 ? 1'000'000 : static_cast<int>(random() % 2);
-    if (pick < 55) {
-      const std::wstring key = std::to_wstring(model.size()) + L"m";
-      const std::wstring text = L"line " + std::to_wstring(step);
-      const bool clash =
-          std::ranges::count(model, key, &std::pair<std::wstring, std::wstring>::first) > 0;
-      if (!clash) model.emplace_back(key, text);
-      ASSERT_EQ(log.Append(text), !clash) << step;
-    } else if (pick < 98) {
-      const std::size_t index = random() % (model.size() + 1);
-      if (index < model.size()) model.erase(model.begin() + static_cast<std::ptrdiff_t>(index));
+    const std::wstring text = L"line " + std::to_wstring(step);
+    if (random() % 8 == 0) disk.fail_writes = !disk.fail_writes;
+    if (random() % 8 == 0 && !disk.locked.erase(kPath)) disk.locked.insert(kPath);
+    if (pick < 40) {
+      if (log.Append(text)) model.push_back(text);
+    } else if (pick < 60) {
+      const std::size_t index = random() % (log.count() + 1);
+      if (index < log.count()) std::erase(model, log.Line(index));
       log.DeleteSelected({index});
+    } else if (pick < 62) {
+      const Lines seen = Shown();
+      std::erase_if(model, [&](const auto& line) { return std::ranges::count(seen, line) > 0; });
+      log.Clear();
+    } else if (pick < 75 && !disk.locked.contains(kPath)) {
+      disk.files[kPath] += "\"" + std::string(text.begin(), text.end()) + "\"\r\n";
+      model.push_back(text);
+    } else if (pick < 90) {
+      log.Retry();
     } else if (log.saved()) {
-      for (std::size_t i = 0; i < model.size(); ++i) model[i].first = std::to_wstring(i) + L"m";
       log.Load();
     }
-    std::string file;
-    ASSERT_EQ(log.count(), model.size());
-    for (std::size_t i = 0; i < model.size(); ++i) {
-      ASSERT_EQ(log.Line(i), model[i].second);
-      file += "\"" + std::string(model[i].second.begin(), model[i].second.end()) + "\"\r\n";
-    }
-    if (log.saved()) {
-      saved = Shown();
-      ASSERT_EQ(files.files[kPath], file) << step;
-    }
-    ASSERT_EQ(AfterRestart(), saved) << step;
+    if (disk.fail_writes || disk.locked.contains(kPath)) continue;
+    log.Retry();
+    ASSERT_TRUE(log.saved()) << step;
+    ASSERT_EQ(sorted(AfterRestart()), sorted(model)) << step;
   }
+  disk.fail_writes = false;
+  disk.locked.clear();
+  log.Retry();
+  EXPECT_EQ(disk.files.size(), 1u) << "nothing was damaged, so nothing was set aside";
 }
 
 TEST_F(CalculatorLog, DamagedFilesLoadWhatTheyCan) {
@@ -173,19 +163,19 @@ TEST_F(CalculatorLog, DamagedFilesLoadWhatTheyCan) {
       {"\"a\x1A\"", {}, false},
   };
   for (const auto& [content, lines, whole] : cases) {
-    files.files.clear();
+    disk.files.clear();
     Start(content);
     EXPECT_EQ(Shown(), lines) << content;
-    EXPECT_EQ(files.files.at(kPath), content);  // reading writes nothing
+    EXPECT_EQ(disk.files.at(kPath), content);  // reading writes nothing
     EXPECT_TRUE(log.Append(L"new"));
-    EXPECT_EQ(files.FileExists(kOldPath), !whole) << content;
+    EXPECT_EQ(disk.FileExists(kOldPath), !whole) << content;
     if (!whole) {
-      EXPECT_EQ(files.files[kOldPath], content);
+      EXPECT_EQ(disk.files[kOldPath], content);
     }
     EXPECT_EQ(AfterRestart(), Shown());
     EXPECT_TRUE(log.saved());
     log.Append(L"newer");  // moved aside once only
-    EXPECT_EQ(files.files.size(), whole ? 1u : 2u);
+    EXPECT_EQ(disk.files.size(), whole ? 1u : 2u);
   }
 }
 
@@ -194,64 +184,95 @@ TEST_F(CalculatorLog, ForeignBytesStayAsTheyAre) {
   Start(content);
   EXPECT_EQ(log.count(), 2u);
   log.Append(L"1 + 1 = 2.0");
-  EXPECT_EQ(files.files[kPath], content + "\"1 + 1 = 2.0\"\r\n");
+  EXPECT_EQ(disk.files[kPath], content + "\"1 + 1 = 2.0\"\r\n");
 }
 
-TEST_F(CalculatorLog, AFileThatCannotBeReadIsNeverOverwritten) {
-  files.unreadable = true;
-  Start("\"precious = 1\"\r\n");
-  EXPECT_EQ(log.count(), 0u);
-  files.files[kOldPath] = "older";
-  files.fail_writes = true;
-  log.Append(L"a");
-  EXPECT_FALSE(log.saved());
-  EXPECT_EQ(files.files[kPath], "\"precious = 1\"\r\n");
-  files.fail_writes = false;
+TEST_F(CalculatorLog, ALockedFileIsNotDamaged) {
+  disk.locked.insert(kPath);
+  Start("\"a\"\r\n");
+  EXPECT_EQ(log.trouble(), FileResult::kLocked);
   log.Append(L"b");
-  EXPECT_TRUE(log.saved());
-  EXPECT_EQ(files.files[kPath], "\"a\"\r\n\"b\"\r\n");
-  EXPECT_EQ(files.files[kOldPath], "older");
-  EXPECT_EQ(files.files[kOldPath + L"2"], "\"precious = 1\"\r\n");
+  log.Retry();
+  EXPECT_EQ(Shown(), Lines{L"b"});
+  EXPECT_EQ(disk.files[kPath], "\"a\"\r\n");
+  disk.locked.clear();
+  log.Retry();
+  EXPECT_EQ(Shown(), (Lines{L"a", L"b"}));
+  EXPECT_EQ(disk.files[kPath], "\"a\"\r\n\"b\"\r\n");
+  EXPECT_EQ(disk.files.size(), 1u);
+
+  disk.locked.insert(kPath);
+  log.Load();
+  disk.locked.clear();
+  const int writes = disk.writes;
+  log.Retry();
+  EXPECT_EQ(Shown(), (Lines{L"a", L"b"}));
+  EXPECT_EQ(disk.writes, writes) << "reading again writes nothing";
+}
+
+TEST_F(CalculatorLog, OnAReadOnlyFileTheSumsWait) {
+  Start("\"a\"\r\n");
+  disk.read_only.insert(kPath);
+  log.Append(L"b");
+  log.Append(L"c");
+  log.DeleteSelected({0, 1});
+  EXPECT_EQ(log.trouble(), FileResult::kReadOnly);
+  EXPECT_EQ(disk.files[kPath], "\"a\"\r\n");
+  EXPECT_EQ(AfterRestart(), (Lines{L"a", L"c"})) << "what was not deleted on the disk is back";
+  disk.read_only.clear();
+  log.Retry();
+  EXPECT_EQ(disk.files[kPath], "\"c\"\r\n");
+  EXPECT_EQ(disk.files.size(), 1u);
+}
+
+TEST_F(CalculatorLog, WhatOthersAddedIsTakenOver) {
+  Start("\"a\"\r\n\"b\"\r\n");
+  disk.Plant(kPath, "\"a\"\r\n\"b\"\r\n\"theirs\"\r\n");
+  EXPECT_TRUE(log.Append(L"c"));
+  EXPECT_EQ(Shown(), (Lines{L"a", L"b", L"theirs", L"c"}));
+  disk.Plant(kPath, "\"first\"\r\n\"a\"\r\n\"a\"\r\n\"c\"\r\n");
+  log.DeleteSelected({0});
+  EXPECT_EQ(Shown(), (Lines{L"first", L"a", L"c"}));
+  EXPECT_TRUE(log.Append(L"d")) << "the keys are new";
+  disk.Plant(kPath, "\"x\"\r\n\"a\"\r\n");
+  log.Clear();
+  EXPECT_EQ(Shown(), Lines{L"x"});
+  EXPECT_EQ(AfterRestart(), Shown());
 }
 
 TEST_F(CalculatorLog, WithNoNameLeftNothingIsWritten) {
-  files.unreadable = true;
-  Start("precious");
-  files.files[kOldPath] = "1";
-  for (int i = 2; i <= 99; ++i) files.files[kOldPath + std::to_wstring(i)] = "1";
+  Start("\x01 precious");
+  disk.files[kOldPath] = "1";
+  for (int i = 2; i <= 99; ++i) disk.files[kOldPath + std::to_wstring(i)] = "1";
   log.Append(L"a");
-  EXPECT_FALSE(log.saved());
-  EXPECT_EQ(files.files[kPath], "precious");
-  files.files.erase(kPath);  // someone cleared up
+  EXPECT_EQ(log.trouble(), FileResult::kExists);
+  EXPECT_EQ(disk.files[kPath], "\x01 precious");
+  disk.files.erase(kPath);  // someone cleared up
   log.DeleteSelected({5});
   EXPECT_TRUE(log.saved());
-  EXPECT_EQ(files.files[kPath], "\"a\"\r\n");
+  EXPECT_EQ(disk.files[kPath], "\"a\"\r\n");
 }
 
-TEST_F(CalculatorLog, LinesThatCouldNotBeWrittenComeWithTheNextChange) {
-  Start("\"a\"\r\n");
-  files.fail_writes = true;
-  EXPECT_TRUE(log.Append(L"b"));
-  EXPECT_FALSE(log.saved());
-  EXPECT_EQ(AfterRestart(), Lines{L"a"});
-  files.fail_writes = false;
-  log.Append(L"c");
-  EXPECT_TRUE(log.saved());
-  EXPECT_EQ(AfterRestart(), (Lines{L"a", L"b", L"c"}));
-}
-
-TEST_F(CalculatorLog, EndedAtAnyOperationNothingIsLost) {
+// At each operation, once or as for a program that was ended there.
+TEST_F(CalculatorLog, FailingAtAnyOperationNothingIsLost) {
   for (const std::string content : {"\"a\"\r\n", "\"a\"\n", "\"a\"\r\n\x01\r\n"}) {
-    for (int operations = 0; operations <= 3; ++operations) {
-      files.files.clear();
-      Start(content);
-      files.operations_left = operations;
-      log.Append(L"b");
-      files.operations_left = 1'000'000;
-      const Lines after = AfterRestart();
-      const bool kept = after == Lines{L"a"} || after == Lines{L"a", L"b"};
-      const bool aside = files.FileExists(kOldPath) && files.files[kOldPath] == content;
-      EXPECT_TRUE(kept || aside) << content << operations;
+    for (const bool for_ever : {false, true}) {
+      for (int operation = 0;; ++operation) {
+        disk.files.clear();
+        Start(content);
+        files.FailAfter(operation, FileResult::kFull, for_ever);
+        log.Append(L"b");
+        const bool met = files.failed();
+        const Lines after = AfterRestart();
+        const bool aside = disk.files.contains(kOldPath) && disk.files[kOldPath] == content;
+        EXPECT_TRUE(aside || (!after.empty() && after[0] == L"a")) << content << operation;
+        EXPECT_EQ(Shown(), (Lines{L"a", L"b"}));
+        files.Heal();
+        log.Retry();
+        EXPECT_TRUE(log.saved());
+        EXPECT_EQ(AfterRestart(), Shown()) << content << operation;
+        if (!met) break;
+      }
     }
   }
 }
@@ -269,7 +290,7 @@ TEST_F(CalculatorLog, FiftyMegabytesOfJunk) {
   EXPECT_EQ(log.Line(0), L"1 + 1 = 2.0");
   EXPECT_EQ(log.Line(log.count() - 1), L"2 + 2 = 4.0");
   log.Append(L"3 + 3 = 6.0");
-  EXPECT_EQ(files.files[kOldPath], junk);
+  EXPECT_EQ(disk.files[kOldPath], junk);
   EXPECT_EQ(AfterRestart(), Shown());
 }
 
@@ -279,13 +300,13 @@ TEST_F(CalculatorLog, ANormalFileHasNoLimitInPractice) {
   Start(file);
   EXPECT_EQ(log.count(), file.size() / 15);
   log.Append(L"x");
-  EXPECT_FALSE(files.FileExists(kOldPath));
+  EXPECT_FALSE(disk.FileExists(kOldPath));
   file.clear();
   while (file.size() <= 64 << 20) file += std::string(999, 'x') + "\n";
   Start(file);
   EXPECT_EQ(log.count(), 0u);
   log.Append(L"x");
-  EXPECT_TRUE(files.FileExists(kOldPath));
+  EXPECT_TRUE(disk.FileExists(kOldPath));
 }
 
 }  // namespace

@@ -30,9 +30,9 @@ TEST(Folders, EnsureCreatesOrMoves) {
   test::MemoryFiles files;
   EXPECT_TRUE(EnsureFolder(files, L"C:\\a\\", L"C:\\a\\"));
   EXPECT_TRUE(EnsureFolder(files, L"C:\\b\\", L"C:\\a\\"));
-  EXPECT_EQ(files.folders, std::set<std::wstring>{L"C:\\b"});
+  EXPECT_EQ(files.folders, test::MemoryFiles::Names{L"C:\\b"});
   EXPECT_TRUE(EnsureFolder(files, L"C:\\c\\", L"C:\\gone\\"));
-  EXPECT_EQ(files.folders, (std::set<std::wstring>{L"C:\\b", L"C:\\c"}));
+  EXPECT_EQ(files.folders, (test::MemoryFiles::Names{L"C:\\b", L"C:\\c"}));
   files.fail_writes = true;
   EXPECT_TRUE(EnsureFolder(files, L"C:\\c\\", L"C:\\c\\"));
   EXPECT_FALSE(EnsureFolder(files, L"C:\\d\\", L"C:\\c\\"));
@@ -52,7 +52,8 @@ TEST(Folders, DataFoldersAreBelowTheProgramUnlessChosen) {
     EXPECT_EQ(prepared(kNotesFolder), L"E:\\My notes\\");
     EXPECT_EQ(prepared(kCalendarFolder), L"D:");
     EXPECT_EQ(files.folders,
-              (std::set<std::wstring>{L"C:\\Tools\\Varnel\\wboard", L"D:", L"E:\\My notes"}));
+              (test::MemoryFiles::Names{L"C:\\Tools", L"C:\\Tools\\Varnel",
+                                        L"C:\\Tools\\Varnel\\wboard", L"E:\\My notes"}));
   }
 }
 

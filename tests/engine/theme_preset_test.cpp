@@ -91,7 +91,7 @@ TEST(Presets, BrightOnesHaveTheBaseColours) {
 TEST(Presets, OnlyMissingFoldersAreFilled) {
   test::MemoryFiles files;
   EnsureThemeFolders(files, L"C:\\Varnel", kSystem);
-  EXPECT_EQ(files.folders.size(), 12u);  // "themes" and the eleven styles
+  EXPECT_EQ(files.folders.size(), 13u);  // the program's, "themes" and the eleven styles
   EXPECT_EQ(files.files.size(), 140u);
   EXPECT_TRUE(files.FolderExists(kFolder));
   EXPECT_TRUE(files.FileNames(kFolder, L".dcp").empty());
@@ -117,7 +117,7 @@ TEST(Presets, AFullDiskLeavesNothingHalfDone) {
 }
 
 TEST(Presets, ReadingAPartialOneCompletesItInOneWrite) {
-  test::MemoryFiles files;
+  test::MemoryFiles files(kFolder);
   files.files[kPath] = "[main]\r\n> Main-Color=255\r\n";
   ThemeRecord expected = OtherTheme();
   expected.lngTHEMECOLOR = 255;
@@ -131,7 +131,7 @@ TEST(Presets, ReadingAPartialOneCompletesItInOneWrite) {
 }
 
 TEST(Presets, AnEmptyFontIsReplaced) {
-  test::MemoryFiles files;
+  test::MemoryFiles files(kFolder);
   ThemeRecord theme;
   theme.strTHEMEBARFONTNAME.clear();
   EXPECT_EQ(Loaded(files, theme), ThemeRecord());
@@ -142,13 +142,13 @@ TEST(Presets, WhatIsNoPresetStaysAsItIs) {
   for (const std::string& bytes :
        {"[main]\r\n> Main-Color=1\r\n" + std::string(PresetFile::kLargestFile, '\n'),
         std::string("MZ\0\0[main]\n> Main-Color=1", 25)}) {
-    test::MemoryFiles files;
+    test::MemoryFiles files(kFolder);
     files.files[kPath] = bytes;
     EXPECT_EQ(Loaded(files), OtherTheme());
     EXPECT_EQ(files.files[kPath], bytes);
   }
   // A file that only its completion would make too large is read, but stays.
-  test::MemoryFiles files;
+  test::MemoryFiles files(kFolder);
   const std::string start = "[main]\r\n> Main-Color=1\r\n";
   const std::string bytes = start + std::string(PresetFile::kLargestFile - start.size(), '\n');
   files.files[kPath] = bytes;
@@ -157,7 +157,7 @@ TEST(Presets, WhatIsNoPresetStaysAsItIs) {
 }
 
 TEST(Presets, SavingReplacesTheOneOfThatName) {
-  test::MemoryFiles files;
+  test::MemoryFiles files(kFolder);
   files.files[kPath] = "[main]\r\n> Main-Color=1\r\n[junk]\r\n";
   EXPECT_EQ(SavePreset(files, kFolder, L" Mine ", OtherTheme()), PresetSaved::kSaved);
   EXPECT_EQ(files.files[kPath], kOtherPreset);
@@ -173,7 +173,7 @@ TEST(Presets, SavingReplacesTheOneOfThatName) {
 }
 
 TEST(Presets, NamesStayInsideTheFolder) {
-  test::MemoryFiles files;
+  test::MemoryFiles files(kFolder);
   files.files[L"C:\\Varnel\\themes\\Soft\\Blue.dcp"] = "x";
   EXPECT_EQ(SavePreset(files, kFolder, L"", {}), PresetSaved::kNoName);
   EXPECT_EQ(SavePreset(files, kFolder, L"   ", {}), PresetSaved::kNoName);
@@ -186,7 +186,7 @@ TEST(Presets, NamesStayInsideTheFolder) {
 }
 
 TEST(Presets, DeletingTakesOneOrAll) {
-  test::MemoryFiles files;
+  test::MemoryFiles files(kFolder);
   for (const wchar_t* name : {L"One", L"Two", L"Three"}) SavePreset(files, kFolder, name, {});
   files.files[kFolder + L"\\note.txt"] = "keep";
   EXPECT_TRUE(DeletePreset(files, kFolder, L"Two"));
@@ -200,7 +200,7 @@ TEST(Presets, DeletingTakesOneOrAll) {
 }
 
 TEST(Presets, TheListShowsLightenedSwatches) {
-  test::MemoryFiles files;
+  test::MemoryFiles files(kFolder);
   const auto add = [&](const wchar_t* name, Colour main, std::int32_t contrast) {
     ThemeRecord theme = OtherTheme();
     theme.lngTHEMECOLOR = main;
@@ -226,7 +226,7 @@ TEST(Presets, TheListShowsLightenedSwatches) {
 }
 
 TEST(PresetFile, OneFileAtATime) {
-  test::MemoryFiles files;
+  test::MemoryFiles files(kFolder);
   PresetFile preset(files);
   preset.SelectPresetFile(kPath);
   EXPECT_TRUE(preset.Save());  // nothing to write, nothing written

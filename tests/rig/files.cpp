@@ -57,7 +57,8 @@ std::vector<std::wstring> FoldersIn(const std::wstring& folder) {
 
 std::optional<std::string> FileBytes(const std::wstring& path) {
   // So that it can be replaced meanwhile.
-  return DiskFiles().Read(path, std::numeric_limits<std::size_t>::max());
+  FileRead read = DiskFiles().Read(path, std::numeric_limits<std::size_t>::max());
+  return read ? std::optional(std::move(read.bytes)) : std::nullopt;
 }
 
 bool WriteBytes(const std::wstring& path, std::string_view bytes) {

@@ -48,9 +48,8 @@ TEST(WindowBase, HandlerThatThrowsIsLoggedAndTheWindowLivesOn) {
   TestWindow window(ui);
   EXPECT_EQ(::SendMessageW(window.handle(), kThrow, 0, 0), 0);
   EXPECT_EQ(::SendMessageW(window.handle(), kThrow + 1, 0, 0), 1);
-  const auto log = files.Read(folder + L"\\debug.log", 10'000);
-  ASSERT_TRUE(log);
-  EXPECT_NE(log->find("a handler that fails"), std::string::npos);
+  const FileRead log = files.Read(folder + L"\\debug.log", 10'000);
+  EXPECT_NE(log.bytes.find("a handler that fails"), std::string::npos);
   EXPECT_FALSE(window.busy());
   window.Destroy();
   EXPECT_EQ(window.handle(), nullptr);
@@ -81,43 +80,6 @@ TEST(Timer, NeverAfterStopNorWhileItsHandlerRuns) {
   window.Destroy();
   timer.Start();  // without a window: nothing
   EXPECT_FALSE(timer.enabled());
-}
-
-TEST(DiskFiles, ReplacesWholeOrNotAtAll) {
-  const std::wstring folder = TemporaryFolder() + L"\\\x00e4 b\\";
-  const std::wstring path = folder + L"note.txt";
-  DiskFiles files;
-  EXPECT_FALSE(files.Replace(path, "lost")) << "there is no folder yet";
-  ASSERT_TRUE(files.CreateFolder(folder));
-  ASSERT_TRUE(files.Replace(path, "one"));
-  ASSERT_TRUE(files.Replace(path, std::string("t\0wo", 4)));
-  EXPECT_EQ(files.Read(path, 4), std::string("t\0wo", 4));
-  EXPECT_FALSE(files.Read(path, 3)) << "larger than allowed";
-  EXPECT_FALSE(files.Append(folder + L"none.txt", 0, "lost"));
-  EXPECT_FALSE(files.Append(path, 3, "lost")) << "it has grown meanwhile";
-  EXPECT_TRUE(files.Append(path, 4, " and more"));
-  EXPECT_EQ(files.Read(path, 13), std::string("t\0wo and more", 13));
-
-  // Held by somebody who lets nobody write: the old content stays, nothing is left beside it.
-  HANDLE held = ::CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
-                              0, nullptr);
-  EXPECT_FALSE(files.Replace(path, "three"));
-  EXPECT_FALSE(files.Append(path, 13, "lost"));
-  ::CloseHandle(held);
-  EXPECT_EQ(files.Read(path, 100), std::string("t\0wo and more", 13));
-  EXPECT_EQ(files.FileNames(folder, L"").size(), 1u);
-
-  EXPECT_EQ(files.FileNames(folder, L".TXT"), std::vector<std::wstring>{L"note.txt"});
-  EXPECT_TRUE(files.Rename(path, folder + L"other.txt"));
-  ASSERT_TRUE(files.Replace(path, "new"));
-  EXPECT_FALSE(files.Rename(path, folder + L"other.txt")) << "never over another file";
-  EXPECT_TRUE(files.MoveFolder(folder, TemporaryFolder() + L"\\moved"));
-  EXPECT_FALSE(files.FolderExists(folder));
-  for (const wchar_t* name : {L"note.txt", L"other.txt"}) {
-    EXPECT_TRUE(files.Remove(TemporaryFolder() + L"\\moved\\" + name));
-  }
-  ::RemoveDirectoryW((TemporaryFolder() + L"\\moved").c_str());
-  ::RemoveDirectoryW(TemporaryFolder().c_str());
 }
 
 TEST(SystemRegistry, KeepsTheRulesOfTheStoreOnTheRealRegistry) {

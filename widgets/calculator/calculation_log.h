@@ -21,9 +21,14 @@ std::wstring CalculationLine(double first, wchar_t sign, double second, std::wst
 std::optional<std::wstring> RecalledText(std::wstring_view line);
 
 // Every change is written to the file at once: a new line at its end, as long as the file has the
-// other lines and nothing else, any other change by replacing the file. Where that fails the lines
-// stay in the list and the next change writes them too. A file that could not be taken over whole
-// is never overwritten: before the first change is written it is moved aside, to its own name
+// other lines and nothing else, any other change by replacing the file. What others have added to
+// the file meanwhile is taken over, and what they removed goes; a file that they deleted or emptied
+// is written anew.
+//
+// Where the file cannot be read or written, the lines stay in the list and come with the next
+// change or with Retry. New lines are meanwhile kept in a second file, the log's name followed by
+// ".unsaved", from which the next Load takes them. A file of which not everything could be taken
+// over is never overwritten: before the first change is written it is moved aside, to its own name
 // followed by ".old", or ".old2" to ".old99" where that is taken. Where that fails nothing is
 // written.
 class CalculationLog {
@@ -41,28 +46,52 @@ class CalculationLog {
 
   // Appends a line under the key that the number of lines gives ("0m" for the first) and writes the
   // file. False when a line still has that key, which happens once another than the last line was
-  // deleted: the line is then not logged.
+  // deleted: the line is then not logged. Lines taken over from others get new keys, and so do the
+  // lines beside them.
   bool Append(std::wstring_view line);
 
   // Removes the lines at `indexes`, as far as there are such lines, and writes the file.
   void DeleteSelected(std::vector<std::size_t> indexes);
 
-  // Removes all lines and writes the file.
+  // Removes all lines and writes the file. Lines that others have added unseen stay.
   void Clear();
 
-  // False while the file lacks a change, because it could not be written.
-  bool saved() const { return saved_; }
+  // Reads a file that could not be read, and writes what could not be written. Without effect while
+  // there is no trouble.
+  void Retry();
+
+  // Why the file was not read, or lacks a change; kDone while it was and does not.
+  FileResult trouble() const { return trouble_; }
+  bool saved() const { return trouble_ == FileResult::kDone; }
 
  private:
+  std::size_t FirstUnsaved() const { return lines_.count() - unsaved_; }
+  void RemoveLine(std::size_t index);
+  void NumberKeys();
+  bool TakeFile();
+  void TakeRescuedLines();
   void Save();
-  bool MoveFileAside();
+  FileWritten Write();
+  FileResult MoveFileAside();
+  void KeepUnsavedLines();
 
   FileStore& files_;
-  std::wstring path_;
+  const std::wstring path_;
+  const std::wstring unsaved_path_ = path_ + L".unsaved";
   RecordList lines_;
   std::vector<std::size_t> keys_;  // the numbers of the keys, one for each line
-  FileState file_ = FileState::kWhole;
-  bool saved_ = true;
+
+  // The file as it was last read or written.
+  bool known_ = false;
+  FileState state_ = FileState::kWhole;
+  FileStamp stamp_;
+
+  // What it lacks.
+  bool changed_ = false;
+  std::size_t unsaved_ = 0;  // lines, the last of the list
+  RecordList removed_;       // lines that the file has and the list has not
+  std::string rescued_;      // what stands in the second file
+  FileResult trouble_ = FileResult::kDone;
 };
 
 }  // namespace varnel

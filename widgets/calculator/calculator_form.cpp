@@ -19,6 +19,7 @@ constexpr Command kClearHistory{L"mnuCALCCLEARHISTORY", L"Clear lo&g..."};
 
 constexpr wchar_t kLogFile[] = L"calc2.dat";
 constexpr int kStruckMs = 120;
+constexpr int kRetryMs = 2000;
 constexpr int kMostPastedUnits = 1000;
 constexpr int kStepsToANotch = 3;
 
@@ -49,7 +50,8 @@ CalculatorForm::CalculatorForm(Services& services, const FormEntry& entry, int i
       lblDISPLAYFUNC_(services.ui),
       lblSUB_(services.ui),
       lvwFILES_(services.ui, *this),
-      release_timer_(*this, kStruckMs, [this] { ReleaseStruck(); }) {}
+      release_timer_(*this, kStruckMs, [this] { ReleaseStruck(); }),
+      log_timer_(*this, kRetryMs, [this] { RetryLog(); }) {}
 
 void CalculatorForm::OnLoad() {
   lbl01234567890_.Load(handle(), lbl01234567890);
@@ -66,8 +68,14 @@ void CalculatorForm::OnLoad() {
   ShowLog(log_.count());
 }
 
+void CalculatorForm::OnUnload() {
+  release_timer_.Stop();
+  log_timer_.Stop();
+  log_.Retry();
+}
+
 std::wstring CalculatorForm::StatusText() const {
-  if (!log_.saved()) return L"The log could not be saved";
+  if (!log_.saved()) return L"The log " + std::wstring(FileTrouble(log_.trouble()));
   if (log_.count() == 0) return L"No sums yet";
   return NumberText(static_cast<long long>(log_.count())) +
          (log_.count() == 1 ? L" sum" : L" sums");
@@ -83,9 +91,14 @@ void CalculatorForm::OnControl(int id, int code) {
 void CalculatorForm::Press(CalculatorKey key) {
   const std::wstring line = engine_.Press(key);
   if (!line.empty()) {
+    const std::size_t former = log_.count();
     log_.Append(line);
-    lvwFILES_.AddRows(log_.count());
-    RepaintStatus();
+    if (log_.count() > former + 1) {
+      ShowLog(log_.count());  // with lines of others
+    } else {
+      lvwFILES_.AddRows(log_.count());
+      TendLog();
+    }
   }
   RefreshContent();
 }
@@ -169,7 +182,23 @@ void CalculatorForm::OnRowChosen(std::size_t row) {
 
 void CalculatorForm::ShowLog(std::size_t visible_line) {
   lvwFILES_.ShowRows(log_.count(), visible_line);
+  TendLog();
+}
+
+void CalculatorForm::TendLog() {
+  if (log_.saved()) {
+    log_timer_.Stop();
+  } else if (!log_timer_.enabled()) {
+    log_timer_.Start();
+  }
   RepaintStatus();
+}
+
+// What could not be read or saved is tried again until it can.
+void CalculatorForm::RetryLog() {
+  const FileResult former = log_.trouble();
+  log_.Retry();
+  if (log_.trouble() != former) ShowLog(log_.count());
 }
 
 void CalculatorForm::HistoryShow() {

@@ -28,7 +28,7 @@ class CalculatorForm : public WidgetForm, private SideListOwner {  // frmCLCwg
 
  private:
   void OnLoad() override;
-  void OnUnload() override { release_timer_.Stop(); }
+  void OnUnload() override;
   void LayOutPanel(const Rect& panel) override;
   void RefreshContent() override;
   void PaintPanel(Surface& surface, const Rect& panel) override;
@@ -50,6 +50,8 @@ class CalculatorForm : public WidgetForm, private SideListOwner {  // frmCLCwg
   void Copy();
   void PasteNumber();
   void ClearHistory();
+  void TendLog();
+  void RetryLog();
   void ShowLog(std::size_t visible_line);
   void PlaceNumber();
   void PlaceDisplay();
@@ -76,6 +78,7 @@ class CalculatorForm : public WidgetForm, private SideListOwner {  // frmCLCwg
   ThemedLabel lblSUB_;
   SideList lvwFILES_;
   Timer release_timer_;
+  Timer log_timer_;  // runs while the log's file is in trouble
 };
 
 }  // namespace varnel

@@ -28,10 +28,17 @@ std::size_t RecordList::End(std::size_t index) const {
   return index + 1 < count() ? starts_[index + 1] : bytes_.size();
 }
 
-std::wstring RecordList::Text(std::size_t index) const {
+std::string_view RecordList::Record(std::size_t index) const {
   const std::size_t start = starts_[index] + 1;
-  const std::size_t length = End(index) - kRecordEnd.size() - start;
-  return WideFromUtf8(std::string_view(bytes_).substr(start, length));
+  return bytes().substr(start, End(index) - kRecordEnd.size() - start);
+}
+
+std::wstring RecordList::Text(std::size_t index) const {
+  return WideFromUtf8(Record(index));
+}
+
+std::string_view RecordList::BytesFrom(std::size_t index) const {
+  return index < count() ? bytes().substr(starts_[index]) : std::string_view();
 }
 
 void RecordList::Add(std::wstring_view text) {
@@ -82,18 +89,29 @@ bool RecordList::Parse(std::string_view file) {
   return whole;
 }
 
-bool ListSaveToFile(const RecordList& list, FileStore& files, const std::wstring& path) {
-  return files.Replace(path, list.bytes());
+FileWritten ListSaveToFile(const RecordList& list, FileStore& files, const std::wstring& path,
+                           const FileStamp& expected) {
+  return files.Replace(path, list.bytes(), expected);
 }
 
-FileState ListLoadFromFile(RecordList& list, const FileStore& files, const std::wstring& path) {
-  const auto content = files.Read(path, kLargestFile);
-  if (!content) {
-    list.Clear();
-    return files.FileExists(path) ? FileState::kMore : FileState::kWhole;
+ListRead ListLoadFromFile(RecordList& list, const FileStore& files, const std::wstring& path) {
+  const FileRead file = files.Read(path, kLargestFile);
+  switch (file.result) {
+    case FileResult::kDone:
+      break;
+    case FileResult::kMissing:
+    case FileResult::kNoFolder:
+      list.Clear();
+      return {FileResult::kDone, FileState::kWhole, kNoFile};
+    case FileResult::kTooLarge:
+      list.Clear();
+      return {FileResult::kDone, FileState::kMore, file.stamp};
+    default:
+      return {file.result, FileState::kMore, {}};
   }
-  if (!list.Parse(*content)) return FileState::kMore;
-  return *content == list.bytes() ? FileState::kSame : FileState::kWhole;
+  if (!list.Parse(file.bytes)) return {FileResult::kDone, FileState::kMore, file.stamp};
+  const bool same = file.bytes == list.bytes();
+  return {FileResult::kDone, same ? FileState::kSame : FileState::kWhole, file.stamp};
 }
 
 }  // namespace varnel

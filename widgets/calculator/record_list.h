@@ -17,8 +17,11 @@ class RecordList {
   std::size_t count() const { return starts_.size(); }
   // The text at `index`, which must be below count().
   std::wstring Text(std::size_t index) const;
+  // The same in the bytes of the file, without its quotes.
+  std::string_view Record(std::size_t index) const;
   // Appends a text of at most 1,000 bytes without control characters.
   void Add(std::wstring_view text);
+  void AddRecord(std::string_view text);
   // Removes the text at `index`, which must be below count().
   void Remove(std::size_t index);
   void Clear();
@@ -30,19 +33,21 @@ class RecordList {
   bool Parse(std::string_view file);
   // The whole file.
   std::string_view bytes() const { return bytes_; }
+  // The file's end, from the record at `index` on; empty where there is none.
+  std::string_view BytesFrom(std::size_t index) const;
 
  private:
   std::size_t End(std::size_t index) const;
-  void AddRecord(std::string_view text);
   bool TakeLine(std::string_view line);
 
   std::string bytes_;
   std::vector<std::size_t> starts_;  // where each record begins in bytes_
 };
 
-// Writes every item, first to last, in place of the file's content. False when the file could not
-// be written and holds what it held before.
-bool ListSaveToFile(const RecordList& list, FileStore& files, const std::wstring& path);
+// Writes every item, first to last, in place of the file's content, if the file still has the stamp
+// `expected`. A file that could not be written holds what it held before.
+FileWritten ListSaveToFile(const RecordList& list, FileStore& files, const std::wstring& path,
+                           const FileStamp& expected);
 
 // What a file holds, compared with the list that was read from it.
 enum class FileState {
@@ -51,8 +56,15 @@ enum class FileState {
   kMore,   // more than is in the list
 };
 
-// Takes the file's records, as Parse does, in place of the present items. A file of more than 64
-// MB, or one that cannot be read, is left out whole; a missing file gives an empty list.
-FileState ListLoadFromFile(RecordList& list, const FileStore& files, const std::wstring& path);
+struct ListRead {
+  FileResult result = FileResult::kFailed;  // of reading the file
+  FileState state = FileState::kWhole;
+  FileStamp stamp;
+};
+
+// Takes the file's records, as Parse does, in place of the present items. A missing file gives an
+// empty list, and so does one of more than 64 MB, which holds more. A file that cannot be read
+// leaves the list as it was.
+ListRead ListLoadFromFile(RecordList& list, const FileStore& files, const std::wstring& path);
 
 }  // namespace varnel

@@ -120,9 +120,9 @@ void WeatherService::TakeResponse(const std::string& bytes, bool live) {
   const HourglassPointer pointer;
   const std::wstring file = services_.program_folder + L"web.txt";
   const std::string printed = bytes + "\r\n";
-  const bool written = services_.files.Replace(file, printed);
-  const auto read = written ? services_.files.Read(file, printed.size()) : std::nullopt;
-  std::wstring response = NormaliseFeed(WithSections(FeedText(read.value_or(printed))));
+  const bool written{services_.files.Replace(file, printed)};
+  const FileRead read = written ? services_.files.Read(file, printed.size()) : FileRead();
+  std::wstring response = NormaliseFeed(WithSections(FeedText(read ? read.bytes : printed)));
   if (const std::wstring_view complaint = FeedComplaint(response); complaint.empty()) {
     txtDATA_ = std::move(response);
     live_data_ = live;

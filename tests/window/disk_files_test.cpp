@@ -1,0 +1,105 @@
+// The file store on the disk: the rules of all stores, and what only a disk can do.
+#include "win/disk_files.h"
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "tests/support/file_store_contract.h"
+#include "win/handles.h"
+
+namespace varnel::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+class DiskRig : public FileStoreRig {
+ public:
+  DiskRig() {
+    fs::remove_all(folder_);
+    fs::create_directories(folder_);
+  }
+  ~DiskRig() override {
+    Unlock();
+    for (const auto& entry : fs::recursive_directory_iterator(folder_)) {
+      ::SetFileAttributesW(entry.path().c_str(), FILE_ATTRIBUTE_NORMAL);
+    }
+    fs::remove_all(folder_);
+  }
+  FileStore& files() override { return files_; }
+  std::wstring folder() const override { return folder_; }
+  void Lock(const std::wstring& path) override {
+    held_ = ::CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    EXPECT_NE(held_, INVALID_HANDLE_VALUE);
+  }
+  void Unlock() override {
+    if (held_ != INVALID_HANDLE_VALUE) ::CloseHandle(std::exchange(held_, INVALID_HANDLE_VALUE));
+  }
+  void MarkReadOnly(const std::wstring& path) override {
+    EXPECT_TRUE(::SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY));
+  }
+  bool IsHidden(const std::wstring& folder) override {
+    return (::GetFileAttributesW(folder.c_str()) & FILE_ATTRIBUTE_HIDDEN) != 0;
+  }
+
+ private:
+  std::wstring folder_ = (fs::temp_directory_path() / L"varnel files test").wstring() +
+                         std::to_wstring(::GetCurrentProcessId());
+  HANDLE held_ = INVALID_HANDLE_VALUE;
+  DiskFiles files_;
+};
+
+INSTANTIATE_TEST_SUITE_P(Disk, FileStoreContract,
+                         ::testing::Values([] { return std::make_unique<DiskRig>(); }));
+
+TEST(DiskFiles, ReadersWhoLetNobodyWriteLeaveTheOldContent) {
+  DiskRig rig;
+  const std::wstring path = rig.folder() + L"\\a.txt";
+  const FileStamp stamp = rig.files().Replace(path, "old").stamp;
+  const UniqueFile held(::CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
+                                      OPEN_EXISTING, 0, nullptr));
+  EXPECT_EQ(rig.files().Replace(path, "new").result, FileResult::kLocked);
+  EXPECT_EQ(rig.files().Append(path, stamp, "new").result, FileResult::kLocked);
+  EXPECT_EQ(rig.files().Remove(path, Removal::kForced), FileResult::kLocked);
+  EXPECT_EQ(rig.files().Read(path, 10).bytes, "old");
+  EXPECT_EQ(rig.files().Files(rig.folder()).files.size(), 1u);
+}
+
+// Another drive: a file system of its own in memory, where this machine has one.
+TEST(DiskFiles, AFolderMovesWholeToAnotherDriveOrStays) {
+  const fs::path other = L"Z:\\dev\\shm";
+  if (!fs::exists(other)) GTEST_SKIP() << "no second drive";
+  DiskRig rig;
+  const std::wstring from = rig.folder() + L"\\from";
+  const std::wstring to =
+      (other / L"varnel files test ").wstring() + std::to_wstring(::GetCurrentProcessId());
+  fs::remove_all(to);
+  fs::remove_all(to + L".moving");
+  rig.files().CreateFolder(from + L"\\deep\\.hidden", FolderLook::kHidden);
+  const std::string large(200'000, 'x');
+  rig.files().Replace(from + L"\\large", large);
+  rig.files().Replace(from + L"\\deep\\empty", "");
+  rig.files().Replace(from + L"\\deep\\.hidden\\marked", "1");
+  rig.MarkReadOnly(from + L"\\deep\\.hidden\\marked");
+
+  rig.Lock(from + L"\\deep\\empty");
+  EXPECT_EQ(rig.files().MoveFolder(from, to), FileResult::kLocked);
+  rig.Unlock();
+  EXPECT_FALSE(fs::exists(to) || fs::exists(to + L".moving"));
+  EXPECT_EQ(fs::file_size(from + L"\\large"), large.size());
+
+  fs::create_directories(to + L".moving");  // of a program that was ended
+  std::ofstream(fs::path(to + L".moving\\left")) << "left";
+  EXPECT_EQ(rig.files().MoveFolder(from, to), FileResult::kDone);
+  EXPECT_FALSE(fs::exists(from) || fs::exists(to + L".moving") || fs::exists(to + L"\\left"));
+  EXPECT_EQ(rig.files().Read(to + L"\\large", 1 << 20).bytes, large);
+  EXPECT_EQ(rig.files().Read(to + L"\\deep\\.hidden\\marked", 10).bytes, "1");
+  EXPECT_TRUE(rig.files().FileExists(to + L"\\deep\\empty"));
+  EXPECT_EQ(rig.files().MoveFolder(to, from), FileResult::kDone);
+  EXPECT_FALSE(fs::exists(to));
+}
+
+}  // namespace
+}  // namespace varnel::test
