@@ -44,6 +44,8 @@ class ComPointer {
   Interface** Receive() { return &object_; }
   void** ReceiveAny() { return reinterpret_cast<void**>(&object_); }
   Interface* get() const { return object_; }
+  // Gives the reference away.
+  Interface* release() { return std::exchange(object_, nullptr); }
   Interface* operator->() const { return object_; }
   explicit operator bool() const { return object_ != nullptr; }
 
