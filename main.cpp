@@ -5,7 +5,7 @@
 #include "core/application_win.h"
 #include "win/com.h"
 #include "win/hardening.h"
-#include "win/shell.h"
+#include "win/process.h"
 #include "win/single_instance.h"
 
 namespace {

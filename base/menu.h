@@ -12,6 +12,7 @@ struct MenuItem {
   std::wstring key;      // the key that does the same, as shown at the right; may be empty
   bool checked = false;
   bool enabled = true;
+  bool is_default = false;         // shown in bold; at most one in a menu
   std::vector<MenuItem> children;  // not empty: a submenu
 };
 

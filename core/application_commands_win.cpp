@@ -4,25 +4,26 @@
 
 #include "core/application_win.h"
 #include "core/core_settings.h"
-#include "core/shared_menu.h"
 #include "frame/screens_win.h"
 #include "frame/sizes.h"
-#include "win/shell.h"
+#include "win/hourglass.h"
+#include "win/message_box.h"
+#include "win/window.h"
 
 namespace varnel {
 namespace {
 
-constexpr wchar_t kHelpText[] =
-    L"Drag the title bar to move a widget,\n"
-    L"its lower right corner to size it.\n\n"
-    L"Tab, Shift+Tab: go from button to button\n"
-    L"Space, Enter: press the button\n"
-    L"Ctrl+arrow: move the widget by one step\n"
-    L"Ctrl+Shift+arrow: size it by one step\n"
-    L"Shift+F10: open its menu\n"
-    L"Alt+F4: close it\n\n"
-    L"A double click on the icon beside the\n"
-    L"system's clock brings back the manager.";
+constexpr Message kHelp{L"Widget Varnel: keys and tips",
+                        L"Drag the title bar to move a widget,\n"
+                        L"its lower right corner to size it.\n\n"
+                        L"Tab, Shift+Tab: go from button to button\n"
+                        L"Space, Enter: press the button\n"
+                        L"Ctrl+arrow: move the widget by one step\n"
+                        L"Ctrl+Shift+arrow: size it by one step\n"
+                        L"Shift+F10: open its menu\n"
+                        L"Alt+F4: close it\n\n"
+                        L"A double click on the icon beside the\n"
+                        L"system's clock brings back the manager."};
 
 }  // namespace
 
@@ -39,7 +40,7 @@ void Application::OpenDialog(std::wstring_view form) {
   KeepOnTop(dialog->handle(), std::ranges::any_of(forms_.all(), kept_on_top));
 }
 
-std::vector<MenuItem> Application::SharedMenu() const {
+SharedMenuState Application::MenuState() const {
   SharedMenuState state;
   for (int i = 0; i < kWidgetCount; ++i) {
     state.available[i] = widgets_.Available(i);
@@ -47,12 +48,19 @@ std::vector<MenuItem> Application::SharedMenu() const {
   }
   const LiveForm* current = OpenCurrentForm();
   state.has_widget = current != nullptr;
+  if (current) state.widget_title = current->entry().title;
   state.sizable = current && WidgetNamed(current_widget_);
   state.on_top = current && current->on_top();
   state.theme_dialog = HasDialog(L"frmTHEME");
   state.about_dialog = HasDialog(L"frmABOUT");
   state.donation_dialog = HasDialog(L"frmDONATE");
   state.other_apps_dialog = HasDialog(L"frmMORE");
+  return state;
+}
+
+std::vector<MenuItem> Application::TrayMenu() const {
+  SharedMenuState state = MenuState();
+  state.of_tray = true;
   return BuildSharedMenu(state);
 }
 
@@ -75,10 +83,6 @@ void Application::RunSizeCommand(int id) {
   manager_.WidgetRefresh();
 }
 
-void Application::ShowHelp() {
-  ShowInformation(menus_.handle(), kHelpText, L"Widget Varnel: keys and tips");
-}
-
 void Application::RunCommand(int id) {
   struct Handler {
     std::wstring_view name;
@@ -96,7 +100,7 @@ void Application::RunCommand(int id) {
       {L"mnuDCSETTINGS", [](Application& self) { self.OpenDialog(L"frmTHEME"); }},
       {L"mnuDCGENSET", [](Application& self) { self.OpenDialog(L"frmVRNpr"); }},
       {L"mnuDCUPDATES", [](Application& self) { self.CheckForUpdate(1); }},
-      {L"mnuDCHELP", [](Application& self) { self.ShowHelp(); }},
+      {L"mnuDCHELP", [](Application&) { Ask(nullptr, kHelp); }},
       {L"mnuDCTUTS", [](Application& self) { self.OpenPage(self.pages_.videos); }},
       {L"mnuDCWEB", [](Application& self) { self.OpenPage(self.pages_.support); }},
       {L"mnuDCWEBFEEDBACK", [](Application& self) { self.OpenPage(self.pages_.feedback); }},

@@ -8,8 +8,10 @@
 #include "core/core_settings.h"
 #include "core/start_options.h"
 #include "theme/preset_generator.h"
-#include "win/shell.h"
+#include "win/hourglass.h"
+#include "win/process.h"
 #include "win/single_instance.h"
+#include "win/web_page.h"
 
 namespace varnel {
 namespace {
@@ -40,7 +42,7 @@ Application::Application(HINSTANCE instance, const CommandLine& command_line,
       services_{ui_,      settings_, files_, clock_, formatter_,
                 colours_, forms_,    *this,  sound_, ProgramFolder(command_line)},
       catalogue_(services_),
-      menus_(ui_, *this, [this] { SaveEverything(); }),
+      menus_(ui_, *this, [this] { OnSessionEnd(); }),
       update_checker_(ui_, menus_.webDATA(),
                       [this](std::function<void()> work) { menus_.Post(std::move(work)); }),
       tray_(ui_, *this),
@@ -131,18 +133,34 @@ void Application::HideToTray() {
 
 void Application::RegisterRunAtLogon() {
   const std::wstring path = ProgramPath();
-  varnel::RegisterRunAtLogon(settings_, RunAtLogonCommand(FolderOf(path), BaseName(path)));
+  WriteRunAtLogon(settings_, RunAtLogonCommand(FolderOf(path), BaseName(path)));
 }
 
-void Application::SaveEverything() {
-  Guarded(L"saving", [this] {
-    manager_.SavePlace();
-    widgets_.ForEach([](WidgetForm& widget) { widget.SavePlace(); });
-  });
+void Application::CloseFromOutside(int index) {
+  if (index == kManagerIndex) {
+    ExitProgram();
+  } else {
+    manager_.CloseFromOutside(index);
+  }
+}
+
+void Application::SightChanged(int index) {
+  if (index != kManagerIndex && manager_.handle()) manager_.ShowSight(index);
+}
+
+void Application::OnSessionEnd() {
+  session_ends_ = true;
+  const auto save = [this](WidgetForm& form) {
+    Guarded(L"saving", [&] { form.SaveState(SaveReason::kSessionEnd); });
+  };
+  save(manager_);
+  widgets_.ForEach(save);
 }
 
 void Application::ExitProgram() {
-  if (std::exchange(closing_, true)) return;
+  // All are asked before any closes; at the session's end nobody is there to answer.
+  if (closing_ || (!session_ends_ && !widgets_.AllMayClose())) return;
+  closing_ = true;
   Guarded(L"tray icon", [this] { tray_.Unload(); });
   Guarded(L"manager", [this] { manager_.WidgetForm::Unload(); });
   widgets_.ForEach([this](WidgetForm& widget) { Guarded(L"widget", [&] { widget.Unload(); }); });

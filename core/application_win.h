@@ -11,6 +11,7 @@
 #include "core/manager_form.h"
 #include "core/menus_form.h"
 #include "core/settings_store.h"
+#include "core/shared_menu.h"
 #include "core/tray_form.h"
 #include "core/update_checker_win.h"
 #include "core/widget_catalogue_win.h"
@@ -42,11 +43,14 @@ class Application : public Program {
   void RegisterRunAtLogon() override;
   void CheckForUpdate(int mode) override { update_checker_.CheckForUpdate(mode); }
   void WidgetCheck(int index) override { manager_.WidgetCheck(index); }
+  void CloseFromOutside(int index) override;
+  void SightChanged(int index) override;
   void OpenDialog(std::wstring_view form) override;
   bool HasDialog(std::wstring_view form) const override { return dialogs_.Has(form); }
   void SetCurrentWidget(std::wstring_view form) override { current_widget_ = form; }
   LiveForm& CurrentForm() override;
-  std::vector<MenuItem> SharedMenu() const override;
+  std::vector<MenuItem> SharedMenu() const override { return BuildSharedMenu(MenuState()); }
+  std::vector<MenuItem> TrayMenu() const override;
   void RunCommand(int id) override;
 
  private:
@@ -57,12 +61,12 @@ class Application : public Program {
   void Main();
   void OnAlarmTick();
   void ShowStartupWindow();
-  void SaveEverything();
+  void OnSessionEnd();
   // Null when no menu was opened yet, or its widget is closed.
   LiveForm* OpenCurrentForm() const { return forms_.Find(current_widget_); }
+  SharedMenuState MenuState() const;
   void RunSizeCommand(int id);
   void OpenPage(const std::wstring& address);
-  void ShowHelp();
 
   CommandLine command_line_;
   std::span<const Family> families_;
@@ -79,6 +83,7 @@ class Application : public Program {
   Catalogue catalogue_;
   WebAddresses pages_;
   bool closing_ = false;
+  bool session_ends_ = false;
   std::wstring current_widget_;
   MenusForm menus_;
   UpdateChecker update_checker_;

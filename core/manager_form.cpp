@@ -20,6 +20,10 @@ struct ManagerCommand {
 };
 constexpr ManagerCommand kCommands[] = {{kBringToFront, 0}, {kArrange, 3}, {kCloseAll, 8}};
 
+bool IsTile(int id) {
+  return id >= lblNUMBER && id < lblNUMBER + kWidgetCount;
+}
+
 }  // namespace
 
 ManagerForm::ManagerForm(Services& services, WidgetHost& host)
@@ -43,6 +47,7 @@ void ManagerForm::LayOutPanel(const Rect& panel) {
 void ManagerForm::DrawPanelButton(const ButtonPainting& painting) {
   const int index = painting.button.id - lblNUMBER;
   const bool open = states_.IsOpen(index);
+  const bool out_of_sight = open && host_.SightOfWidget(index) != Sight::kShown;
   ButtonPainting tile = painting;
   if (!tile.enabled) tile.colours = {chrome().ground, chrome().border};
   PaintButtonFace(tile, dpi());
@@ -50,7 +55,7 @@ void ManagerForm::DrawPanelButton(const ButtonPainting& painting) {
   const TileLayout parts = LayOutTile({painting.bounds.width(), painting.bounds.height()}, dpi());
   TextStyle style = PanelTextStyle(parts.caption_height);
   style.ground = tile.colours.first;
-  style.faint = !tile.enabled;
+  style.faint = !tile.enabled || out_of_sight;
   PaintText(ui(), painting.surface, parts.caption, std::wstring(widget.title), style);
   style.font = {kIconFontName, parts.glyph_height, false};
   PaintText(ui(), painting.surface, parts.glyph,
@@ -62,16 +67,34 @@ void ManagerForm::DrawPanelButton(const ButtonPainting& painting) {
 }
 
 void ManagerForm::OnControl(int id, int code) {
-  if (code == BN_CLICKED && id >= lblNUMBER && id < lblNUMBER + kWidgetCount) {
-    WidgetCheck(id - lblNUMBER);
+  if (code == BN_CLICKED && IsTile(id)) OnTile(id - lblNUMBER);
+}
+
+bool ManagerForm::SecondClickCounts(int id) const {
+  // A double click on a tile wants the widget open, not open and closed again.
+  return !IsTile(id);
+}
+
+void ManagerForm::OnTile(int index) {
+  if (states_.IsOpen(index) && host_.SightOfWidget(index) != Sight::kShown) {
+    host_.ShowWidget(index, true);
+  } else {
+    WidgetCheck(index);
   }
 }
 
-void ManagerForm::Mark(int index, bool open) {
-  // The star is drawn with the tile; its meaning is a word in the tile's name.
-  const std::wstring name(WidgetAt(index)->title);
-  buttons().SetText(lblNUMBER + index, open ? name + L" (open)" : name);
+void ManagerForm::Mark(int index, bool) {
+  ShowSight(index);
   RepaintStatus();
+}
+
+void ManagerForm::ShowSight(int index) {
+  constexpr std::wstring_view kWords[] = {L" (open)", L" (minimised)", L" (hidden)"};
+  const auto sight = static_cast<std::size_t>(host_.SightOfWidget(index));
+  // The tile draws what these words say.
+  buttons().SetText(
+      lblNUMBER + index,
+      std::wstring(WidgetAt(index)->title).append(states_.IsOpen(index) ? kWords[sight] : L""));
 }
 
 void ManagerForm::ShowIcons() {
@@ -97,9 +120,7 @@ void ManagerForm::WidgetSel(int mode) {
       services().program.RunCommand(CommandId(L"mnuDCWEB"));
       break;
     case 8:
-      for (int i = 0; i < kWidgetCount; ++i) {
-        if (IsOpen(i)) WidgetClose(i);
-      }
+      states_.CloseAll();
       break;
     default:
       states_.WidgetSel(mode);
@@ -115,6 +136,8 @@ std::wstring ManagerForm::StatusText() const {
 std::vector<MenuItem> ManagerForm::MenuGroup() const {
   std::vector<MenuItem> items;
   for (const ManagerCommand& entry : kCommands) {
+    // Apart from the others, where a slip of the mouse would cost more.
+    if (entry.mode == 8) items.push_back(MenuSeparator());
     items.push_back(ItemOf(entry.command, states_.OpenCount() > 0));
   }
   return items;

@@ -14,8 +14,12 @@ class WidgetHost {
   // Whether this build has the widget at all.
   virtual bool Available(int index) const = 0;
   virtual bool LoadWidget(int index) = 0;
+  // Asks the widget's form; false also while another question of the kind stands open.
+  virtual bool MayClose(int index) = 0;
   virtual void UnloadWidget(int index) = 0;
   virtual void ShowWidget(int index, bool shown) = 0;
+  // kHidden for a widget that is not open.
+  virtual Sight SightOfWidget(int index) const = 0;
   // Brings the shown widgets before other windows / all open ones to the places they first had.
   virtual void BringToFront() = 0;
   virtual void ArrangeAll() = 0;
@@ -32,6 +36,9 @@ class ManagerForm : public WidgetForm, private WidgetWindows {  // frmVRNwg
   void WidgetCheckOnLoad(int index) { states_.WidgetCheckOnLoad(index); }
   void WidgetClose(int index) { states_.WidgetClose(index); }
   void WidgetOpen(int index) { states_.WidgetOpen(index); }
+  void CloseFromOutside(int index) { states_.CloseFromOutside(index); }
+  // Shows on its tile whether the widget is open and to be seen.
+  void ShowSight(int index);
   // 0 brings the shown widgets to the front, 1 and 6 hide every open widget, 2 shows them, 3
   // arranges them, 5 opens the support page, 8 closes them all; other modes do nothing.
   void WidgetSel(int mode);
@@ -42,9 +49,13 @@ class ManagerForm : public WidgetForm, private WidgetWindows {  // frmVRNwg
 
  private:
   bool Load(int index) override { return host_.LoadWidget(index); }
+  bool MayClose(int index) override { return host_.MayClose(index); }
   void Unload(int index) override { host_.UnloadWidget(index); }
   void Show(int index, bool shown) override { host_.ShowWidget(index, shown); }
   void Mark(int index, bool open) override;
+  // A click on a tile: a widget that is open but out of sight comes back, any other is toggled.
+  void OnTile(int index);
+  bool SecondClickCounts(int id) const override;
 
   void OnLoad() override;
   void LayOutPanel(const Rect& panel) override;
@@ -54,7 +65,6 @@ class ManagerForm : public WidgetForm, private WidgetWindows {  // frmVRNwg
   std::vector<MenuItem> MenuGroup() const override;
   bool RunOwnCommand(int id) override;
   void OnCloseButton() override { services().program.ExitProgram(); }
-  void OnMinimiseButton() override { services().program.HideToTray(); }
 
   WidgetHost& host_;
   WidgetStates states_;

@@ -11,10 +11,10 @@ constexpr HttpLimits kVersionFileLimits{64 * 1024, 10'000};
 
 }  // namespace
 
-MenusForm::MenusForm(Ui& ui, Program& program, std::function<void()> save_everything)
+MenusForm::MenusForm(Ui& ui, Program& program, std::function<void()> on_session_end)
     : Window(ui),
       program_(program),
-      save_everything_(std::move(save_everything)),
+      on_session_end_(std::move(on_session_end)),
       tmrALARM_(*this, kAlarmTickMs, [this] { alarm_tick_(); }),
       web_data_(ui, kVersionFileLimits) {}
 
@@ -56,11 +56,15 @@ LRESULT MenusForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_COMMAND:
       program_.RunCommand(LOWORD(wparam));
       return 0;
+    case WM_CLOSE:
+      // Only a program that wants the whole of this one gone closes what nobody sees.
+      program_.ExitProgram();
+      return 0;
     case WM_QUERYENDSESSION:
       return TRUE;
     case WM_ENDSESSION:
       // The system ends the process after this message, without asking any further.
-      if (wparam) save_everything_();
+      if (wparam) on_session_end_();
       return 0;
     default:
       break;

@@ -13,7 +13,7 @@ namespace varnel {
 
 class MenusForm : public Window {  // frmSTRmn
  public:
-  MenusForm(Ui& ui, Program& program, std::function<void()> save_everything);
+  MenusForm(Ui& ui, Program& program, std::function<void()> on_session_end);
 
   // `title` tells this program's form from that of another settings root.
   void Load(const std::wstring& title);
@@ -35,7 +35,7 @@ class MenusForm : public Window {  // frmSTRmn
   void RunPosted();
 
   Program& program_;
-  std::function<void()> save_everything_;
+  std::function<void()> on_session_end_;
   std::vector<std::function<void()>> posted_;
   std::function<void()> alarm_tick_;
   Timer tmrALARM_;

@@ -64,16 +64,22 @@ std::vector<MenuItem> HelpItems(const SharedMenuState& state) {
 }  // namespace
 
 std::vector<MenuItem> BuildSharedMenu(const SharedMenuState& state) {
+  MenuItem show = ItemOf({L"mnuDCMANAGER", L"Show &Varnel"});
+  show.is_default = state.of_tray;
+  const bool named = state.of_tray && state.has_widget;
+  const std::wstring of_widget = named ? L" of " + state.widget_title : L"";
+  const std::wstring top = named ? L"&Keep " + state.widget_title + L" on top" : L"&Keep on top";
+  const std::wstring theme = L"&Theme" + of_widget + L"...";
   return {Submenu(L"&Widgets", WidgetItems(state)),
           ItemOf({L"mnuDCSHOWALL", L"Show &all widgets"}),
           ItemOf({L"mnuDCHIDEALL", L"&Hide all widgets"}),
           MenuSeparator(),
-          ItemOf({L"mnuDCMANAGER", L"Show &Varnel"}),
+          show,
           ItemOf({L"mnuDCMANAGERHIDE", L"Hide to T&ray"}),
           MenuSeparator(),
-          Submenu(L"Si&ze", SizeItems(), state.sizable),
-          ItemOf({kTopCommand, L"&Keep on top"}, state.has_widget, state.on_top),
-          ItemOf({L"mnuDCSETTINGS", L"&Theme..."}, state.has_widget && state.theme_dialog),
+          Submenu(L"Si&ze" + (state.sizable ? of_widget : L""), SizeItems(), state.sizable),
+          ItemOf({kTopCommand, top}, state.has_widget, state.on_top),
+          ItemOf({L"mnuDCSETTINGS", theme}, state.has_widget && state.theme_dialog),
           ItemOf({L"mnuDCGENSET", L"&Options..."}),
           MenuSeparator(),
           Submenu(L"H&elp", HelpItems(state)),

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <string>
 #include <vector>
 
 #include "base/menu.h"
@@ -15,6 +16,8 @@ struct SharedMenuState {
   std::array<bool, kWidgetCount> open = {};
   bool sizable = false;       // the current widget can be resized by command
   bool has_widget = false;    // there is a current widget at all
+  std::wstring widget_title;  // its title
+  bool of_tray = false;       // the menu is the tray icon's
   bool on_top = false;        // it is kept above other windows
   bool theme_dialog = false;  // dialogs that this build has
   bool about_dialog = false;
@@ -22,8 +25,9 @@ struct SharedMenuState {
   bool other_apps_dialog = false;
 };
 
-// The shared menu with "Show Varnel" and "Hide to Tray" as its captions have to read whenever a
-// menu pops up.
+// In the tray icon's menu the item that a double click on the icon stands for is the default one,
+// and the commands for one widget name it. The shared menu with "Show Varnel" and "Hide to Tray" as
+// its captions have to read whenever a menu pops up.
 std::vector<MenuItem> BuildSharedMenu(const SharedMenuState& state);
 
 }  // namespace varnel

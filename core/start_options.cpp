@@ -9,7 +9,7 @@ std::wstring RunAtLogonCommand(std::wstring_view program_folder, std::wstring_vi
   return AddTrailingSeparator(std::wstring(program_folder)) + std::wstring(base_name) + L".exe";
 }
 
-void RegisterRunAtLogon(SettingsStore& store, std::wstring_view command) {
+void WriteRunAtLogon(SettingsStore& store, std::wstring_view command) {
   const std::wstring_view data = ReadCheck(store, kProgramLaunch) ? command : L"";
   const bool for_machine =
       store.TrySetKeyValue(kLocalMachineText, kRunKey, kApplicationTitle, data);

@@ -16,6 +16,6 @@ std::wstring RunAtLogonCommand(std::wstring_view program_folder, std::wstring_vi
 // Brings the start-up list in line with the setting kProgramLaunch: the value named after the
 // program holds `command`, or is empty when the setting is off. The machine's list is written;
 // where that is refused, for lack of rights, the user's own. Failures are silent.
-void RegisterRunAtLogon(SettingsStore& store, std::wstring_view command);
+void WriteRunAtLogon(SettingsStore& store, std::wstring_view command);
 
 }  // namespace varnel

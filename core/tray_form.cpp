@@ -65,6 +65,11 @@ LRESULT TrayForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     AddIcon();
     return 0;
   }
+  if (message == WM_CLOSE) {
+    // Only a program that wants the whole of this one gone closes what nobody sees.
+    program_.ExitProgram();
+    return 0;
+  }
   return Window::OnMessage(message, wparam, lparam);
 }
 
@@ -75,7 +80,7 @@ void TrayForm::OnTrayMouse(UINT mouse_message) {
     POINT point = {};
     ::GetCursorPos(&point);
     const int chosen = ShowPopupMenu(
-        handle(), {static_cast<int>(point.x), static_cast<int>(point.y)}, program_.SharedMenu());
+        handle(), {static_cast<int>(point.x), static_cast<int>(point.y)}, program_.TrayMenu());
     program_.RunCommand(chosen);
   }
 }

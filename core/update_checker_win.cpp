@@ -3,10 +3,21 @@
 #include <utility>
 
 #include "base/text.h"
-#include "win/shell.h"
+#include "win/hourglass.h"
+#include "win/message_box.h"
 #include "win/ui.h"
+#include "win/web_page.h"
 
 namespace varnel {
+namespace {
+
+constexpr Message kNoUpdate{
+    L"There Are No Updates Available as Yet",
+    L"If you are in need of updates due to bugs or whatever then let me know."};
+constexpr Message kNoAnswer{L"No Answer to the Update Check",
+                            L"The newest version is not known: %1."};
+
+}  // namespace
 
 UpdateChecker::UpdateChecker(Ui& ui, HttpFetch& web_data, Post post)
     : ui_(ui), web_data_(web_data), post_(std::move(post)) {}
@@ -22,16 +33,12 @@ void UpdateChecker::CheckForUpdate(int mode) {
 void UpdateChecker::UpdateCheckDone(const HttpResult& page) {
   if (!page.ok) {
     ui_.log.Write(L"update check: " + page.reason);
-    if (mode_ == 0) return;
-    ShowInformation(nullptr, L"The newest version is not known: " + page.reason + L".",
-                    L"No Answer to the Update Check");
+    if (mode_ != 0) Ask(nullptr, kNoAnswer, {page.reason});
   } else if (UpdateAvailable(WideFromUtf8(page.body),
                              VersionText(VARNEL_VERSION_MAJOR, VARNEL_VERSION_MINOR))) {
     OpenWebPage(nullptr, pages_.update);
   } else if (mode_ != 0) {
-    ShowInformation(nullptr,
-                    L"If you are in need of updates due to bugs or whatever then let me know.",
-                    L"There Are No Updates Available as Yet");
+    Ask(nullptr, kNoUpdate);
   }
 }
 

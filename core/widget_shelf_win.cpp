@@ -20,6 +20,24 @@ bool WidgetShelf::LoadWidget(int index) {
   return true;
 }
 
+bool WidgetShelf::MayClose(int index) {
+  if (!widgets_[index]) return true;
+  // While a form asks, messages go on: a second wish to close waits for the answer to the first.
+  if (std::exchange(asking_, true)) return false;
+  struct Answered {
+    bool& asking;
+    ~Answered() { asking = false; }
+  } answered{asking_};
+  return widgets_[index]->MayClose();
+}
+
+bool WidgetShelf::AllMayClose() {
+  for (int i = 0; i < kWidgetCount; ++i) {
+    if (!MayClose(i)) return false;
+  }
+  return true;
+}
+
 void WidgetShelf::UnloadWidget(int index) {
   if (!widgets_[index]) return;
   widgets_[index]->Unload();
@@ -31,9 +49,13 @@ void WidgetShelf::ShowWidget(int index, bool shown) {
   if (widgets_[index]) widgets_[index]->Show(shown);
 }
 
+Sight WidgetShelf::SightOfWidget(int index) const {
+  return widgets_[index] ? widgets_[index]->sight() : Sight::kHidden;
+}
+
 void WidgetShelf::BringToFront() {
   ForEach([](WidgetForm& widget) {
-    if (widget.visible()) ::BringWindowToTop(widget.handle());
+    if (widget.sight() == Sight::kShown) ::BringWindowToTop(widget.handle());
   });
 }
 

@@ -18,10 +18,15 @@ class WidgetShelf : public WidgetHost {
 
   bool Available(int index) const override;
   bool LoadWidget(int index) override;
+  bool MayClose(int index) override;
   void UnloadWidget(int index) override;
   void ShowWidget(int index, bool shown) override;
+  Sight SightOfWidget(int index) const override;
   void BringToFront() override;
   void ArrangeAll() override;
+
+  // Asks every open widget's form in turn, up to the first that is to stay; false then.
+  bool AllMayClose();
 
   // Calls `work` for every open widget, in the order of their indexes.
   void ForEach(const std::function<void(WidgetForm&)>& work) const;
@@ -34,6 +39,7 @@ class WidgetShelf : public WidgetHost {
   const Catalogue& catalogue_;
   std::array<std::unique_ptr<WidgetForm>, kWidgetCount> widgets_;
   std::vector<std::unique_ptr<WidgetForm>> retired_;
+  bool asking_ = false;
 };
 
 }  // namespace varnel

@@ -54,11 +54,30 @@ void WidgetStates::WidgetOpen(int index) {
 
 void WidgetStates::WidgetClose(int index) {
   const WidgetEntry* widget = WidgetAt(index);
-  if (widget == nullptr) return;
+  if (widget == nullptr || (open_[index] && !windows_.MayClose(index))) return;
+  WriteFlag(settings_, widget->start_load, false);
+  Close(index);
+}
+
+void WidgetStates::CloseAll() {
+  for (int i = 0; i < kWidgetCount; ++i) {
+    if (open_[i] && !windows_.MayClose(i)) return;
+  }
+  for (int i = 0; i < kWidgetCount; ++i) {
+    if (!open_[i]) continue;
+    WriteFlag(settings_, kStartLoad[i], false);
+    Close(i);
+  }
+}
+
+void WidgetStates::CloseFromOutside(int index) {
+  if (IsOpen(index) && windows_.MayClose(index)) Close(index);
+}
+
+void WidgetStates::Close(int index) {
   const bool was_open = open_[index];
   // Marked first: a window may report its own end while it is unloaded.
   SetMark(index, false);
-  WriteFlag(settings_, widget->start_load, false);
   if (was_open) windows_.Unload(index);
 }
 

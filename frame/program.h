@@ -26,6 +26,11 @@ class Program {
 
   // Opens a closed widget and closes an open one; an unknown index does nothing.
   virtual void WidgetCheck(int index) = 0;
+  // Another program has closed the widget's window, or the manager's, which ends the program. What
+  // opens at the next start stays as the user left it.
+  virtual void CloseFromOutside(int index) = 0;
+  // The widget, or the manager, has come into sight or gone out of it.
+  virtual void SightChanged(int index) = 0;
   // Opens the dialog of that form name, or brings it to the front; once made it stays until
   // the program ends. Unknown names do nothing.
   virtual void OpenDialog(std::wstring_view form) = 0;
@@ -38,6 +43,8 @@ class Program {
   virtual LiveForm& CurrentForm() = 0;
   // The commands common to every menu, as they stand now.
   virtual std::vector<MenuItem> SharedMenu() const = 0;
+  // The same for the tray icon, where nothing else tells which widget they act on.
+  virtual std::vector<MenuItem> TrayMenu() const = 0;
   // Runs a shared command; an id that is none does nothing.
   virtual void RunCommand(int id) = 0;
 };

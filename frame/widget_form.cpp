@@ -7,6 +7,7 @@
 #include "resources/control_ids.h"
 #include "theme/contrast.h"
 #include "theme/theme_store.h"
+#include "win/message_box.h"
 #include "win/user_look.h"
 
 namespace varnel {
@@ -69,7 +70,7 @@ bool WidgetForm::Load() {
 
 void WidgetForm::Unload() {
   if (!handle()) return;
-  SavePlace();
+  SaveState(SaveReason::kClose);
   OnUnload();
   services_.forms.Remove(entry_.form_name, *this);
   Destroy();
@@ -83,12 +84,25 @@ void WidgetForm::SavePlace() {
   SavePosition(services_.settings, entry_.form_name, state, place_, true);
 }
 
+bool WidgetForm::MayClose() {
+  const std::wstring unfinished = Unfinished();
+  const Message question{entry_.title, L"%1 Close it all the same?", MessageKind::kQuestion};
+  return unfinished.empty() || Ask(handle(), question, {unfinished});
+}
+
+void WidgetForm::SaveState(SaveReason) {
+  SavePlace();
+}
+
 void WidgetForm::Show(bool shown) {
   const bool manager = index_ == kManagerIndex;
   // What ticks rests while nobody sees it.
-  if (shown && !visible()) RefreshContent();
-  ::ShowWindow(handle(), !shown ? SW_HIDE : manager ? SW_SHOWNORMAL : SW_SHOWNOACTIVATE);
-  if (!shown) return;
+  if (shown && sight() != Sight::kShown) RefreshContent();
+  if (!shown) {
+    ::ShowWindow(handle(), SW_HIDE);
+    return;
+  }
+  BringIntoSight(handle(), manager ? SW_SHOWNORMAL : SW_SHOWNOACTIVATE, !manager);
   if (manager) ::SetForegroundWindow(handle());
   // Painted at once, so that nobody sees an empty window first.
   ::RedrawWindow(handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
@@ -205,6 +219,7 @@ void WidgetForm::DrawPanelButton(const ButtonPainting& painting) {
 }
 
 LRESULT WidgetForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+  if (OnSightMessage(message, wparam, lparam)) return 0;
   switch (message) {
     case WM_DRAWITEM:
       DrawButton(*reinterpret_cast<const DRAWITEMSTRUCT*>(lparam));
@@ -242,9 +257,6 @@ LRESULT WidgetForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
       break;
     case WM_SETFOCUS:
       if (::IsChild(handle(), last_focus_)) ::SetFocus(last_focus_);
-      return 0;
-    case WM_CLOSE:
-      OnCloseButton();
       return 0;
     case WM_DISPLAYCHANGE:
       ReturnToScreen();

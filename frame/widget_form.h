@@ -8,7 +8,9 @@
 #include "frame/form_registry.h"
 #include "frame/frame_layout.h"
 #include "frame/placement.h"
+#include "frame/save_reason.h"
 #include "frame/services.h"
+#include "frame/sight_win.h"
 #include "frame/text_buttons_form.h"
 #include "theme/widget_paint.h"
 #include "win/painted_window.h"
@@ -27,7 +29,13 @@ class WidgetForm : public PaintedWindow, public LiveForm {
   // Saves the place and removes the window.
   void Unload();
   void SavePlace();
+  // Showing restores what is minimised.
   void Show(bool shown);
+  Sight sight() const { return SightOf(handle()); }
+  // Asks the user where closing would lose something; false when the form is to stay.
+  virtual bool MayClose();
+  // Saves the place, and in a widget its documents, drafts and histories; asks nothing.
+  virtual void SaveState(SaveReason reason);
 
   const FormEntry& entry() const override { return entry_; }
   ThemeRecord& theme() override { return theme_; }
@@ -46,6 +54,8 @@ class WidgetForm : public PaintedWindow, public LiveForm {
   // What a widget adds to the frame. OnLoad makes its controls; OnShown starts what ticks.
   virtual void OnLoad() {}
   virtual void OnUnload() {}
+  // What runs and would be lost with the form, as a sentence; empty for nothing.
+  virtual std::wstring Unfinished() const { return {}; }
   // Places the controls on the panel (pixels of the window).
   virtual void LayOutPanel(const Rect&) {}
   // Brings the controls' texts up to date.
@@ -60,9 +70,10 @@ class WidgetForm : public PaintedWindow, public LiveForm {
   virtual std::vector<MenuItem> MenuGroup() const { return {}; }
   // Runs one of them; false when `id` is none.
   virtual bool RunOwnCommand(int /*id*/) { return false; }
-  // The title bar's buttons for closing and for going out of sight.
+  // Whether the second of two quick clicks on a button counts like any other.
+  virtual bool SecondClickCounts(int /*id*/) const { return true; }
+  // The user wants the form closed.
   virtual void OnCloseButton();
-  virtual void OnMinimiseButton() { Show(false); }
 
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
   bool OnKey(const MSG& message) override;
@@ -96,6 +107,10 @@ class WidgetForm : public PaintedWindow, public LiveForm {
   // True when the pointer has been given its shape.
   bool OnMouseOver(HWND control);
   void HoverTick(Timer& timer);
+  // Closing, and coming into sight or going out of it; true when the message is dealt with.
+  bool OnSightMessage(UINT message, WPARAM wparam, LPARAM lparam);
+  // The user's wishes from outside the panel: task bar, Alt+F4. True when it was one of them.
+  bool OnSystemCommand(WPARAM command);
   void OnLeftButtonDown(Point at);
   void DragStart();
   void DragSize();

@@ -30,13 +30,12 @@ void WidgetForm::OnCommand(int id, int code, HWND control) {
     if (id != IDOK && id != IDCANCEL) RunCommand(id);
     return;
   }
-  // The second of two quick clicks counts like any other.
-  if (code == BN_DBLCLK && buttons_.Find(id)) code = BN_CLICKED;
+  if (code == BN_DBLCLK && buttons_.Find(id) && SecondClickCounts(id)) code = BN_CLICKED;
   if (code == BN_CLICKED && id == lablTBARTOP) {
     const Rect window = screen_rect();
     ShowMenu({window.left + layout_.bar_buttons[0].left, window.top + layout_.pfrBAR.bottom});
   } else if (code == BN_CLICKED && id == lablTBARTOP + 1) {
-    OnMinimiseButton();
+    MinimiseToTaskBar(handle());
   } else if (code == BN_CLICKED && id == lablTBARTOP + 2) {
     OnCloseButton();
   } else {
@@ -46,6 +45,44 @@ void WidgetForm::OnCommand(int id, int code, HWND control) {
 
 void WidgetForm::OnCloseButton() {
   services_.program.WidgetCheck(index_);
+}
+
+bool WidgetForm::OnSightMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+  switch (message) {
+    case WM_CLOSE:
+      // What the user does arrives as a system command: this comes from another program.
+      services_.program.CloseFromOutside(index_);
+      return true;
+    case WM_SYSCOMMAND:
+      return OnSystemCommand(wparam & 0xFFF0);
+    case WM_SIZE:
+      services_.program.SightChanged(index_);
+      return false;
+    case WM_WINDOWPOSCHANGED:
+      if (reinterpret_cast<const WINDOWPOS*>(lparam)->flags & (SWP_SHOWWINDOW | SWP_HIDEWINDOW)) {
+        services_.program.SightChanged(index_);
+      }
+      return false;
+    default:
+      return false;
+  }
+}
+
+bool WidgetForm::OnSystemCommand(WPARAM command) {
+  switch (command) {
+    case SC_CLOSE:
+      OnCloseButton();
+      return true;
+    case SC_MINIMIZE:
+      MinimiseToTaskBar(handle());
+      return true;
+    case SC_RESTORE:
+      RefreshContent();
+      BringIntoSight(handle(), SW_SHOWNORMAL, index_ != kManagerIndex);
+      return true;
+    default:
+      return false;
+  }
 }
 
 void WidgetForm::RunCommand(int id) {

@@ -14,6 +14,7 @@ UniqueMenu BuildPopupMenu(const std::vector<MenuItem>& items) {
     const std::wstring text = item.key.empty() ? item.caption : item.caption + L"\t" + item.key;
     if (item.children.empty()) {
       ::AppendMenuW(menu.get(), flags, static_cast<UINT_PTR>(item.id), text.c_str());
+      if (item.is_default) ::SetMenuDefaultItem(menu.get(), static_cast<UINT>(item.id), FALSE);
       continue;
     }
     UniqueMenu submenu = BuildPopupMenu(item.children);

@@ -62,7 +62,7 @@ void Window::Destroy() {
 }
 
 LRESULT Window::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
-  return ::DefWindowProcW(handle_, message, wparam, lparam);
+  return message == WM_CLOSE ? 0 : ::DefWindowProcW(handle_, message, wparam, lparam);
 }
 
 LRESULT CALLBACK Window::Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam) {

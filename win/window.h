@@ -34,6 +34,18 @@ class Window {
   // object, though its window may go.
   bool busy() const { return depth_ > 0; }
 
+  // Keeps the object busy for a scope.
+  class Busy {
+   public:
+    explicit Busy(Window& window) : window_(window) { ++window_.depth_; }
+    Busy(const Busy&) = delete;
+    Busy& operator=(const Busy&) = delete;
+    ~Busy() { --window_.depth_; }
+
+   private:
+    Window& window_;
+  };
+
   // Sees a key message for this window or a control in it before anything else does; true when it
   // has been dealt with.
   virtual bool OnKey(const MSG&) { return false; }
@@ -54,7 +66,8 @@ class Window {
   [[nodiscard]] bool Create(const Creation& creation);
   void Destroy();
 
-  // Handles one message; what it does not know goes to the next base and at last to the system. It
+  // Handles one message; what it does not know goes to the next base and at last to the system,
+  // except for WM_CLOSE: a window goes when the program decides so. It
   // may throw: the message is then logged and counts as handled with 0.
   virtual LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam);
 

@@ -10,6 +10,7 @@
 #include "frame/services.h"
 #include "win/colour_picker.h"
 #include "win/dialog.h"
+#include "win/message_box.h"
 
 namespace varnel {
 
@@ -46,8 +47,9 @@ class ThemeDialog : public Dialog {  // frmTHEME
   void SelectPreset(int place);
   void OnNameBox(int code);
   void NewPreset();
-  // False when the user says no. What is asked about stays taken up meanwhile.
-  bool Confirmed(const std::wstring& question, const std::wstring& title);
+  // Asks about `subject` of the folder that is shown; false when the user says no. What is asked
+  // about stays taken up meanwhile.
+  bool Confirmed(const Message& question, const std::wstring& subject);
   void DeletePreset();
   void DeleteAllPresets();
   void OnSlider(HWND slider);

@@ -7,9 +7,22 @@
 #include "frame/product.h"
 #include "resources/control_ids.h"
 #include "theme/preset_generator.h"
-#include "win/shell.h"
 
 namespace varnel {
+namespace {
+
+constexpr Message kNoName{L"You Have not Entered a File Name",
+                          L"Please make sure you type it in correctly."};
+constexpr Message kBadName{kApplicationTitle, L"A preset cannot have that name."};
+constexpr Message kNotSaved{kApplicationTitle, L"The preset could not be saved."};
+constexpr Message kReplace{kApplicationTitle, L"Replace the preset \"%1\" of the style \"%2\"?",
+                           MessageKind::kQuestion};
+constexpr Message kDelete{L"Delete a preset", L"Delete the preset \"%1\" of the style \"%2\"?",
+                          MessageKind::kQuestion};
+constexpr Message kDeleteAll{L"Delete all presets", L"Delete all %1 presets of the style \"%2\"?",
+                             MessageKind::kQuestion};
+
+}  // namespace
 
 void ThemeDialog::SelectFolder() {
   const LRESULT place = ::SendMessageW(Control(lstFOLDERS), LB_GETCURSEL, 0, 0);
@@ -45,31 +58,26 @@ void ThemeDialog::OnNameBox(int code) {
   if (code == EN_KILLFOCUS) ::SendMessageW(handle(), DM_SETDEFID, btnAPPLY, 0);
 }
 
-bool ThemeDialog::Confirmed(const std::wstring& question, const std::wstring& title) {
+bool ThemeDialog::Confirmed(const Message& question, const std::wstring& subject) {
   asking_ = true;
-  const bool yes = AskYesNo(handle(), question, title);
+  const bool yes = Ask(handle(), question, {subject, editor_.folder()});
   asking_ = false;
   return yes && handle();
 }
 
 void ThemeDialog::NewPreset() {
   const std::wstring name = ControlText(txtPRESETNEW);
-  const std::wstring title(kApplicationTitle);
-  if (const auto present = editor_.PresetNamed(name)) {
-    const std::wstring question =
-        L"Replace the preset \"" + *present + L"\" of the style \"" + editor_.folder() + L"\"?";
-    if (!Confirmed(question, title)) return;
-  }
+  const auto present = editor_.PresetNamed(name);
+  if (present && !Confirmed(kReplace, *present)) return;
   switch (editor_.NewPreset(name)) {
     case PresetSaved::kNoName:
-      ShowInformation(handle(), L"Please make sure you type it in correctly.",
-                      L"You Have not Entered a File Name");
+      Ask(handle(), kNoName);
       break;
     case PresetSaved::kBadName:
-      ShowInformation(handle(), L"A preset cannot have that name.", title);
+      Ask(handle(), kBadName);
       break;
     case PresetSaved::kFailed:
-      ShowInformation(handle(), L"The preset could not be saved.", title);
+      Ask(handle(), kNotSaved);
       break;
     case PresetSaved::kSaved:
       FillPresets();
@@ -83,19 +91,14 @@ void ThemeDialog::NewPreset() {
 
 void ThemeDialog::DeletePreset() {
   const auto name = editor_.PresetNamed(ControlText(txtPRESETNEW));
-  if (!name) return;
-  const std::wstring question =
-      L"Delete the preset \"" + *name + L"\" of the style \"" + editor_.folder() + L"\"?";
-  if (!Confirmed(question, L"Delete a preset")) return;
+  if (!name || !Confirmed(kDelete, *name)) return;
   editor_.RemovePreset(*name);
   FillPresets();
   EnableButtons();
 }
 
 void ThemeDialog::DeleteAllPresets() {
-  const std::wstring question = L"Delete all " + NumberText(std::ssize(presets_.presets())) +
-                                L" presets of the style \"" + editor_.folder() + L"\"?";
-  if (!Confirmed(question, L"Delete all presets")) return;
+  if (!Confirmed(kDeleteAll, NumberText(std::ssize(presets_.presets())))) return;
   editor_.RemoveAllPresets();
   FillPresets();
   EnableButtons();

@@ -78,6 +78,26 @@ TEST(SharedMenu, ShowsTheStateAndGreysWhatCannotBeDone) {
   EXPECT_TRUE(Find(menu, L"mnuDCSETTINGS")->enabled);
 }
 
+TEST(SharedMenu, OfTheTrayIconNamesTheWidgetAndHasADefault) {
+  SharedMenuState state;
+  const auto captions = [&] {
+    std::wstring all;
+    for (const MenuItem& item : BuildSharedMenu(state)) {
+      if (item.is_default) all += L"* ";
+      if (item.caption.find_first_of(L"zKT") != std::wstring::npos) all += item.caption + L"; ";
+    }
+    return all;
+  };
+  state.has_widget = state.sizable = true;
+  state.widget_title = L"Clock";
+  EXPECT_EQ(captions(), L"Hide to T&ray; Si&ze; &Keep on top; &Theme...; ");
+  state.of_tray = true;
+  EXPECT_EQ(captions(),
+            L"* Hide to T&ray; Si&ze of Clock; &Keep Clock on top; &Theme of Clock...; ");
+  state.has_widget = state.sizable = false;
+  EXPECT_EQ(captions(), L"* Hide to T&ray; Si&ze; &Keep on top; &Theme...; ");
+}
+
 TEST(CommandIds, ArrayElementsAreFoundAgain) {
   for (int i = 0; i < 8; ++i) {
     EXPECT_EQ(ArrayCommandIndex(L"mnuDCWIDGETS", 8, ArrayCommandId(L"mnuDCWIDGETS", i)), i);

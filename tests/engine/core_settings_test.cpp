@@ -80,28 +80,28 @@ TEST_F(Store, RunAtLogonFallsBackToTheUsersOwnList) {
   EXPECT_EQ(command, L"C:\\Tools\\WidgetVarnel.exe");
   EXPECT_EQ(RunAtLogonCommand(L"C:\\", L"WidgetVarnel"), L"C:\\WidgetVarnel.exe");
 
-  RegisterRunAtLogon(store_, command);  // on unless the user said otherwise
+  WriteRunAtLogon(store_, command);  // on unless the user said otherwise
   EXPECT_EQ(RunEntry(Hive::kLocalMachine), command);
   EXPECT_EQ(RunEntry(Hive::kCurrentUser), L"(none)");
 
   registry_.refused = {Hive::kLocalMachine};
-  RegisterRunAtLogon(store_, command);
+  WriteRunAtLogon(store_, command);
   EXPECT_EQ(RunEntry(Hive::kCurrentUser), command);
 
   store_.Write(kProgramLaunch, L"True");  // a check box is "1" and nothing else
-  RegisterRunAtLogon(store_, command);
+  WriteRunAtLogon(store_, command);
   EXPECT_EQ(RunEntry(Hive::kCurrentUser), L"");
 
   store_.Write(kProgramLaunch, L"1");
-  RegisterRunAtLogon(store_, command);
+  WriteRunAtLogon(store_, command);
   registry_.refused.clear();
   store_.Write(kProgramLaunch, L"0");
-  RegisterRunAtLogon(store_, command);
+  WriteRunAtLogon(store_, command);
   EXPECT_EQ(RunEntry(Hive::kLocalMachine), L"");
   EXPECT_EQ(RunEntry(Hive::kCurrentUser), L"");  // an older entry would still start the program
 
   registry_.refused = {Hive::kLocalMachine, Hive::kCurrentUser};
-  RegisterRunAtLogon(store_, command);
+  WriteRunAtLogon(store_, command);
   EXPECT_EQ(store_.Read(kProgramLaunch), L"0");
 }
 

@@ -65,6 +65,10 @@ class FakeWindows : public WidgetWindows {
     order.push_back(index);
     return true;
   }
+  bool MayClose(int index) override {
+    EXPECT_TRUE(loaded.contains(index));
+    return !busy.contains(index);
+  }
   void Unload(int index) override {
     EXPECT_TRUE(loaded.contains(index));
     if (states != nullptr) states->WidgetClose(index);  // a form may report its own end
@@ -82,6 +86,7 @@ class FakeWindows : public WidgetWindows {
   void Mark(int index, bool open) override { marks.at(index) = open; }
 
   std::set<int> broken;
+  std::set<int> busy;  // they are to stay
   std::set<int> loaded;
   std::set<int> shown;
   std::vector<int> order;
@@ -154,6 +159,27 @@ TEST(WidgetStates, RandomUseAgreesWithAPlainSet) {
       }
     }
   }
+}
+
+TEST(WidgetStates, WhatIsToStayStaysWithItsFlag) {
+  test::MemorySettings settings;
+  FakeWindows windows;
+  WidgetStates states(settings, windows);
+  for (const int index : {1, 4, 5}) states.WidgetOpen(index);
+  windows.busy = {4};
+  states.WidgetCheck(4);
+  states.WidgetClose(4);
+  states.CloseFromOutside(4);
+  states.CloseAll();
+  EXPECT_EQ(windows.loaded, (std::set<int>{1, 4, 5})) << "one that is to stay keeps all open";
+  states.CloseFromOutside(1);
+  states.CloseFromOutside(kWidgetCount);
+  EXPECT_EQ(windows.loaded, (std::set<int>{4, 5}));
+  EXPECT_EQ(FlaggedWidgets(settings), (std::set<int>{1, 4, 5})) << "only the user closes for good";
+  windows.busy.clear();
+  states.CloseAll();
+  EXPECT_TRUE(windows.loaded.empty());
+  EXPECT_EQ(FlaggedWidgets(settings), std::set<int>{1});
 }
 
 TEST(WidgetStates, OnlyTheHideModesHide) {

@@ -5,24 +5,6 @@
 namespace varnel::rig {
 namespace {
 
-// Every top-level window of the process, topmost first.
-std::vector<HWND> TopLevelWindows(DWORD process_id) {
-  struct Search {
-    DWORD process_id;
-    std::vector<HWND> found;
-  } search{process_id, {}};
-  ::EnumWindows(
-      [](HWND window, LPARAM data) -> BOOL {
-        auto& search = *reinterpret_cast<Search*>(data);
-        DWORD owner = 0;
-        ::GetWindowThreadProcessId(window, &owner);
-        if (owner == search.process_id) search.found.push_back(window);
-        return TRUE;
-      },
-      reinterpret_cast<LPARAM>(&search));
-  return search.found;
-}
-
 HWND ShownForm(const Program& program, std::wstring_view name) {
   const std::vector<HWND> forms = FindForms(program, name);
   const auto shown = std::find_if(forms.begin(), forms.end(), IsShown);
@@ -37,8 +19,25 @@ bool IsGroupBox(HWND window) {
 
 }  // namespace
 
+std::vector<HWND> TopLevelWindows(const Program& program) {
+  struct Search {
+    DWORD process_id;
+    std::vector<HWND> found;
+  } search{program.id(), {}};
+  ::EnumWindows(
+      [](HWND window, LPARAM data) -> BOOL {
+        auto& search = *reinterpret_cast<Search*>(data);
+        DWORD owner = 0;
+        ::GetWindowThreadProcessId(window, &owner);
+        if (owner == search.process_id) search.found.push_back(window);
+        return TRUE;
+      },
+      reinterpret_cast<LPARAM>(&search));
+  return search.found;
+}
+
 std::vector<HWND> FindForms(const Program& program, std::wstring_view name) {
-  std::vector<HWND> forms = TopLevelWindows(program.id());
+  std::vector<HWND> forms = TopLevelWindows(program);
   std::erase_if(forms, [name](HWND window) { return ClassOf(window) != name; });
   return forms;
 }
@@ -131,7 +130,7 @@ LRESULT Send(HWND window, UINT message, WPARAM wparam, LPARAM lparam) {
 }
 
 bool EndSession(const Program& program) {
-  const std::vector<HWND> windows = TopLevelWindows(program.id());
+  const std::vector<HWND> windows = TopLevelWindows(program);
   const bool agreed = std::all_of(windows.begin(), windows.end(), [](HWND window) {
     return Send(window, WM_QUERYENDSESSION, 0, static_cast<LPARAM>(ENDSESSION_LOGOFF)) != 0;
   });

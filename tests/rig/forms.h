@@ -21,6 +21,9 @@ std::vector<HWND> FindForms(const Program& program, std::wstring_view name);
 // The first of them, or null.
 HWND FindForm(const Program& program, std::wstring_view name);
 
+// The program's top-level windows of every class, shown or not, topmost first.
+std::vector<HWND> TopLevelWindows(const Program& program);
+
 // Waits until a form of that name is shown by a program that has started up, and gives it; null
 // when none comes.
 HWND WaitForForm(const Program& program, std::wstring_view name, int deadline = kPatience);

@@ -202,6 +202,9 @@ TEST_F(Time, StopwatchStartLapsePauseResumeReset) {
   // Closed while running, it is gone for good.
   ASSERT_TRUE(ClickOn(left));
   ASSERT_TRUE(ClickOn(Control(form, lablTBARTOP + 2)));
+  HWND question = WaitForDialog(program());
+  ASSERT_TRUE(question);
+  PressButton(question, IDYES);
   EXPECT_TRUE(WaitForNoForm(program(), L"frmSTWwg"));
   EXPECT_TRUE(program().running());
 }

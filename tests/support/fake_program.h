@@ -18,6 +18,8 @@ class FakeProgram : public Program {
   void RegisterRunAtLogon() override { calls.push_back(L"RegisterRunAtLogon"); }
   void CheckForUpdate(int) override { calls.push_back(L"CheckForUpdate"); }
   void WidgetCheck(int) override { calls.push_back(L"WidgetCheck"); }
+  void CloseFromOutside(int) override { calls.push_back(L"CloseFromOutside"); }
+  void SightChanged(int) override {}
   void OpenDialog(std::wstring_view form) override {
     calls.push_back(L"open " + std::wstring(form));
   }
@@ -25,6 +27,7 @@ class FakeProgram : public Program {
   void SetCurrentWidget(std::wstring_view form) override { current = form; }
   LiveForm& CurrentForm() override { return *forms->Find(current); }
   std::vector<MenuItem> SharedMenu() const override { return {}; }
+  std::vector<MenuItem> TrayMenu() const override { return {}; }
   void RunCommand(int) override {}
 
   std::vector<std::wstring> calls;

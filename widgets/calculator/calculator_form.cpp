@@ -8,7 +8,7 @@
 #include "resources/control_ids.h"
 #include "widgets/calculator/pasted_number.h"
 #include "win/clipboard.h"
-#include "win/shell.h"
+#include "win/message_box.h"
 
 namespace varnel {
 namespace {
@@ -27,6 +27,8 @@ int ShiftState() {
   const auto held = [](int key, int bit) { return ::GetKeyState(key) < 0 ? bit : 0; };
   return held(VK_SHIFT, kShiftHeld) | held(VK_CONTROL, kCtrlHeld) | held(VK_MENU, kAltHeld);
 }
+constexpr Message kClearQuestion{L"Clear log", L"Delete every sum of the log?",
+                                 MessageKind::kQuestion};
 
 }  // namespace
 
@@ -216,7 +218,7 @@ void CalculatorForm::DeleteSelected() {
 }
 
 void CalculatorForm::ClearHistory() {
-  if (!AskYesNo(handle(), L"Delete every sum of the log?", L"Clear log") || !handle()) return;
+  if (!Ask(handle(), kClearQuestion) || !handle()) return;
   log_.Clear();
   ShowLog(0);
 }

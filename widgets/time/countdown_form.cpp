@@ -4,7 +4,7 @@
 #include "theme/contrast.h"
 #include "win/edit_box.h"
 #include "win/font_measure.h"
-#include "win/shell.h"
+#include "win/message_box.h"
 #include "win/sound.h"
 #include "win/window_text.h"
 
@@ -137,7 +137,7 @@ void CountdownForm::OnTick() {
 
 void CountdownForm::AnnounceEnd() {
   services().sound.PlayResource(kBellName);
-  ShowInformation(handle(), std::wstring(kCountdownEndText), std::wstring(kCountdownEndTitle));
+  Ask(handle(), {kCountdownEndTitle, kCountdownEndText});
   engine_.AcknowledgeEnd();
   if (handle()) ShowState();
 }
@@ -187,6 +187,10 @@ LRESULT CountdownForm::ColourField(HDC dc) const {
   ::SetBkColor(dc, ground);
   ::SetDCBrushColor(dc, ground);
   return reinterpret_cast<LRESULT>(::GetStockObject(DC_BRUSH));
+}
+
+std::wstring CountdownForm::Unfinished() const {
+  return engine_.counting() ? L"The countdown is running, and would not come to its end." : L"";
 }
 
 std::wstring CountdownForm::StatusText() const {

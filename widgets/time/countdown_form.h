@@ -21,6 +21,7 @@ class CountdownForm : public WidgetForm {  // frmCDNwg
   void LayOutPanel(const Rect& panel) override;
   void RefreshContent() override;
   void OnControl(int id, int code) override;
+  std::wstring Unfinished() const override;
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
   std::wstring StatusText() const override;
 

@@ -76,6 +76,10 @@ bool StopwatchForm::OnKey(const MSG& message) {
   return WidgetForm::OnKey(message);
 }
 
+std::wstring StopwatchForm::Unfinished() const {
+  return engine_.running() ? L"The stopwatch is running, and its time would be lost." : L"";
+}
+
 std::wstring StopwatchForm::StatusText() const {
   return engine_.running() ? L"Running \x2013 Ctrl+C copies the time" : L"Ctrl+C copies the time";
 }

@@ -17,6 +17,7 @@ class StopwatchForm : public WidgetForm {  // frmSTWwg
   void LayOutPanel(const Rect& panel) override;
   void RefreshContent() override;
   void OnControl(int id, int code) override;
+  std::wstring Unfinished() const override;
   bool OnKey(const MSG& message) override;
   std::wstring StatusText() const override;
 

@@ -9,7 +9,7 @@
 #include "widgets/weather/weather_glyphs.h"
 #include "widgets/weather/weather_service_win.h"
 #include "win/font_measure.h"
-#include "win/shell.h"
+#include "win/web_page.h"
 #include "win/window_text.h"
 
 namespace varnel {

@@ -7,7 +7,7 @@
 #include "widgets/weather/feed_text.h"
 #include "widgets/weather/weather_settings.h"
 #include "win/code_page.h"
-#include "win/shell.h"
+#include "win/hourglass.h"
 
 namespace varnel {
 namespace {
