@@ -17,6 +17,7 @@ notice() { cp "/usr/share/doc/$1/copyright" "package/$name/licences/$2"; }
 notice gcc-mingw-w64-base gcc.txt
 notice mingw-w64-x86-64-dev mingw-w64.txt
 notice nlohmann-json3-dev nlohmann-json.txt
+notice wamerican-large word-lists.txt
 # Every file gets the moment of the last change, in a fixed zone, because the archive records it.
 export TZ=UTC
 moment=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct)}
