@@ -43,5 +43,7 @@ varnel_assets(build_bell.py MAKES bell.wav)
 varnel_assets(build_places.py
               MAKES countries.txt states.txt international.txt ustates.txt places-coords.txt
               FROM /usr/lib/x86_64-linux-gnu/libgeonames.so.0 READS tools/assets/place_names.tsv)
+varnel_assets(build_words.py MAKES words.bin
+              FROM /usr/share/dict/american-english-large /usr/share/dict/british-english-large)
 
 add_custom_target(assets DEPENDS ${VARNEL_ASSETS})
