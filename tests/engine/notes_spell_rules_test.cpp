@@ -335,13 +335,13 @@ TEST(PackedWords, GiveEachListAndRefuseWhatIsNoList) {
   EXPECT_EQ(UnpackWordList(packed, WordListKind::kAmerican), "colo\r\ncolor\r\ncolt\r\n");
   EXPECT_EQ(UnpackWordList(packed, WordListKind::kBritish), "colo\r\ncolour\r\ncolt\r\n");
   EXPECT_EQ(UnpackWordList("", WordListKind::kBritish), "");
-  for (const std::string bad : {"\xC0",
-                                "\xC1"
-                                "a\n",
-                                "\xC0"
-                                "a\n\xC2"
-                                "b\n",
-                                "\xC0no end"}) {
+  for (const std::string_view bad : {"\xC0",
+                                     "\xC1"
+                                     "a\n",
+                                     "\xC0"
+                                     "a\n\xC2"
+                                     "b\n",
+                                     "\xC0no end"}) {
     EXPECT_EQ(UnpackWordList(bad, WordListKind::kBritish), std::nullopt);
   }
 }
