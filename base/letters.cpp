@@ -81,11 +81,22 @@ char32_t FoldCase(char32_t point) {
 }
 
 std::wstring FoldCase(std::wstring_view text) {
-  std::wstring folded;
-  folded.reserve(text.size());
+  std::wstring folded(text);
   for (std::size_t at = 0; at < text.size();) {
+    if (static_cast<char32_t>(text[at]) < 0x80) {
+      if (IsAsciiCapital(static_cast<char32_t>(text[at]))) folded[at] += L'a' - L'A';
+      ++at;
+      continue;
+    }
     const Character one = CharacterAt(text, at);
-    AppendCharacter(folded, FoldCase(one.point));
+    const char32_t point = FoldCase(one.point);
+    if (one.units == 1) {
+      folded[at] = static_cast<wchar_t>(point);
+    } else if (point != one.point) {
+      std::wstring pair;
+      AppendCharacter(pair, point);
+      folded.replace(at, one.units, pair);
+    }
     at += one.units;
   }
   return folded;

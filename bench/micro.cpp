@@ -3,6 +3,7 @@
 #include "bench/micro.h"
 
 #include <cstdio>
+#include <iterator>
 #include <span>
 
 namespace varnel::bench {
@@ -10,6 +11,7 @@ namespace {
 
 void Run(std::span<char*> words) {
   std::vector<Probe> probes = EngineProbes();
+  std::ranges::move(NotesProbes(), std::back_inserter(probes));
 #ifdef _WIN32
   std::ranges::move(PlatformProbes(), std::back_inserter(probes));
 #endif

@@ -55,6 +55,7 @@ struct Probe {
 };
 
 std::vector<Probe> EngineProbes();
+std::vector<Probe> NotesProbes();
 // Those that need the platform; none in a native build.
 std::vector<Probe> PlatformProbes();
 

@@ -20,7 +20,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::wstring word = list.Word(i);
     Require(!word.empty() && word.size() <= kLongestListWord && list.Holds(word));
     bool in_bucket = false;
-    for (const std::uint32_t index : list.Bucket(PhoneticKey(word))) in_bucket |= index == i;
+    for (const auto& [key, index] : list.Bucket(PhoneticKey(word))) in_bucket |= index == i;
     Require(in_bucket);
     IsKnown(word, strict, list);
     if (i < 3) Require(SuggestionsFor(word, list).words.size() <= list.count());

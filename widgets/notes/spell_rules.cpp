@@ -1,6 +1,7 @@
 #include "widgets/notes/spell_rules.h"
 
 #include <algorithm>
+#include <array>
 
 #include "base/letters.h"
 #include "base/text.h"
@@ -15,8 +16,25 @@ bool IsCommaOrStop(wchar_t unit) {
   return unit == L',' || unit == L'.';
 }
 
-bool IsSpecial(wchar_t unit) {
-  return (unit >= 33 && unit <= 64 && unit != L'\'' && !IsCommaOrStop(unit)) || unit > 122;
+// What decides about a word beside its letters, as bits of what its characters are.
+enum : unsigned { kCount = 1, kSpecial = 2, kCommaOrStop = 4 };
+
+constexpr auto kSigns = [] {
+  std::array<unsigned char, 123> signs = {};
+  for (std::size_t code = 33; code <= 64; ++code) signs[code] = kSpecial;
+  for (std::size_t code = '1'; code <= '9'; ++code) signs[code] |= kCount;
+  signs['\''] = 0;
+  signs[','] = signs['.'] = kCommaOrStop;
+  return signs;
+}();
+
+unsigned SignsOf(std::wstring_view word) {
+  unsigned signs = 0;
+  for (const wchar_t unit : word) {
+    signs |= static_cast<std::size_t>(unit) < kSigns.size() ? kSigns[static_cast<std::size_t>(unit)]
+                                                            : unsigned{kSpecial};
+  }
+  return signs;
 }
 
 std::wstring WithoutCommasAndStops(std::wstring_view word) {
@@ -26,9 +44,9 @@ std::wstring WithoutCommasAndStops(std::wstring_view word) {
 }
 
 std::wstring_view Trimmed(std::wstring_view word) {
-  const std::size_t first = word.find_first_not_of(L' ');
-  if (first == std::wstring_view::npos) return {};
-  return word.substr(first, word.find_last_not_of(L' ') - first + 1);
+  while (!word.empty() && word.front() == L' ') word.remove_prefix(1);
+  while (!word.empty() && word.back() == L' ') word.remove_suffix(1);
+  return word;
 }
 
 // All letters are capitals, and there are at least two.
@@ -48,11 +66,11 @@ bool IsAllCapitals(std::wstring_view word) {
 bool IsKnown(std::wstring_view word, const SpellOptions& options, const WordList& list) {
   word = Trimmed(word);
   if (word.empty()) return false;
-  const auto is_count = [](wchar_t unit) { return unit >= L'1' && unit <= L'9'; };
-  if (options.numbers && std::ranges::any_of(word, is_count)) return true;
+  const unsigned signs = SignsOf(word);
+  if (options.numbers && (signs & kCount) != 0) return true;
   if (options.capitals && word.front() >= L'A' && word.front() <= L'Z') return true;
-  if (options.characters && std::ranges::any_of(word, IsSpecial)) return true;
-  if (std::ranges::none_of(word, IsCommaOrStop)) return list.Holds(word);
+  if (options.characters && (signs & kSpecial) != 0) return true;
+  if ((signs & kCommaOrStop) == 0) return list.Holds(word);
   return list.Holds(WithoutCommasAndStops(word));
 }
 
@@ -61,7 +79,7 @@ std::vector<std::uint32_t> AlikeWords(std::wstring_view word, const WordList& li
   const std::wstring wanted = FoldCase(word.substr(0, 2));
   std::vector<std::uint32_t> alike;
   if (word.empty() || list.count() == 0) return alike;
-  for (const std::uint32_t index : list.Bucket(PhoneticKey(WithoutCommasAndStops(word)))) {
+  for (const auto& [key, index] : list.Bucket(PhoneticKey(WithoutCommasAndStops(word)))) {
     if (FoldCase(list.Word(index).substr(0, 2)) == wanted) alike.push_back(index);
   }
   return alike;

@@ -8,23 +8,27 @@
 namespace varnel {
 namespace {
 
+bool IsAsciiLetter(wchar_t unit) {
+  return (unit >= L'a' && unit <= L'z') || (unit >= L'A' && unit <= L'Z');
+}
+
 bool IsLetterOrDigit(char32_t point) {
   const CharacterKind kind = KindOf(point);
   return kind == CharacterKind::kLetter || kind == CharacterKind::kDigit;
 }
 
 bool IsSkippedAbbreviation(std::wstring_view word) {
-  return EqualsIgnoreCase(word, L"e.g") || EqualsIgnoreCase(word, L"i.e");
+  return word.size() == 3 && (EqualsIgnoreCase(word, L"e.g") || EqualsIgnoreCase(word, L"i.e"));
 }
 
 // What remains of a run without gaps; empty when it has neither letter nor digit.
 TextRange CoreOf(std::wstring_view text, TextRange run) {
-  while (run.begin < run.end) {
+  while (run.begin < run.end && !IsAsciiLetter(text[run.begin])) {
     const Character first = CharacterAt(text.substr(0, run.end), run.begin);
     if (IsLetterOrDigit(first.point)) break;
     run.begin += first.units;
   }
-  while (run.begin < run.end) {
+  while (run.begin < run.end && !IsAsciiLetter(text[run.end - 1])) {
     const Character last = CharacterBefore(text, run.end);
     if (KindOf(last.point) != CharacterKind::kOther) break;
     run.end -= last.units;

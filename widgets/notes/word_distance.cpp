@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <bit>
-#include <cstdlib>
 #include <string>
 
 #include "base/letters.h"
@@ -14,20 +12,15 @@ namespace {
 
 constexpr std::size_t kLongest = kLongestListWord + kMostChanges;
 
-// Which letters a text has: a bit for each code, modulo 32. Apostrophes do not count.
-template <typename Text>
-std::uint32_t LettersOf(const Text& folded) {
-  std::uint32_t letters = 0;
-  for (const auto unit : folded) {
-    if (unit != '\'') letters |= 1U << (static_cast<std::uint32_t>(unit) & 31U);
-  }
-  return letters;
+bool HasTwoBitsAtMost(std::uint32_t bits) {
+  bits &= bits - 1;
+  return (bits & (bits - 1)) == 0;
 }
 
 // Each change brings in at most one letter and loses at most one.
 bool MayBeNear(std::uint32_t left, std::uint32_t right) {
-  return std::popcount(left & ~right) <= kMostChanges &&
-         std::popcount(right & ~left) <= kMostChanges;
+  static_assert(kMostChanges == 2);
+  return HasTwoBitsAtMost(left & ~right) && HasTwoBitsAtMost(right & ~left);
 }
 
 struct Nearness {
@@ -35,18 +28,6 @@ struct Nearness {
   std::uint32_t index = 0;
   auto operator<=>(const Nearness&) const = default;
 };
-
-// A word of the list, folded, in a buffer that is used again.
-void FoldInto(std::wstring& buffer, std::string_view word) {
-  buffer.clear();
-  for (const char one : word) {
-    if (static_cast<unsigned char>(one) >= 0x80) {
-      buffer = FoldCase(WideFromUtf8(word));
-      break;
-    }
-    buffer.push_back(static_cast<wchar_t>(FoldCase(static_cast<char32_t>(one))));
-  }
-}
 
 }  // namespace
 
@@ -94,15 +75,17 @@ std::vector<std::uint32_t> NearestWords(std::wstring_view folded, const WordList
   std::vector<Nearness> near;
   std::wstring word;
   for (std::size_t i = 0; i < list.count(); ++i) {
+    const std::uint32_t own = list.Letters(i);
+    if (!MayBeNear(letters, own)) continue;
     const std::string_view bytes = list.Bytes(i);
     // A unit takes one to three bytes.
-    if (bytes.size() + kMostChanges < folded.size() ||
-        bytes.size() > 3 * (folded.size() + kMostChanges)) {
-      continue;
+    const std::size_t most_bytes = (list.IsPlain(i) ? 1 : 3) * (folded.size() + kMostChanges);
+    if (bytes.size() + kMostChanges < folded.size() || bytes.size() > most_bytes) continue;
+    if (list.IsPlain(i)) {
+      word.assign(bytes.begin(), bytes.end());
+    } else {
+      word = FoldCase(WideFromUtf8(bytes));
     }
-    FoldInto(word, bytes);
-    const std::uint32_t own = LettersOf(word);
-    if (!MayBeNear(letters, own)) continue;
     const int distance = WordDistance(folded, word);
     if (distance > kMostChanges) continue;
     std::uint32_t rank = !possessive && word.ends_with(L"'s") ? 1 : 0;

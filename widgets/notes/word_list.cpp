@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 
 #include "base/letters.h"
 #include "base/text.h"
@@ -22,6 +23,13 @@ bool LooksLikeUtf8(std::string_view bytes) {
   std::size_t good = 0;
   std::size_t bad = 0;
   for (std::size_t at = 0; at < bytes.size();) {
+    // Eight bytes of ASCII at a time.
+    std::uint64_t eight = 0x8080808080808080U;
+    if (at + sizeof(eight) <= bytes.size()) std::memcpy(&eight, &bytes[at], sizeof(eight));
+    if ((eight & 0x8080808080808080U) == 0) {
+      at += sizeof(eight);
+      continue;
+    }
     const auto byte = static_cast<unsigned char>(bytes[at++]);
     if (byte < 0x80) continue;
     const std::size_t more = byte >= 0xF0 ? 3 : byte >= 0xE0 ? 2 : byte >= 0xC2 ? 1 : 0;
@@ -35,7 +43,7 @@ bool LooksLikeUtf8(std::string_view bytes) {
   return good >= bad;
 }
 
-char FoldedAscii(char one) {
+constexpr char FoldedAscii(char one) {
   return one >= 'A' && one <= 'Z' ? static_cast<char>(one + ('a' - 'A')) : one;
 }
 
@@ -59,16 +67,6 @@ std::uint32_t HashOf(std::string_view folded) {
   return hash.value();
 }
 
-// The hash of a word's folded form.
-std::uint32_t FoldedHash(std::string_view word) {
-  Hash hash;
-  for (const char one : word) {
-    if (static_cast<unsigned char>(one) >= 0x80) return HashOf(Folded(word));
-    hash.Take(FoldedAscii(one));
-  }
-  return hash.value();
-}
-
 bool EqualsFolded(std::string_view word, std::string_view folded) {
   if (IsAscii(word)) {
     return std::ranges::equal(word, folded, {}, FoldedAscii);
@@ -76,15 +74,43 @@ bool EqualsFolded(std::string_view word, std::string_view folded) {
   return Folded(word) == folded;
 }
 
-// Whether bytes of UTF-8 can be a word of a list: no control characters, nothing undecodable.
-bool IsWord(std::string_view line) {
-  if (line.empty() || line.size() > kLongestListWord * kMostUtf8Bytes) return false;
-  if (std::ranges::any_of(line, [](unsigned char byte) { return byte < 0x20 || byte == 0x7F; })) {
-    return false;
-  }
-  if (IsAscii(line)) return line.size() <= kLongestListWord;
+// What one pass over a line of UTF-8 tells.
+struct LineFacts {
+  bool is_word = false;  // neither too long nor with control characters or undecodable bytes
+  bool plain = true;
+  std::uint32_t hash = 0;  // of the folded form
+  std::uint32_t letters = 0;
+};
+
+LineFacts FactsOfWide(std::string_view line) {
   const std::wstring word = WideFromUtf8(line);
-  return word.size() <= kLongestListWord && word.find(L'\xFFFD') == std::wstring::npos;
+  LineFacts facts;
+  facts.is_word = word.size() <= kLongestListWord && word.find(L'\xFFFD') == std::wstring::npos;
+  facts.plain = false;
+  const std::wstring folded = FoldCase(word);
+  facts.hash = HashOf(Utf8FromWide(folded));
+  facts.letters = LettersOf(folded);
+  return facts;
+}
+
+LineFacts FactsOf(std::string_view line) {
+  LineFacts facts;
+  Hash hash;
+  unsigned char beyond_ascii = 0;
+  bool control = false;
+  for (const char one : line) {
+    const char small = FoldedAscii(one);
+    hash.Take(small);
+    beyond_ascii |= static_cast<unsigned char>(one) & 0x80;
+    control |= static_cast<unsigned char>(one) < 0x20 || one == 0x7F;
+    facts.plain &= small == one;
+    facts.letters |= LetterBit(static_cast<unsigned char>(small));
+  }
+  if (line.empty() || control || line.size() > kLongestListWord * kMostUtf8Bytes) return facts;
+  if (beyond_ascii != 0) return FactsOfWide(line);
+  facts.is_word = line.size() <= kLongestListWord;
+  facts.hash = hash.value();
+  return facts;
 }
 
 // Whether a word is its own upper-case form in the first character.
@@ -122,6 +148,12 @@ std::uint32_t KeyOf(std::basic_string_view<Unit> word) {
 
 }  // namespace
 
+std::uint32_t LettersOf(std::wstring_view folded) {
+  std::uint32_t letters = 0;
+  for (const wchar_t unit : folded) letters |= LetterBit(static_cast<char32_t>(unit));
+  return letters;
+}
+
 std::wstring PhoneticCode(std::wstring_view word) {
   std::wstring code;
   for (const unsigned char digit : CodeDigits(word)) {
@@ -142,32 +174,41 @@ WordList::WordList(std::string_view bytes) {
   }
   bytes = bytes.substr(0, kLargestWordList);
   bytes_ = encoding_ == WordEncoding::kUtf8 ? std::string(bytes) : Utf8FromWindows1252(bytes);
-  entries_.reserve(bytes_.size() / 10);  // about what an English word takes
+  entries_.reserve(bytes_.size() / 8);  // a little more than English words take
+  std::vector<std::uint32_t> hashes;
+  hashes.reserve(entries_.capacity());
   for (std::size_t at = 0; at < bytes_.size();) {
     std::size_t end = at;
     while (end < bytes_.size() && bytes_[end] != '\r' && bytes_[end] != '\n') ++end;
-    AddLine(at, end - at);
+    if (const auto hash = AddLine(at, end - at)) hashes.push_back(*hash);
     at = end + 1;
   }
-  MakeTable();
+  MakeTable(hashes);
 }
 
-void WordList::AddLine(std::size_t at, std::size_t length) {
+std::optional<std::uint32_t> WordList::AddLine(std::size_t at, std::size_t length) {
+  if (length == 0 || entries_.size() >= kMostListWords) return std::nullopt;
   const std::string_view line = std::string_view(bytes_).substr(at, length);
-  if (entries_.size() >= kMostListWords || !IsWord(line)) return;
-  entries_.push_back(
-      {static_cast<std::uint32_t>(at), static_cast<std::uint16_t>(length), BeginsExact(line)});
+  const LineFacts facts = FactsOf(line);
+  if (!facts.is_word) return std::nullopt;
+  entries_.push_back({static_cast<std::uint32_t>(at), facts.letters,
+                      static_cast<std::uint16_t>(length), BeginsExact(line), facts.plain});
+  return facts.hash;
 }
 
-void WordList::MakeTable() {
+// Makes the table anew, for all entries. Slots are fetched ahead, because each is somewhere else.
+void WordList::MakeTable(std::span<const std::uint32_t> hashes) {
   std::size_t size = 16;
-  while (size * 3 / 4 <= entries_.size()) size *= 2;
+  while (size * 3 / 4 <= hashes.size()) size *= 2;
   table_.assign(size, {});
-  for (std::size_t i = 0; i < entries_.size(); ++i) Insert(static_cast<std::uint32_t>(i));
+  constexpr std::size_t kAhead = 16;
+  for (std::size_t i = 0; i < hashes.size(); ++i) {
+    if (i + kAhead < hashes.size()) __builtin_prefetch(&table_[hashes[i + kAhead] & (size - 1)], 1);
+    Insert(static_cast<std::uint32_t>(i), hashes[i]);
+  }
 }
 
-void WordList::Insert(std::uint32_t index) {
-  const std::uint32_t hash = FoldedHash(Bytes(index));
+void WordList::Insert(std::uint32_t index, std::uint32_t hash) {
   const std::size_t mask = table_.size() - 1;
   std::size_t slot = hash & mask;
   while (table_[slot].entry != 0) slot = (slot + 1) & mask;
@@ -183,7 +224,8 @@ std::wstring WordList::Word(std::size_t index) const {
 }
 
 bool WordList::Matches(std::uint32_t index, std::string_view word, std::string_view folded) const {
-  return IsExact(index) ? Bytes(index) == word : EqualsFolded(Bytes(index), folded);
+  if (IsExact(index)) return Bytes(index) == word;
+  return IsPlain(index) ? Bytes(index) == folded : EqualsFolded(Bytes(index), folded);
 }
 
 bool WordList::Holds(std::wstring_view word) const {
@@ -219,38 +261,33 @@ bool WordList::Holds(std::wstring_view word) const {
   return false;
 }
 
-std::span<const std::uint32_t> WordList::Bucket(std::uint32_t key) const {
-  if (starts_.empty()) {
-    std::vector<std::uint32_t> keys(entries_.size());
-    starts_.assign(kPhoneticCodes + 1, 0);
-    for (std::size_t i = 0; i < entries_.size(); ++i) {
+std::span<const WordList::Coded> WordList::Bucket(std::uint32_t key) const {
+  if (sorted_.empty()) {
+    sorted_.reserve(entries_.size());
+    for (std::uint32_t i = 0; i < entries_.size(); ++i) {
       const std::string_view word = Bytes(i);
-      keys[i] = IsAscii(word) ? KeyOf(word) : PhoneticKey(WideFromUtf8(word));
-      ++starts_[keys[i] + 1];
+      sorted_.push_back({IsAscii(word) ? KeyOf(word) : PhoneticKey(WideFromUtf8(word)), i});
     }
-    for (std::size_t code = 0; code < kPhoneticCodes; ++code) starts_[code + 1] += starts_[code];
-    sorted_.resize(entries_.size());
-    std::vector<std::uint32_t> next(starts_.begin(), starts_.end() - 1);
-    for (std::size_t i = 0; i < entries_.size(); ++i) {
-      sorted_[next[keys[i]]++] = static_cast<std::uint32_t>(i);
-    }
+    std::ranges::sort(sorted_);
   }
-  return std::span(sorted_).subspan(starts_[key], starts_[key + 1] - starts_[key]);
+  return {std::ranges::lower_bound(sorted_, key, {}, &Coded::key),
+          std::ranges::upper_bound(sorted_, key, {}, &Coded::key)};
 }
 
 bool WordList::Add(std::wstring_view word) {
   const std::string bytes = Utf8FromWide(word);
-  if (!IsWord(bytes)) return false;
-  const std::size_t before = entries_.size();
+  if (bytes.find_first_of("\r\n") != std::string::npos) return false;
   bytes_ += bytes;
-  AddLine(bytes_.size() - bytes.size(), bytes.size());
-  if (entries_.size() == before) return false;
-  starts_.clear();
-  if (table_.size() * 3 / 4 <= entries_.size()) {
-    MakeTable();
-  } else {
-    Insert(static_cast<std::uint32_t>(before));
+  sorted_.clear();
+  const auto hash = AddLine(bytes_.size() - bytes.size(), bytes.size());
+  if (!hash) return false;
+  if (table_.size() * 3 / 4 > entries_.size()) {
+    Insert(static_cast<std::uint32_t>(entries_.size() - 1), *hash);
+    return true;
   }
+  std::vector<std::uint32_t> hashes;
+  for (std::size_t i = 0; i < entries_.size(); ++i) hashes.push_back(FactsOf(Bytes(i)).hash);
+  MakeTable(hashes);
   return true;
 }
 
