@@ -142,7 +142,7 @@ TEST(SpellRuns, EndUnderAnyEdits) {
 }
 
 struct SpellChecks : ::testing::Test {
-  test::MemoryFiles files;
+  test::MemoryFiles files{kFolder};
   test::MemorySettings settings;
   int unpacked = 0;
 
@@ -187,11 +187,14 @@ TEST_F(SpellChecks, SayThatThereIsNoDictionary) {
   EXPECT_EQ(checker.SpellChecker(L"text", 0).kind, SpellStep::Kind::kNoDictionary);
   for (const std::string& bad :
        {std::string(), std::string("\0\1\2", 3), std::string("\r\n\r\n")}) {
-    files.files[kUs] = bad;
+    files.Plant(kUs, bad);
     EXPECT_EQ(checker.SpellChecker(L"text", 0).kind, SpellStep::Kind::kNoDictionary);
     EXPECT_EQ(checker.WordAdd(L"text"), WordAddResult::kUnsaved);
   }
-  files.files[kUs] = "text\n";
+  files.Plant(kUs, "text\n");
+  files.locked.insert(kUs);
+  EXPECT_EQ(checker.SpellChecker(L"text", 0).kind, SpellStep::Kind::kNoDictionary);
+  files.locked.clear();
   EXPECT_EQ(checker.SpellChecker(L"text", 0).kind, SpellStep::Kind::kFinished);
 }
 
@@ -224,6 +227,15 @@ TEST_F(SpellChecks, KeepAddedWordsInTheDictionaryAndBesideIt) {
   EXPECT_EQ(files.files[kUs], Utf8FromWide(L"the\r\nnaïf's\r\nłoś\r\n"));
   EXPECT_EQ(next.own_words(), (Words{L"naïf's", L"łoś"}));
   EXPECT_EQ(Unknown(next, L"the ab"), (Words{L"ab"}));
+  // A backup that another program holds is completed later, and loses nothing.
+  files.locked.insert(kBackup);
+  clsNOTsp third = Make();
+  EXPECT_EQ(third.WordAdd(L"held"), WordAddResult::kUnsaved);
+  files.locked.clear();
+  EXPECT_TRUE(third.DatabaseSave());
+  EXPECT_EQ(third.own_words(), (Words{L"naïf's", L"łoś", L"held"}));
+  EXPECT_TRUE(third.OwnWordRemove(L"held"));
+
   files.fail_writes = true;
   EXPECT_FALSE(next.OwnWordRemove(L"łoś"));
   EXPECT_EQ(next.WordAdd(L"later"), WordAddResult::kUnsaved);

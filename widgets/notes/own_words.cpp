@@ -1,6 +1,7 @@
 #include "widgets/notes/own_words.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/letters.h"
 #include "base/text.h"
@@ -10,6 +11,10 @@ namespace varnel {
 namespace {
 
 constexpr std::size_t kLargestPairs = 4 * 1024 * 1024;  // bytes
+
+bool IsMissing(FileResult result) {
+  return result == FileResult::kMissing || result == FileResult::kNoFolder;
+}
 
 bool FitsLine(std::wstring_view text) {
   return !text.empty() && text.size() <= kLongestListWord &&
@@ -21,13 +26,25 @@ bool FitsLine(std::wstring_view text) {
 void OwnWords::Load() {
   words_.clear();
   unsaved_ = false;
-  const auto bytes = files_.Read(path_, kLargestWordList);
-  if (!bytes) return;
-  const WordList list(*bytes);
+  unread_ = true;
+  Read();
+}
+
+// Words that were added before the file could be read come behind its own.
+bool OwnWords::Read() {
+  const FileRead file = files_.Read(path_, kLargestWordList);
+  if (!file && !IsMissing(file.result)) return false;
+  unread_ = false;
+  std::vector<std::wstring> added = std::exchange(words_, {});
+  const WordList list(file.bytes);
   for (std::size_t i = 0; i < list.count(); ++i) {
     std::wstring word = list.Word(i);
     if (!Holds(word)) words_.push_back(std::move(word));
   }
+  for (std::wstring& word : added) {
+    if (!Holds(word)) words_.push_back(std::move(word));
+  }
+  return true;
 }
 
 bool OwnWords::Holds(std::wstring_view word) const {
@@ -55,6 +72,7 @@ bool OwnWords::Remove(std::wstring_view word) {
 
 bool OwnWords::Save() {
   if (!unsaved_) return true;
+  if (unread_ && !Read()) return false;
   std::string bytes;
   for (const std::wstring& word : words_) bytes += Utf8FromWide(word) + "\r\n";
   unsaved_ = !files_.Replace(path_, bytes);
@@ -64,9 +82,17 @@ bool OwnWords::Save() {
 void Corrections::Load() {
   pairs_.clear();
   unsaved_ = false;
-  const auto bytes = files_.Read(path_, kLargestPairs);
-  if (!bytes) return;
-  const std::wstring text = WideFromUtf8(*bytes);
+  unread_ = true;
+  Read();
+}
+
+bool Corrections::Read() {
+  const FileRead file = files_.Read(path_, kLargestPairs);
+  if (!file && !IsMissing(file.result)) return false;
+  unread_ = false;
+  const bool unsaved = unsaved_;
+  const std::vector<Pair> added = std::exchange(pairs_, {});
+  const std::wstring text = WideFromUtf8(file.bytes);
   for (std::size_t at = 0; at < text.size();) {
     const std::size_t end = std::min(text.find_first_of(L"\r\n", at), text.size());
     const std::wstring line = text.substr(at, end - at);
@@ -74,7 +100,9 @@ void Corrections::Load() {
     if (tab != std::wstring::npos) Put(line.substr(0, tab), line.substr(tab + 1));
     at = end + 1;
   }
-  unsaved_ = false;
+  for (const Pair& pair : added) Put(pair.wrong, pair.right);
+  unsaved_ = unsaved;
+  return true;
 }
 
 void Corrections::Put(std::wstring wrong, std::wstring right) {
@@ -98,6 +126,7 @@ bool Corrections::Add(std::wstring_view word, std::wstring_view replacement) {
 
 bool Corrections::Save() {
   if (!unsaved_) return true;
+  if (unread_ && !Read()) return false;
   std::string bytes;
   for (const Pair& pair : pairs_) {
     bytes += Utf8FromWide(pair.wrong) + '\t' + Utf8FromWide(pair.right) + "\r\n";

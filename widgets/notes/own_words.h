@@ -19,7 +19,9 @@ class OwnWords {
  public:
   OwnWords(FileStore& files, std::wstring path) : files_(files), path_(std::move(path)) {}
 
-  void Load();  // a missing or unreadable file: no words
+  // A missing file: no words. One that cannot be read now is read before it is next written, so
+  // that its words stay.
+  void Load();
   const std::vector<std::wstring>& words() const { return words_; }
   bool Holds(std::wstring_view word) const;
   // False when the file could not be written; the word is there all the same.
@@ -31,7 +33,10 @@ class OwnWords {
  private:
   FileStore& files_;
   std::wstring path_;
+  bool Read();
+
   std::vector<std::wstring> words_;
+  bool unread_ = true;
   bool unsaved_ = false;
 };
 
@@ -41,7 +46,7 @@ class Corrections {
  public:
   Corrections(FileStore& files, std::wstring path) : files_(files), path_(std::move(path)) {}
 
-  void Load();
+  void Load();  // as OwnWords does
   // What `word`, in any case, was last corrected to; empty when it never was.
   std::wstring Of(std::wstring_view word) const;
   // Keeps a pair; one of which a part is empty or longer than a list's words, or whose parts are
@@ -58,7 +63,10 @@ class Corrections {
 
   FileStore& files_;
   std::wstring path_;
+  bool Read();
+
   std::vector<Pair> pairs_;
+  bool unread_ = true;
   bool unsaved_ = false;
 };
 inline constexpr std::size_t kMostCorrections = 1000;

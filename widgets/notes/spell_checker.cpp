@@ -53,7 +53,8 @@ bool clsNOTsp::CheckFile() {
                                    std::pair(kBritishDictionary, WordListKind::kBritish)}) {
     const std::wstring path = folder_ + std::wstring(name);
     if (files_.FileExists(path)) continue;
-    if (const auto list = UnpackWordList(packed_words_(), kind)) files_.Replace(path, *list);
+    if (const auto list = UnpackWordList(packed_words_(), kind))
+      files_.Replace(path, *list, kNoFile);
   }
   return files_.FileExists(folder_ + DictionaryName());
 }
@@ -69,9 +70,9 @@ bool clsNOTsp::DatabaseLoadCheck() {
     own_loaded_ = true;
   }
   if (!CheckFile()) return false;
-  const auto bytes = files_.Read(folder_ + name, kLargestWordList);
-  if (!bytes) return false;
-  WordList list(*bytes);
+  const FileRead file = files_.Read(folder_ + name, kLargestWordList);
+  if (!file) return false;
+  WordList list(file.bytes);
   if (list.count() == 0) return false;
   list_ = std::move(list);
   loaded_ = name;
@@ -86,17 +87,18 @@ bool clsNOTsp::DatabaseSave() {
   return corrections_.Save() && own;
 }
 
-// The file is read for its size and its last line: somebody else may have changed it meanwhile.
+// The file is read for its last line: somebody else may have changed it meanwhile.
 bool clsNOTsp::AppendRecord(std::wstring_view word) {
   const std::wstring path = folder_ + loaded_;
   const std::string record = EncodeWord(word, list_.encoding());
-  const auto bytes = files_.Read(path, kLargestWordList);
-  if (record.empty() || !bytes) return false;
-  const bool open_line = !bytes->empty() && bytes->back() != '\n' && bytes->back() != '\r';
+  const FileRead file = files_.Read(path, kLargestWordList);
+  if (record.empty() || !file) return false;
+  const bool open_line =
+      !file.bytes.empty() && !file.bytes.ends_with('\n') && !file.bytes.ends_with('\r');
   std::string added(open_line ? kLineEnd : "");
   added += record;
   added += kLineEnd;
-  return files_.Append(path, bytes->size(), added);
+  return static_cast<bool>(files_.Append(path, file.stamp, added));
 }
 
 WordAddResult clsNOTsp::WordAdd(std::wstring_view word) {
@@ -122,13 +124,13 @@ bool clsNOTsp::OwnWordRemove(std::wstring_view word) {
 
 void clsNOTsp::RemoveRecord(const std::wstring& path, std::wstring_view word,
                             const std::vector<std::wstring>& own) {
-  const auto bytes = files_.Read(path, kLargestWordList);
-  if (!bytes) return;
-  const WordEncoding encoding = WordList(*bytes).encoding();
+  const FileRead file = files_.Read(path, kLargestWordList);
+  if (!file) return;
+  const WordEncoding encoding = WordList(file.bytes).encoding();
   std::vector<std::string> records;
   for (const std::wstring& one : own) records.push_back(EncodeWord(one, encoding));
-  const auto left = WithoutRecord(*bytes, EncodeWord(word, encoding), records);
-  if (left) files_.Replace(path, *left);
+  const auto left = WithoutRecord(file.bytes, EncodeWord(word, encoding), records);
+  if (left) files_.Replace(path, *left, file.stamp);
 }
 
 bool clsNOTsp::IsRight(std::wstring_view word) const {
