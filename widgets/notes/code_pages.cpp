@@ -5,6 +5,7 @@
 
 #include "base/text.h"
 #include "widgets/notes/code_page_tables.h"
+#include "widgets/notes/utf16_units.h"
 
 namespace varnel {
 namespace {
@@ -40,21 +41,6 @@ wchar_t SingleByte(int page, unsigned char byte) {
   return static_cast<wchar_t>(point != 0 ? point : byte);
 }
 
-// The two units of a pair in every build.
-std::wstring InUnits(std::wstring_view text) {
-  std::wstring units;
-  for (const wchar_t unit : text) {
-    const auto point = static_cast<char32_t>(unit);
-    if (point >= 0x10000) {
-      units.push_back(static_cast<wchar_t>(0xD800 + ((point - 0x10000) >> 10)));
-      units.push_back(static_cast<wchar_t>(0xDC00 + ((point - 0x10000) & 0x3FF)));
-    } else {
-      units.push_back(unit);
-    }
-  }
-  return units;
-}
-
 }  // namespace
 
 int CharacterLength(int page, unsigned char first) {
@@ -67,13 +53,13 @@ int CharacterLength(int page, unsigned char first) {
 std::wstring DecodeCharacter(int page, std::string_view bytes, const DoubleByteReader* pairs) {
   if (page == kUtf8CodePage) {
     const std::wstring text = WideFromUtf8(bytes);
-    return text.find(kNoCharacter) == std::wstring::npos ? InUnits(text)
+    return text.find(kNoCharacter) == std::wstring::npos ? Utf16Units(text)
                                                          : std::wstring(1, kNoCharacter);
   }
   const auto first = static_cast<unsigned char>(bytes.front());
   if (!IsDoubleByte(page) || first < 0x80) return std::wstring(1, SingleByte(page, first));
   const std::wstring text = pairs == nullptr ? std::wstring() : pairs->Character(page, bytes);
-  return text.empty() ? std::wstring(1, kNoCharacter) : InUnits(text);
+  return text.empty() ? std::wstring(1, kNoCharacter) : Utf16Units(text);
 }
 
 int CodePageOfCharset(int charset, int system_page) {

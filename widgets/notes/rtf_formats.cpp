@@ -176,11 +176,16 @@ ParagraphFormat ResolvedFormat(const ParagraphState& state) {
   if (!state.line_multiple) {
     format.line_rule = spacing > 0 ? LineRule::kAtLeast : LineRule::kExactly;
     format.line_spacing = std::abs(spacing);
-  } else if (std::abs(spacing) == 2 * kTwipsPerLine) {
+    return format;
+  }
+  constexpr std::int32_t kLine = 20;  // twentieths
+  const std::int32_t twentieths =
+      std::max(1, (std::abs(spacing) * kLine + kTwipsPerLine / 2) / kTwipsPerLine);
+  if (twentieths == 2 * kLine) {
     format.line_rule = LineRule::kDouble;
-  } else if (std::abs(spacing) != kTwipsPerLine) {
+  } else if (twentieths != kLine) {
     format.line_rule = LineRule::kMultiple;
-    format.line_spacing = std::max(1, (std::abs(spacing) * 20 + kTwipsPerLine / 2) / kTwipsPerLine);
+    format.line_spacing = twentieths;
   }
   return format;
 }
