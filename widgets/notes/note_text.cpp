@@ -121,6 +121,7 @@ std::wstring NoteText::Text(std::size_t begin, std::size_t end) const {
 }
 
 TextCounts NoteText::Count(std::size_t begin, std::size_t end) const {
+  end = std::min(end, size_);
   Summary all;
   std::size_t start = 0;
   for (const Block& block : blocks_) {
