@@ -89,8 +89,11 @@ void Application::Main() {
       PrepareFolder(settings_, files_, folder, services_.program_folder);
     }
   });
-  Guarded(L"theme folders",
-          [this] { EnsureThemeFolders(files_, services_.program_folder, colours_); });
+  Guarded(L"theme folders", [this] {
+    if (!EnsureThemeFolders(files_, services_.program_folder, colours_)) {
+      ui_.log.Write(L"theme presets are missing; the next start writes them");
+    }
+  });
   Guarded(L"manager", [this] {
     // The manager opens the widgets that were open last time.
     if (manager_.WidgetForm::Load()) manager_.StartUp();

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/logged_files.h"
 #include "core/command_line.h"
 #include "core/dialog_shelf_win.h"
 #include "core/manager_form.h"
@@ -73,7 +74,8 @@ class Application : public Program {
   Ui ui_;
   SystemRegistry registry_;
   SettingsStore settings_;
-  DiskFiles files_;
+  DiskFiles disk_;
+  LoggedFiles files_{disk_, [this](std::wstring_view line) { ui_.log.Write(line); }};
   SystemClock clock_;
   SystemTimeFormatter formatter_;
   UserSystemColours colours_;

@@ -119,26 +119,36 @@ std::wstring StyleFolderPath(std::wstring_view program_folder, std::wstring_view
   return ThemesFolder(program_folder).append(L"\\").append(style);
 }
 
-void GeneratePresets(FileStore& files, const std::wstring& folder, std::wstring_view style_name,
-                     const SystemColours& system) {
+bool GeneratePresets(FileStore& files, const std::wstring& folder, std::wstring_view style_name,
+                     const SystemColours& system, SamePresets same) {
   const auto style = std::find_if(kStyles.begin(), kStyles.end(), [&](const Style& each) {
     return EqualsIgnoreCase(each.name, style_name);
   });
-  if (style == kStyles.end()) return;
+  if (style == kStyles.end()) return true;
+  bool all = true;
   for (const BaseColour& base : kBaseColours) {
-    WritePreset(files, PresetPath(folder, base.name), GeneratedTheme(*style, base, system),
-                base.name);
+    const std::wstring path = PresetPath(folder, base.name);
+    if (same == SamePresets::kLeave && files.FileExists(path)) continue;
+    all = WritePreset(files, path, GeneratedTheme(*style, base, system), base.name) && all;
   }
+  return all;
 }
 
-void EnsureThemeFolders(FileStore& files, std::wstring_view program_folder,
+bool EnsureThemeFolders(FileStore& files, std::wstring_view program_folder,
                         const SystemColours& system) {
   files.CreateFolder(ThemesFolder(program_folder));
+  bool all = true;
   for (const std::wstring_view style : kStyleFolders) {
     const std::wstring folder = StyleFolderPath(program_folder, style);
-    if (files.FolderExists(folder) || !files.CreateFolder(folder)) continue;
-    GeneratePresets(files, folder, style, system);
+    const std::wstring unfinished = folder + L".unfinished";
+    if (files.FolderExists(folder) && !files.FileExists(unfinished)) continue;
+    // The mark comes before the folder, and goes when all is in it.
+    const bool whole = files.Replace(unfinished, "") && files.CreateFolder(folder) &&
+                       GeneratePresets(files, folder, style, system, SamePresets::kLeave) &&
+                       files.Remove(unfinished) == FileResult::kDone;
+    all = whole && all;
   }
+  return all;
 }
 
 }  // namespace varnel

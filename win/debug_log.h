@@ -13,7 +13,9 @@ class DebugLog {
   void SetFile(std::wstring path) { path_ = std::move(path); }
 
   // Appends one line with date and time. The file is started anew beyond 512 KB, the old one kept
-  // beside it with ".old" added to its name. Never throws, never fails visibly.
+  // beside it with ".old" added to its name. Where the file cannot be written, because something
+  // else holds it or has its name, the line goes to one with ".2" added to its name, which begins
+  // by saying why. Never throws, never fails visibly.
   void Write(std::wstring_view line) const noexcept;
 
  private:

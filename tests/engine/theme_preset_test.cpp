@@ -4,6 +4,7 @@
 
 #include "base/text.h"
 #include "tests/support/cases.h"
+#include "tests/support/failing_files.h"
 #include "tests/support/fixed_system_colours.h"
 #include "tests/support/memory_files.h"
 #include "theme/preset.h"
@@ -85,6 +86,26 @@ TEST(Presets, BrightOnesHaveTheBaseColours) {
     ThemeRecord theme;
     LoadPreset(files, StyleFolderPath(L"C:\\", L"Bright"), name, theme);
     EXPECT_EQ(theme.lngTHEMECOLOR, main) << name;
+  }
+}
+
+// Whichever operation fails, once or for ever: the next start completes what is missing, and only
+// that.
+TEST(Presets, AStartThatWasCutShortIsCompletedByTheNext) {
+  const std::wstring soft = StyleFolderPath(L"C:\\Varnel", L"Soft");
+  for (const bool for_ever : {false, true}) {
+    for (int operation = 0; operation < 170; operation += operation < 40 ? 1 : 23) {
+      test::MemoryFiles disk;
+      test::FailingFiles files(disk);
+      files.FailAfter(operation, FileResult::kFull, for_ever);
+      EXPECT_FALSE(EnsureThemeFolders(files, L"C:\\Varnel", kSystem)) << operation;
+      files.Heal();
+      const bool soft_is_whole =
+          disk.FileNames(soft, L".dcp").size() == 14 && !disk.FileExists(soft + L".unfinished");
+      if (soft_is_whole) disk.Remove(PresetPath(soft, L"Blue"));
+      EXPECT_TRUE(EnsureThemeFolders(files, L"C:\\Varnel", kSystem)) << operation;
+      EXPECT_EQ(disk.files.size(), soft_is_whole ? 139u : 140u) << operation;
+    }
   }
 }
 

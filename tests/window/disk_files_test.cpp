@@ -4,11 +4,14 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
 #include "tests/support/file_store_contract.h"
+#include "win/debug_log.h"
 #include "win/handles.h"
+#include "win/system_recycle_bin.h"
 
 namespace varnel::test {
 namespace {
@@ -65,6 +68,43 @@ TEST(DiskFiles, ReadersWhoLetNobodyWriteLeaveTheOldContent) {
   EXPECT_EQ(rig.files().Remove(path, Removal::kForced), FileResult::kLocked);
   EXPECT_EQ(rig.files().Read(path, 10).bytes, "old");
   EXPECT_EQ(rig.files().Files(rig.folder()).files.size(), 1u);
+}
+
+TEST(DebugLog, AnotherFileIsWrittenWhereItsOwnCannotBe) {
+  DiskRig rig;
+  const std::wstring path = rig.folder() + L"\\debug.log";
+  DebugLog log;
+  log.SetFile(path);
+  log.Write(L"first");
+  EXPECT_EQ(rig.files().Files(rig.folder()).files.size(), 1u);
+  rig.Lock(path);
+  log.Write(L"second");
+  log.Write(L"third");
+  rig.Unlock();
+  const std::string other = rig.files().Read(path + L".2", 1000).bytes;
+  EXPECT_NE(other.find("debug.log cannot be written, error 32"), std::string::npos) << other;
+  EXPECT_LT(other.find("second"), other.find("third"));
+  EXPECT_EQ(std::ranges::count(other, '\n'), 3);
+  rig.files().Remove(path);
+  rig.files().CreateFolder(path);
+  log.Write(L"fourth");
+  EXPECT_NE(rig.files().Read(path + L".2", 1000).bytes.find("fourth"), std::string::npos);
+}
+
+TEST(SystemRecycleBin, TakesReadOnlyFilesAndLeavesLockedOnes) {
+  DiskRig rig;
+  SystemRecycleBin bin;
+  const std::wstring path = rig.folder() + L"\\note.rtf";
+  rig.files().Replace(path, "x");
+  rig.Lock(path);
+  EXPECT_EQ(bin.Recycle(path), FileResult::kLocked);
+  rig.Unlock();
+  EXPECT_TRUE(rig.files().FileExists(path));
+  rig.MarkReadOnly(path);
+  EXPECT_EQ(bin.Recycle(path), FileResult::kDone);
+  EXPECT_FALSE(rig.files().FileExists(path));
+  EXPECT_EQ(bin.Recycle(path), FileResult::kDone);
+  EXPECT_EQ(bin.Recycle(rig.folder()), FileResult::kDenied);
 }
 
 // Another drive: a file system of its own in memory, where this machine has one.
