@@ -311,6 +311,22 @@ TEST_F(Calculator, NumberOfAnyLengthStaysInItsBox) {
   EXPECT_SOON(PictureOf(number) == start) << "the first digits again";
 }
 
+TEST_F(Calculator, LogHeldByAnotherProgramIsReadWhenItIsFree) {
+  ASSERT_TRUE(WriteBytes(LogPath(), "\"1 + 1 = 2.0\"\r\n"));
+  HANDLE held =
+      ::CreateFileW(LogPath().c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+  ASSERT_NE(held, INVALID_HANDLE_VALUE);
+  Start();
+  Press({lblNUMBER + 2, lblADD, lblNUMBER + 3, lblEQUALS});
+  EXPECT_SOON_EQ(List(LVM_GETITEMCOUNT), 1);
+  ::CloseHandle(held);
+  EXPECT_SOON_EQ(List(LVM_GETITEMCOUNT), 2);
+  EXPECT_SOON_EQ(Log(), "\"1 + 1 = 2.0\"\r\n\"2 + 3 = 5.0\"\r\n");
+  EXPECT_FALSE(FileExists(LogPath() + L".old") || FileExists(LogPath() + L".unsaved"));
+  const std::string faults = FileBytes(root().folder() + L"\\debug.log").value_or("");
+  EXPECT_NE(faults.find("calc2.dat: it is in use by another program"), std::string::npos) << faults;
+}
+
 TEST_F(Calculator, KilledWhileSavingItHasTheFormerLogOrTheNewOne) {
   constexpr int kRounds = 60;
   constexpr int kChanges = 40;
