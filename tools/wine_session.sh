@@ -8,7 +8,8 @@
 #
 # The prefix in DIR is made once. Its registry is put back to how it was then at every start, so no
 # session sees what an earlier one left. Sounds that are played go to the files DIR/sound.wav,
-# DIR/sound.wav.0001 and so on (VARNEL_SOUND_FILE), one for each time something plays.
+# DIR/sound.wav.0001 and so on (VARNEL_SOUND_FILE), one for each time something plays. Where it may
+# be made there is an empty disk of 256 KB, VARNEL_SMALL_DISK.
 set -euo pipefail
 
 screen=1280x800
@@ -28,6 +29,7 @@ pristine=$dir/pristine
 processes=$dir/session.processes
 environment=$dir/session.env
 log=$dir/session.log
+small_disk=$dir/small
 
 # --- processes, known by their number and the moment they started: a number alone may be used again
 
@@ -162,6 +164,7 @@ start_session() {
   : >"$log"
   start_display
   write_environment
+  start_small_disk
   # shellcheck source=/dev/null
   . "$environment"
   if [ "$(cat "$pristine/recipe" 2>/dev/null)" != "$(prefix_recipe)" ]; then make_prefix; fi
@@ -174,8 +177,21 @@ start_session() {
   wait_for 60 desktop_is_shown || fail "the desktop did not come up, see $log"
 }
 
+# A disk that is soon full, where this may be made: only root may.
+start_small_disk() {
+  mkdir -p "$small_disk"
+  mountpoint -q "$small_disk" || mount -t tmpfs -o size=256k varnel "$small_disk" 2>/dev/null ||
+    return 0
+  echo "export VARNEL_SMALL_DISK='Z:$small_disk'" >>"$environment"
+}
+
+stop_small_disk() {
+  if mountpoint -q "$small_disk" 2>/dev/null; then umount "$small_disk"; fi
+}
+
 stop_session() {
   end_programs
+  stop_small_disk
   if [ -f "$processes" ] && lives display; then
     kill "$(sed -n 's/^display \([0-9]*\) .*/\1/p' "$processes")"
     wait_for 10 eval '! lives display' || true

@@ -4,6 +4,9 @@
 
 #include <algorithm>
 
+#include "base/text.h"
+#include "tests/rig/remote.h"
+
 namespace varnel::rig {
 namespace {
 
@@ -106,8 +109,64 @@ int SliderPosition(HWND slider) {
 }
 
 std::pair<int, int> SelectedUnits(HWND edit) {
-  const LRESULT both = Send(edit, EM_GETSEL);
-  return {LOWORD(both), HIWORD(both)};
+  if (!EqualsIgnoreCase(ClassOf(edit), MSFTEDIT_CLASS)) {
+    const LRESULT both = Send(edit, EM_GETSEL);
+    return {LOWORD(both), HIWORD(both)};
+  }
+  CHARRANGE range = {};
+  SendRecord(edit, EM_EXGETSEL, 0, range);
+  return {static_cast<int>(range.cpMin), static_cast<int>(range.cpMax)};
+}
+
+std::vector<std::wstring> RowLabels(HWND list_view) {
+  // The record points to the text, so both are in the other program's memory.
+  struct Request {
+    LVITEMW item;
+    wchar_t text[MAX_PATH];
+  };
+  std::vector<std::wstring> labels;
+  const auto count = static_cast<int>(Send(list_view, LVM_GETITEMCOUNT));
+  for (int row = 0; row < count; ++row) {
+    Request request = {};
+    const RemoteMemory memory(list_view, &request, sizeof request);
+    request.item.pszText =
+        reinterpret_cast<wchar_t*>(memory.address() + static_cast<LPARAM>(sizeof(LVITEMW)));
+    request.item.cchTextMax = MAX_PATH;
+    memory.Write(&request, sizeof request);
+    Send(list_view, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), memory.address());
+    memory.Read(&request, sizeof request);
+    labels.emplace_back(request.text);
+  }
+  return labels;
+}
+
+std::vector<int> SelectedRows(HWND list_view) {
+  std::vector<int> rows;
+  for (int row = -1;;) {
+    row =
+        static_cast<int>(Send(list_view, LVM_GETNEXTITEM, static_cast<WPARAM>(row), LVNI_SELECTED));
+    if (row < 0) return rows;
+    rows.push_back(row);
+  }
+}
+
+void SelectUnits(HWND rich_edit, int from, int to) {
+  CHARRANGE range = {from, to};
+  SendRecord(rich_edit, EM_EXSETSEL, 0, range);
+}
+
+CharacterFormat FormatOfSelection(HWND rich_edit) {
+  CHARFORMAT2W format = {};
+  format.cbSize = sizeof format;
+  SendRecord(rich_edit, EM_GETCHARFORMAT, SCF_SELECTION, format);
+  return FromSystem(format);
+}
+
+ParagraphFormat ParagraphOfSelection(HWND rich_edit) {
+  PARAFORMAT2 format = {};
+  format.cbSize = sizeof format;
+  SendRecord(rich_edit, EM_GETPARAFORMAT, 0, format);
+  return FromSystem(format);
 }
 
 }  // namespace varnel::rig

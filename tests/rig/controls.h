@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "tests/rig/forms.h"
+#include "win/rich_formats.h"
 
 namespace varnel::rig {
 
@@ -39,5 +40,15 @@ int SliderPosition(HWND slider);
 
 // What is selected in an edit or rich edit control, in UTF-16 units: start and end.
 std::pair<int, int> SelectedUnits(HWND edit);
+
+// The labels of a list view's rows.
+std::vector<std::wstring> RowLabels(HWND list_view);
+// The indexes of its selected rows.
+std::vector<int> SelectedRows(HWND list_view);
+
+// A rich edit control: selects text, and tells the formats of what is selected.
+void SelectUnits(HWND rich_edit, int from, int to);
+CharacterFormat FormatOfSelection(HWND rich_edit);
+ParagraphFormat ParagraphOfSelection(HWND rich_edit);
 
 }  // namespace varnel::rig

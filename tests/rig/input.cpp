@@ -125,12 +125,27 @@ void DoubleClick(Point at, MouseButton button) {
 }
 
 void Drag(Point from, Point to, int steps) {
-  MoveMouse(from);
-  PressMouse(from);
+  std::vector<Point> points = {from};
   for (int i = 1; i <= steps; ++i) {
-    MoveMouse({from.x + (to.x - from.x) * i / steps, from.y + (to.y - from.y) * i / steps});
+    points.push_back({from.x + (to.x - from.x) * i / steps, from.y + (to.y - from.y) * i / steps});
   }
-  ReleaseMouse(to);
+  Stroke(points);
+}
+
+void Stroke(std::span<const Point> points, MouseButton button) {
+  if (points.empty()) return;
+  MoveMouse(points.front());
+  PressMouse(points.front(), button);
+  for (const Point& point : points.subspan(1)) MoveMouse(point);
+  ReleaseMouse(points.back(), button);
+}
+
+HeldKeys::HeldKeys(std::initializer_list<WORD> keys) : keys_(keys) {
+  for (const WORD key : keys_) SendKey(key, 0);
+}
+
+HeldKeys::~HeldKeys() {
+  for (auto key = keys_.rbegin(); key != keys_.rend(); ++key) SendKey(*key, KEYEVENTF_KEYUP);
 }
 
 bool ClickOn(HWND window, MouseButton button) {
@@ -152,8 +167,7 @@ void PressKeys(std::initializer_list<WORD> keys) {
 }
 
 void Chord(std::initializer_list<WORD> keys) {
-  for (WORD key : keys) SendKey(key, 0);
-  for (auto key = std::rbegin(keys); key != std::rend(keys); ++key) SendKey(*key, KEYEVENTF_KEYUP);
+  const HeldKeys held(keys);
 }
 
 void Type(std::wstring_view text) {

@@ -1,12 +1,15 @@
 #include "tests/rig/picture.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <string_view>
 
 #include "tests/rig/files.h"
 #include "tests/rig/forms.h"
 #include "tests/rig/wait.h"
+#include "win/com.h"
 #include "win/handles.h"
+#include "win/pictures.h"
 
 namespace varnel::rig {
 namespace {
@@ -55,6 +58,31 @@ Picture::Picture(const Rect& part) {
   ::ReleaseDC(nullptr, screen);
 }
 
+Picture Picture::FromFile(const std::wstring& path) {
+  const ComApartment apartment;
+  const Image image = DecodePicture(FileBytes(path).value_or("")).image;
+  Picture picture;
+  picture.size_ = {image.width(), image.height()};
+  for (const std::uint32_t pixel : image.All()) picture.pixels_.push_back(pixel & 0xFFFFFF);
+  return picture;
+}
+
+COLORREF Picture::At(Point point) const {
+  const bool inside =
+      point.x >= 0 && point.y >= 0 && point.x < size_.width && point.y < size_.height;
+  return inside ? ColourOf(pixels_[static_cast<std::size_t>(point.y * size_.width + point.x)]) : 0;
+}
+
+int Picture::CountNear(const Rect& part, COLORREF colour, int tolerance) const {
+  int count = 0;
+  for (int y = std::max(part.top, 0); y < std::min(part.bottom, size_.height); ++y) {
+    for (int x = std::max(part.left, 0); x < std::min(part.right, size_.width); ++x) {
+      count += AreNear(At({x, y}), colour, tolerance);
+    }
+  }
+  return count;
+}
+
 std::map<COLORREF, int> Picture::Colours() const {
   std::map<COLORREF, int> counts;
   for (const std::uint32_t pixel : pixels_) ++counts[ColourOf(pixel)];
@@ -80,6 +108,14 @@ bool Picture::Save(const std::wstring& path) const {
   bytes += BytesOf(header);
   bytes.append(reinterpret_cast<const char*>(pixels_.data()), size);
   return WriteBytes(path, bytes);
+}
+
+bool AreNear(COLORREF one, COLORREF other, int tolerance) {
+  const auto near_in = [&](int shift) {
+    return std::abs(static_cast<int>(one >> shift & 0xFF) -
+                    static_cast<int>(other >> shift & 0xFF)) <= tolerance;
+  };
+  return near_in(0) && near_in(8) && near_in(16);
 }
 
 Picture PictureOfScreen() {

@@ -21,6 +21,14 @@ class Picture {
   explicit Picture(const Rect& part);
 
   Size size() const { return size_; }
+  // The picture of a file as the system reads it; empty when it cannot.
+  static Picture FromFile(const std::wstring& path);
+
+  // The colour at a point, counted from the picture's corner; black outside.
+  COLORREF At(Point point) const;
+  // How many pixels of a part are no further from the colour than `tolerance` in red, green and
+  // blue each.
+  int CountNear(const Rect& part, COLORREF colour, int tolerance = 0) const;
   // Every colour with the number of its pixels.
   std::map<COLORREF, int> Colours() const;
   // The colour of most pixels; black for an empty picture.
@@ -35,6 +43,9 @@ class Picture {
   Size size_;
   std::vector<std::uint32_t> pixels_;  // blue in the low byte, row by row from the top
 };
+
+// No further apart than `tolerance` in red, green and blue each.
+bool AreNear(COLORREF one, COLORREF other, int tolerance);
 
 Picture PictureOfScreen();
 Picture PictureOf(HWND window);

@@ -22,6 +22,8 @@ class RemoteMemory {
   explicit operator bool() const { return memory_ != nullptr; }
   // Where it is, as a message's parameter.
   LPARAM address() const { return reinterpret_cast<LPARAM>(memory_); }
+  // Puts other content there. False when it cannot.
+  bool Write(const void* content, std::size_t size) const;
   // Copies what stands there now. False when it cannot be read.
   bool Read(void* content, std::size_t size) const;
 
