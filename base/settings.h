@@ -1,6 +1,7 @@
 // Settings as every room sees them: texts in named sections, always readable.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -38,6 +39,17 @@ bool ReadCheck(const Settings& settings, const Setting& setting);
 // A boolean: "True"/"False" in any case or a number (zero is false); anything else reads as the
 // setting's fallback.
 bool ReadFlag(const Settings& settings, const Setting& setting);
+
+// The longest text that one value can hold, in UTF-16 units; a longer one reads as the default.
+inline constexpr std::size_t kLongestSetting = 254;
+
+// A text of up to 30,000 units, without outer blanks. What one value cannot hold goes on in the
+// values `name` + " part 2", " part 3" and so on, each between two "|" that keep its blanks; an
+// empty one ends the text. A longer text loses its end.
+void WriteLongText(Settings& settings, std::wstring_view section, std::wstring_view name,
+                   std::wstring_view value);
+std::wstring ReadLongText(const Settings& settings, std::wstring_view section,
+                          std::wstring_view name);
 
 void WriteCheck(Settings& settings, const Setting& setting, bool on);  // "1" or "0"
 void WriteFlag(Settings& settings, const Setting& setting, bool on);   // "True" or "False"

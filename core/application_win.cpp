@@ -136,7 +136,8 @@ void Application::HideToTray() {
 
 void Application::RegisterRunAtLogon() {
   const std::wstring path = ProgramPath();
-  WriteRunAtLogon(settings_, RunAtLogonCommand(FolderOf(path), BaseName(path)));
+  WriteRunAtLogon(settings_, RunValueName(command_line_),
+                  RunAtLogonCommand(FolderOf(path), BaseName(path), command_line_));
 }
 
 void Application::CloseFromOutside(int index) {

@@ -14,9 +14,6 @@ namespace varnel {
 inline constexpr std::wstring_view kCurrentUserText = L"-2147483647";
 inline constexpr std::wstring_view kLocalMachineText = L"-2147483646";
 
-// A stored text with more characters reads as the default.
-inline constexpr std::size_t kLongestSetting = 254;
-
 // The root key of a program's settings: "SOFTWARE\" + `title` + "\".
 std::wstring RegistryRoot(std::wstring_view title);
 

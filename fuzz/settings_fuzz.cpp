@@ -97,7 +97,7 @@ void CheckStart(SettingsStore& store) {
   const std::wstring page = ReadWebAddresses(store).update;
   Require(EqualsIgnoreCase(page.substr(0, 4), L"http"));
   UpdateAvailable(store.Read(kWebAddress), L"1.00");
-  WriteRunAtLogon(store, L"C:\\Program\\WidgetVarnel.exe");
+  WriteRunAtLogon(store, kApplicationTitle, L"C:\\Program\\WidgetVarnel.exe");
 }
 
 void CheckList(const Settings& settings) {

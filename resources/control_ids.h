@@ -59,6 +59,7 @@
 #define cboTIME 1310     // 0 to 5
 #define txtMESSAGE 1320  // 0 to 5
 #define cmdAlarmPreview 1330
+#define lblALARMHINT 1331  // what is wrong with a time
 #define cmdOKfrmCLKas 1
 #define cmdCancelfrmCLKas 2
 
@@ -67,6 +68,7 @@
 #define lablALARMC 1341
 #define lblTitle 1342
 #define imgBUTCLOSE 1343
+#define txtEARLIER 1344  // the alarms before, while they are unread
 
 // frmTHEME, the theme dialog
 #define tabMAIN 1400

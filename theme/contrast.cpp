@@ -50,6 +50,11 @@ std::optional<Colour> HaloColour(Colour text, Colour ground, Colour theme, doubl
   return end;
 }
 
+Colour OutlineColour(Colour wished, Colour ground) {
+  if (ContrastRatio(wished, ground) >= kReadableLargeContrast) return wished;
+  return ContrastRatio(kBlack, ground) > ContrastRatio(kWhite, ground) ? kBlack : kWhite;
+}
+
 std::optional<Halo> HaloOf(Colour text, Colour ground, Colour theme, bool large,
                            const SystemColours& system) {
   const auto colour = HaloColour(text, ground, theme, kReadableContrast, system);

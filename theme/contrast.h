@@ -26,6 +26,10 @@ inline constexpr double kReadableLargeContrast = 3;
 std::optional<Colour> HaloColour(Colour text, Colour ground, Colour theme, double needed,
                                  const SystemColours& system);
 
+// The colour for a thin line on `ground`: `wished` where that has a contrast of 3 at the least,
+// else black or white, whichever has more. Both must be translated.
+Colour OutlineColour(Colour wished, Colour ground);
+
 struct Halo {
   Colour colour = kBlack;
   bool edge = false;  // a slim line will do

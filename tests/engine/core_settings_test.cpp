@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <random>
 #include <string>
 #include <vector>
 
@@ -76,33 +77,60 @@ TEST_F(Store, TakesTheHiveAsDecimalText) {
 }
 
 TEST_F(Store, RunAtLogonFallsBackToTheUsersOwnList) {
-  const std::wstring command = RunAtLogonCommand(L"C:\\Tools", L"WidgetVarnel");
+  const std::wstring command = RunAtLogonCommand(L"C:\\Tools", L"WidgetVarnel", {});
   EXPECT_EQ(command, L"C:\\Tools\\WidgetVarnel.exe");
-  EXPECT_EQ(RunAtLogonCommand(L"C:\\", L"WidgetVarnel"), L"C:\\WidgetVarnel.exe");
+  EXPECT_EQ(RunAtLogonCommand(L"C:\\", L"WidgetVarnel", {}), L"C:\\WidgetVarnel.exe");
+  EXPECT_EQ(RunValueName({}), L"Widget Varnel");
+  EXPECT_EQ(RunValueName({.settings_title = L"widget varnel", .program_folder = L""}),
+            L"Widget Varnel");
+  const CommandLine own{.settings_title = L"Second one", .program_folder = L"D:\\My data\\"};
+  EXPECT_EQ(RunValueName(own), L"Widget Varnel (Second one)");
+  EXPECT_EQ(RunAtLogonCommand(L"C:\\To ols", L"Varnel", own),
+            L"\"C:\\To ols\\Varnel.exe\" /settings \"Second one\" /data \"D:\\My data\\\\\"");
 
-  WriteRunAtLogon(store_, command);  // on unless the user said otherwise
+  WriteRunAtLogon(store_, kApplicationTitle, command);  // on unless the user said otherwise
   EXPECT_EQ(RunEntry(Hive::kLocalMachine), command);
   EXPECT_EQ(RunEntry(Hive::kCurrentUser), L"(none)");
 
   registry_.refused = {Hive::kLocalMachine};
-  WriteRunAtLogon(store_, command);
+  WriteRunAtLogon(store_, kApplicationTitle, command);
   EXPECT_EQ(RunEntry(Hive::kCurrentUser), command);
 
   store_.Write(kProgramLaunch, L"True");  // a check box is "1" and nothing else
-  WriteRunAtLogon(store_, command);
+  WriteRunAtLogon(store_, kApplicationTitle, command);
   EXPECT_EQ(RunEntry(Hive::kCurrentUser), L"");
 
   store_.Write(kProgramLaunch, L"1");
-  WriteRunAtLogon(store_, command);
+  WriteRunAtLogon(store_, kApplicationTitle, command);
   registry_.refused.clear();
   store_.Write(kProgramLaunch, L"0");
-  WriteRunAtLogon(store_, command);
+  WriteRunAtLogon(store_, kApplicationTitle, command);
   EXPECT_EQ(RunEntry(Hive::kLocalMachine), L"");
   EXPECT_EQ(RunEntry(Hive::kCurrentUser), L"");  // an older entry would still start the program
 
   registry_.refused = {Hive::kLocalMachine, Hive::kCurrentUser};
-  WriteRunAtLogon(store_, command);
+  WriteRunAtLogon(store_, kApplicationTitle, command);
   EXPECT_EQ(store_.Read(kProgramLaunch), L"0");
+}
+
+TEST_F(Store, LongTextsGoOnInFurtherValues) {
+  const auto kept = [this](const std::wstring& text) {
+    WriteLongText(store_, L"s\\Details", L"v", text);
+    return ReadLongText(store_, L"s\\Details", L"v");
+  };
+  std::minstd_rand random(4);
+  for (int round = 0; round < 300; ++round) {
+    std::wstring text(1, L'a');
+    const std::size_t length = random() % 2000;
+    while (text.size() < length) text.push_back(L" |x\u00E9"[random() % (round % 4 + 1)]);
+    text.push_back(L'z');
+    ASSERT_EQ(kept(text), text) << round;
+  }
+  EXPECT_EQ(kept(std::wstring(254, L'b')), std::wstring(254, L'b'));
+  EXPECT_EQ(kept(L" short "), L"short");
+  EXPECT_EQ(kept(L""), L"");
+  EXPECT_EQ(kept(std::wstring(40'000, L'c')), std::wstring(30'000, L'c'));
+  EXPECT_EQ(Get(), std::wstring(254, L'c')) << "the first part stands under the name itself";
 }
 
 class FakeList : public ListControl {

@@ -79,7 +79,11 @@ TEST(Halo, AnEdgeWhereTheTextLiesBetweenGroundAndHalo) {
 TEST(Halo, EveryColourCanBeMadeReadable) {
   std::mt19937 random(11);
   const auto any = [&random] { return static_cast<Colour>(random() & 0xFFFFFF); };
-  for (int round = 0; round < 4000; ++round) ExpectReadable(any(), any(), any());
+  for (int round = 0; round < 4000; ++round) {
+    ExpectReadable(any(), any(), any());
+    const Colour ground = any();
+    ASSERT_GE(ContrastRatio(OutlineColour(any(), ground), ground), 3);
+  }
   for (int grey = 0; grey < 256; ++grey) {
     const Colour text = grey * 0x010101;
     ExpectReadable(text, text, text);

@@ -26,13 +26,28 @@ TEST(Alarms, TimeTextsInCommonSpellings) {
   for (const auto& [text, time] : cases) EXPECT_EQ(AlarmTimeText(text), time) << text;
 }
 
+TEST(Alarms, UnreadOnesAreKeptTheNewestFirst) {
+  UnreadAlarms unread;
+  const AlarmRing tea{L"tea", L"07:30:00"};
+  const AlarmRing call{L"call", L"07:31:00"};
+  for (const AlarmRing& ring : {tea, call, tea, AlarmRing{L"", L"08:00:00"}, call})
+    unread.Add(ring);
+  EXPECT_EQ(unread.newest(), (AlarmRing{L"", L"08:00:00"}));
+  EXPECT_EQ(unread.EarlierText(), L"07:31:00  call\r\n07:30:00  tea");
+  unread.Clear();
+  unread.Add(tea);
+  EXPECT_EQ(unread.EarlierText(), L"");
+}
+
 TEST(Alarms, OtherTextsStayAsTheyAre) {
   for (const wchar_t* text :
        {L"", L"7", L"24:00", L"12:60", L"12:00:60", L"13:00 am", L"007:30", L"7:300", L"7:30:",
         L":30", L"7::30", L"7:30:00:00", L"7:30.00", L"-7:30", L"7:30 xm", L"7:30 pm pm", L"noon",
         L"\uFF17:\uFF13\uFF10"}) {
     EXPECT_EQ(AlarmTimeText(text), text);
+    EXPECT_FALSE(IsAlarmTime(text)) << text;
   }
+  EXPECT_TRUE(IsAlarmTime(L" 7:30 pm "));
   EXPECT_EQ(AlarmTimeText(L"  "), L"");
   EXPECT_EQ(AlarmTimeText(L"7:30\t"), L"7:30\t");
   EXPECT_EQ(AlarmTimeText(std::wstring(5000, L'1')).size(), 5000u);

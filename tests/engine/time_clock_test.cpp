@@ -4,7 +4,9 @@
 
 #include "tests/support/cases.h"
 #include "tests/support/memory_settings.h"
+#include "tests/support/plain_measure.h"
 #include "widgets/time/clock_engine.h"
+#include "widgets/time/clock_layout.h"
 
 namespace varnel {
 namespace {
@@ -72,6 +74,35 @@ TEST(Clock, DateOfTheSystemOrByPattern) {
   EXPECT_EQ(ReadDisplay(settings, At(1, 2), kFormatter).date, L"{dddd, d mmmm}");
   settings.custom_date = L"?!";
   EXPECT_EQ(ReadDisplay(settings, At(1, 2), kFormatter).date, L"{?!}");
+}
+
+TEST(Clock, ADateTooLongBecomesShorterInItsOwnTerms) {
+  using Patterns = std::vector<std::wstring>;
+  const test::Cases<const wchar_t*, Patterns> cases = {
+      {L"dddd, d mmmm", {L"ddd, d mmm", L"d mmm"}},
+      {L"d mmmm yyyy", {L"d mmm yyyy", L"d mmm"}},
+      {L"yyyy/mm/dd, ddd", {L"yyyy/mm/dd", L"mm/dd"}},
+      {L"d.m.yy", {L"d.m"}},
+      {L"dddd", {L"ddd"}},
+      {L"\"dddd, \"d mmmm", {L"\"dddd, \"d mmm"}},
+      {L"\\d\\d\\d d", {}},
+      {L"d/m", {}},
+      {L"", {}}};
+  for (const auto& [pattern, shorter] : cases)
+    EXPECT_EQ(ShorterPatterns(pattern), shorter) << pattern;
+
+  ClockSettings settings;
+  EXPECT_EQ(ReadDisplay(settings, At(1, 2), kFormatter).shorter_dates, Patterns{L"{Short Date}"});
+  settings.system_date = false;
+  const ClockDisplay display = ReadDisplay(settings, At(1, 2), kFormatter);
+  const test::PlainMeasure measure;
+  std::vector<std::wstring> seen;
+  for (int room = measure.Measure(display.date, 16).width; room >= 0; --room) {
+    const std::wstring date = DateOf(display, StripDate(display, room, 16, measure));
+    EXPECT_LE(measure.Measure(date, 16).width, room);
+    if (seen.empty() || seen.back() != date) seen.push_back(date);
+  }
+  EXPECT_EQ(seen, (Patterns{L"{dddd, d mmmm}", L"{ddd, d mmm}", L"{d mmm}", L""}));
 }
 
 TEST(Clock, SettingsSurviveTheStore) {

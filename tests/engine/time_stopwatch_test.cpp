@@ -80,6 +80,7 @@ TEST(Stopwatch, TenThousandTicksAndPressesAgainstTheModel) {
       }
       ASSERT_EQ(watch.shown(), model.Shown()) << seed << ' ' << step;
       ASSERT_EQ(watch.running(), model.state == Model::kRunning);
+      ASSERT_EQ(watch.lapse_held(), model.lapse && model.state != Model::kReset);
       ASSERT_EQ(watch.left_caption(), kLeft[model.state]);
       ASSERT_EQ(watch.right_caption(), kRight[model.state]);
     }

@@ -21,6 +21,7 @@ class Root {
 
   // The settings, as sections below the root key.
   const Registry& settings() const { return settings_; }
+  const std::wstring& title() const { return title_; }  // the name of its settings' key
   // The folder of themes and documents, without a final "\"; its path has blanks and a letter
   // beyond ASCII in it.
   const std::wstring& folder() const { return folder_; }

@@ -143,11 +143,13 @@ TEST_F(Start, OptionsDialogStoresAndApplies) {
   EXPECT_EQ(Flag(L"Program Minimize on Start"), L"1");
   EXPECT_EQ(Flag(L"On-Top"), L"1");
   EXPECT_SOON(IsTopmost(clock));
-  EXPECT_TRUE(
-      at_logon.Text(L"Run", L"Widget Varnel").value_or(L"").ends_with(L"\\WidgetVarnel.exe"));
+  const std::wstring name = L"Widget Varnel (" + root().title() + L")";
+  EXPECT_TRUE(at_logon.Text(L"Run", name.c_str())
+                  .value_or(L"")
+                  .ends_with(L"\\WidgetVarnel.exe\" " + root().Arguments()));
 
   choose({chkSTARTUP, IDOK});
-  EXPECT_EQ(at_logon.Text(L"Run", L"Widget Varnel"), L"");
+  EXPECT_EQ(at_logon.Text(L"Run", name.c_str()), L"");
 }
 
 TEST_F(Start, SecondStartShowsTheFirstOnesManagerAndEnds) {

@@ -74,13 +74,21 @@ TEST_F(Time, AlarmRingsWithItsMessageWhileTheClockIsClosed) {
   ASSERT_TRUE(dialog);
   EXPECT_EQ(Items(Control(dialog, cboTIME)).size(), 96u);
   EXPECT_EQ(Text(Control(dialog, cboTIME)), L"00:00:00");
-  // Two alarms in one second: the popup shows the second one's message.
-  const std::wstring time = TimeIn(4);
+  // A time that is none is not taken.
+  SetText(Control(dialog, cboTIME + 2), L"25:99");
+  ASSERT_TRUE(ClickOn(Control(dialog, IDOK)));
+  EXPECT_SOON(Text(Control(dialog, lblALARMHINT)).find(L"25:99") != std::wstring::npos);
+  EXPECT_SOON(::GetParent(FocusedWindow()) == Control(dialog, cboTIME + 2));
+  Type(L"7:30");
+  EXPECT_SOON_EQ(Text(Control(dialog, cboTIME + 2)), L"7:30");
+  // Two alarms in one second: the popup shows the second one's message, above the first one's.
+  std::wstring tea = L"tea";
+  for (int i = 0; i < 100; ++i) tea += L" and cake";
+  const std::wstring time = TimeIn(5);
   for (const int preset : {1, 4}) {
     ASSERT_TRUE(ClickOn(Control(dialog, chkSET + preset)));
     SetText(Control(dialog, cboTIME + preset), time);
-    SetText(Control(dialog, txtMESSAGE + preset),
-            preset == 1 ? L"tea" : L"Call home, & bring milk");
+    SetText(Control(dialog, txtMESSAGE + preset), preset == 1 ? tea : L"Call home, & bring milk");
   }
   ASSERT_TRUE(ClickOn(Control(dialog, IDOK)));
   ASSERT_TRUE(WaitForNoForm(program(), L"frmCLKas"));
@@ -92,6 +100,8 @@ TEST_F(Time, AlarmRingsWithItsMessageWhileTheClockIsClosed) {
   ASSERT_TRUE(popup);
   EXPECT_SOON_EQ(Text(Control(popup, lablMESSAGE)), L"Call home, & bring milk");
   EXPECT_EQ(Text(Control(popup, lablALARMC)), time);
+  EXPECT_SOON_EQ(Text(Control(popup, txtEARLIER)), time + L"  " + tea);
+  EXPECT_TRUE(root().settings().Text(L"frmCLKas\\Details", L"Alarm Preset Message_1 part 4"));
   EXPECT_EQ(::GetForegroundWindow(), manager) << "the popup takes no focus";
   EXPECT_TRUE(IsTopmost(popup));
   EXPECT_EQ(FindForms(program(), L"frmCLKam").size(), 1u);

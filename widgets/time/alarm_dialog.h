@@ -14,6 +14,7 @@ class AlarmDialog : public Dialog {  // frmCLKas
  private:
   void OnOpen() override;
   void OnCommand(int id, int code) override;
+  bool TimesAreValid();
   void Store();
 
   AlarmService& alarms_;

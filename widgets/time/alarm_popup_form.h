@@ -7,6 +7,7 @@
 #include "theme/widget_paint.h"
 #include "widgets/time/alarms.h"
 #include "win/painted_window.h"
+#include "win/reading_box.h"
 
 namespace varnel {
 
@@ -14,12 +15,17 @@ class AlarmPopup : public PaintedWindow {  // frmCLKam
  public:
   explicit AlarmPopup(Services& services);
 
-  // Shows the message in the clock's theme; the window is made on first use and then reused.
+  // Shows the message in the clock's theme, above those that are still unread; they are unread
+  // until the popup is closed. The window is made on first use and then reused.
   void Ring(const AlarmRing& ring);
 
  private:
   bool Load();
+  void TakeTheme();
+  void PlaceWindowFor(int height);
   void LayOut();
+  int LayOutTexts(int most);
+  void PutAway();
   void Paint(Surface& surface) override;
   void DrawCloseButton(const DRAWITEMSTRUCT& item);
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
@@ -28,8 +34,11 @@ class AlarmPopup : public PaintedWindow {  // frmCLKam
   Services& services_;
   WidgetPaint paint_;
   ThemedLabel lblTitle_;
-  ThemedLabel lablMESSAGE_;
   ThemedLabel lablALARMC_;
+  ReadingBox lablMESSAGE_;
+  ReadingBox txtEARLIER_;
+  UniqueFont text_font_;  // in use by both
+  UnreadAlarms unread_;
   TextButtons buttons_;
 };
 

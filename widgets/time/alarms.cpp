@@ -1,5 +1,6 @@
 #include "widgets/time/alarms.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "base/number_text.h"
@@ -76,7 +77,7 @@ AlarmPresets LoadAlarmPresets(const Settings& settings) {
     const std::wstring_view no_time = use.empty() ? std::wstring_view(unsaved.time) : L"";
     presets[i] = {.use = LeadingNumber(use) == 1,
                   .time = settings.Read(kSection, PresetName(kPresetTime, i), no_time),
-                  .message = settings.Read(kSection, PresetName(kPresetMessage, i), L"")};
+                  .message = ReadLongText(settings, kSection, PresetName(kPresetMessage, i))};
   }
   return presets;
 }
@@ -86,7 +87,7 @@ void SaveAlarmPresets(Settings& settings, const AlarmPresets& presets) {
   for (int i = 0; i < kAlarmPresets; ++i) {
     settings.Write(kSection, PresetName(kPresetUse, i), presets[i].use ? L"1" : L"0");
     settings.Write(kSection, PresetName(kPresetTime, i), presets[i].time);
-    settings.Write(kSection, PresetName(kPresetMessage, i), presets[i].message);
+    WriteLongText(settings, kSection, PresetName(kPresetMessage, i), presets[i].message);
   }
 }
 
@@ -115,6 +116,25 @@ std::vector<AlarmRing> AlarmRefresh(const AlarmPresets& presets, const LocalTime
     if (set.find(now) != std::wstring::npos) rings.push_back({preset.message, set});
   }
   return rings;
+}
+
+bool IsAlarmTime(std::wstring_view text) {
+  return TimeOfDay(Trim(text)).has_value();
+}
+
+bool UnreadAlarms::Add(const AlarmRing& ring) {
+  if (std::ranges::find(rings_, ring) != rings_.end()) return false;
+  rings_.insert(rings_.begin(), ring);
+  return true;
+}
+
+std::wstring UnreadAlarms::EarlierText() const {
+  std::wstring text;
+  for (std::size_t i = 1; i < rings_.size(); ++i) {
+    if (i > 1) text += L"\r\n";
+    text += rings_[i].time + L"  " + rings_[i].message;
+  }
+  return text;
 }
 
 std::vector<std::wstring> QuarterHours() {

@@ -32,6 +32,8 @@ struct AlarmPreset {
 
 using AlarmPresets = std::array<AlarmPreset, kAlarmPresets>;
 
+// Messages may be as long as WriteLongText can store.
+//
 // A preset that was never saved is as a new AlarmPreset. A time that was saved empty stays empty.
 AlarmPresets LoadAlarmPresets(const Settings& settings);
 void SaveAlarmPresets(Settings& settings, const AlarmPresets& presets);
@@ -51,6 +53,9 @@ void SaveAlarmSound(Settings& settings, const AlarmSound& sound);
 // without; an hour alone needs one of these. Other texts come back without their outer blanks.
 std::wstring AlarmTimeText(std::wstring_view text);
 
+// Whether the text is understood as one time of day.
+bool IsAlarmTime(std::wstring_view text);
+
 struct AlarmRing {
   std::wstring message;  // lablMESSAGE
   std::wstring time;     // lablALARMC
@@ -61,6 +66,22 @@ struct AlarmRing {
 // shows in the end. A preset rings when its time text holds the time of day; one that is in use
 // with an empty time hides all that follow. Asked again in the same second, the answer is the same.
 std::vector<AlarmRing> AlarmRefresh(const AlarmPresets& presets, const LocalTime& time);
+
+// What has rung and was not put away yet, so that an alarm stays readable when the next one comes.
+class UnreadAlarms {
+ public:
+  // Puts a ring before all others. False when it is there already, for it rings on every tick of
+  // its second; it stays where it is.
+  bool Add(const AlarmRing& ring);
+  void Clear() { rings_.clear(); }
+  const AlarmRing& newest() const { return rings_.front(); }  // not while empty
+  // The others, the later first, one a line (CR LF between them): the time, two blanks, the
+  // message.
+  std::wstring EarlierText() const;
+
+ private:
+  std::vector<AlarmRing> rings_;  // the newest first
+};
 
 // The 96 quarter hours from "00:00:00" to "23:45:00".
 std::vector<std::wstring> QuarterHours();

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "base/settings.h"
 #include "base/wall_clock.h"
@@ -44,11 +46,17 @@ struct ClockDisplay {
   std::wstring date;     // lbl7Sept2010
   bool seconds_shown = false;
   bool marker_shown = false;
-  std::wstring short_date{};  // in figures, for where `date` has no room
+  std::vector<std::wstring> shorter_dates{};  // for where `date` has no room, the longest first
   bool operator==(const ClockDisplay&) const = default;
 };
 
-// A date pattern that means nothing shows whatever `formatter` makes of it.
+// What a date pattern becomes where it is too long, one step after the other: weekday and month
+// abbreviated ("dddd" and "mmmm" as "ddd" and "mmm"), then no weekday, then no year, each with the
+// separators that it needs no more. Steps that change nothing are left out; what is quoted stays.
+std::vector<std::wstring> ShorterPatterns(std::wstring_view pattern);
+
+// The shorter dates of the system's date are its figures alone, those of a pattern come from its
+// shorter forms. A date pattern that means nothing shows whatever `formatter` makes of it.
 ClockDisplay ReadDisplay(const ClockSettings& settings, const LocalTime& time,
                          const TimeFormatter& formatter);
 

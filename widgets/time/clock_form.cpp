@@ -54,9 +54,8 @@ void ClockForm::LayOutPanel(const Rect& panel) {
                         FontMeasure(theme().strTHEMEPANELFONTNAME, false));
   PlaceLabels();
   const TextStyle strip = StripTextStyle(paint(), dpi());
-  const TextExtent date =
-      FontMeasure(strip.font.face, false).Measure(shape_.date, strip.font.height);
-  strip_is_narrow_ = date.width > layout().status_text.width();
+  strip_date_ = StripDate(shape_, layout().status_text.width(), strip.font.height,
+                          FontMeasure(strip.font.face, false));
 }
 
 void ClockForm::PlaceLabels() {
@@ -77,7 +76,7 @@ void ClockForm::PlaceLabels() {
 std::wstring ClockForm::StatusText() const {
   // A date that the panel has no room for stands in the strip.
   if (labels_.date.shown()) return {};
-  return strip_is_narrow_ ? shown_.short_date : shown_.date;
+  return DateOf(shown_, strip_date_);
 }
 
 std::vector<MenuItem> ClockForm::MenuGroup() const {

@@ -26,8 +26,8 @@ class ClockForm : public WidgetForm {  // frmCLKwg
   ClockDisplay shown_;
   ClockDisplay shape_;  // what the labels are laid out for
   ClockLayout labels_;
-  bool strip_is_narrow_ = false;  // for the date as it is set
-  int second_ = -1;               // of the last refresh
+  std::size_t strip_date_ = 0;  // for DateOf: what has room in the strip
+  int second_ = -1;             // of the last refresh
   ThemedLabel lblPANECLOCK_;
   ThemedLabel lblSECS_;
   ThemedLabel lblSTYLE_;

@@ -121,13 +121,33 @@ bool Readable(const Texts& texts, const ClockLayout& layout, int dpi) {
 
 ClockDisplay ShapeOf(const ClockDisplay& display) {
   ClockDisplay shape = display;
-  for (std::wstring* text :
-       {&shape.time, &shape.seconds, &shape.marker, &shape.date, &shape.short_date}) {
-    for (wchar_t& unit : *text) {
+  const auto blank = [](std::wstring& text) {
+    for (wchar_t& unit : text) {
       if (unit >= L'0' && unit <= L'9') unit = L'0';
     }
-  }
+  };
+  for (std::wstring* text : {&shape.time, &shape.seconds, &shape.marker, &shape.date}) blank(*text);
+  for (std::wstring& text : shape.shorter_dates) blank(text);
   return shape;
+}
+
+std::size_t StripDate(const ClockDisplay& display, int room, int font_height,
+                      const TextMeasure& measure) {
+  std::size_t choice = 0;
+  const auto fits = [&](const std::wstring& date) {
+    return measure.Measure(WithWidestDigits(date, measure), font_height).width <= room;
+  };
+  if (fits(display.date)) return choice;
+  for (const std::wstring& date : display.shorter_dates) {
+    ++choice;
+    if (fits(date)) return choice;
+  }
+  return choice + 1;
+}
+
+std::wstring DateOf(const ClockDisplay& display, std::size_t choice) {
+  if (choice == 0) return display.date;
+  return choice <= display.shorter_dates.size() ? display.shorter_dates[choice - 1] : L"";
 }
 
 ClockLayout LayOutClock(Size panel, int dpi, const ClockDisplay& display,

@@ -20,6 +20,14 @@ struct ClockLayout {
 // again only when the shape, the panel, its DPI or its font has changed.
 ClockDisplay ShapeOf(const ClockDisplay& display);
 
+// Which of a display's dates, for DateOf, goes into a strip of `room` pixels in a font of
+// `font_height`, whatever its digits: the longest that does, or none of them.
+std::size_t StripDate(const ClockDisplay& display, int room, int font_height,
+                      const TextMeasure& measure);
+
+// 0 is the date itself, 1 the first of its shorter forms; empty behind the last.
+std::wstring DateOf(const ClockDisplay& display, std::size_t choice);
+
 // Lays out what `display` shows on a panel of `panel` pixels at `dpi`. Nothing comes nearer to an
 // edge than 8 px (at 96 dpi), overlaps or is cut off: what would be too small to read is left out,
 // the date first, then the seconds, then AM or PM; a panel too small for any text shows none. Boxes

@@ -2,6 +2,7 @@
 
 #include "resources/control_ids.h"
 #include "theme/contrast.h"
+#include "theme/field_colours_win.h"
 #include "win/edit_box.h"
 #include "win/font_measure.h"
 #include "win/message_box.h"
@@ -14,6 +15,8 @@ namespace {
 constexpr UINT kSelectField = WM_APP;  // wparam: the field's number
 constexpr int kTickMs = 1000;
 constexpr int kMostDigits = 3;
+constexpr DWORD kFieldStyle = ES_CENTER | ES_NUMBER;
+constexpr int kOutlineRoom = 3;  // at 96 dpi, between a field and its outline
 constexpr CountdownField kFields[] = {CountdownField::kHours, CountdownField::kMinutes,
                                       CountdownField::kSeconds};
 constexpr const wchar_t* kIntervalWords[] = {L"Set", L"h", L"m", L"s"};
@@ -30,8 +33,8 @@ CountdownForm::CountdownForm(Services& services, const FormEntry& entry, int ind
 
 void CountdownForm::OnLoad() {
   filling_ = true;
-  for (int i = 0; i < 3; ++i) CreateEditBox(handle(), txtHRS + i, ES_CENTER, kMostDigits);
-  for (int i = 0; i < 3; ++i) CreateEditBox(handle(), txtSUBHRS + i, ES_CENTER, kMostDigits);
+  for (int i = 0; i < 3; ++i) CreateEditBox(handle(), txtHRS + i, kFieldStyle, kMostDigits);
+  for (int i = 0; i < 3; ++i) CreateEditBox(handle(), txtSUBHRS + i, kFieldStyle, kMostDigits);
   for (int i = 0; i < 2; ++i) {
     separators_[i]->Load(handle(), lblSEP1 + i);
     separators_[i]->SetText(L":");
@@ -85,10 +88,20 @@ void CountdownForm::PlaceInterval(const CountdownLayout& place, const Rect& pane
   UniqueFont font = MakeFont(style.font);
   for (int i = 0; i < 3; ++i) {
     HWND field = ::GetDlgItem(handle(), txtSUBHRS + i);
+    interval_boxes_[i] = shown ? place.interval_fields[i] : Rect{};
     PlaceEditBox(field, Within(panel, place.interval_fields[i]), font.get());
     ::ShowWindow(field, shown ? SW_SHOWNA : SW_HIDE);
   }
   interval_font_ = std::move(font);
+}
+
+void CountdownForm::PaintPanel(Surface& surface, const Rect& panel) {
+  const TextStyle style = PanelTextStyle(1);
+  const Colour outline = OutlineColour(style.colour, style.ground);
+  for (const Rect& box : interval_boxes_) {
+    if (box.empty()) continue;
+    FrameRectangle(surface.dc(), Inset(Within(panel, box), -Scaled(kOutlineRoom, dpi())), outline);
+  }
 }
 
 void CountdownForm::RefreshContent() {
@@ -162,7 +175,13 @@ void CountdownForm::OnControl(int id, int code) {
 
 void CountdownForm::OnFieldChanged(int id) {
   const int index = id >= txtSUBHRS ? id - txtSUBHRS : id - txtHRS;
-  engine_.Edit(kFields[index], WindowText(::GetDlgItem(handle(), id)));
+  HWND field = ::GetDlgItem(handle(), id);
+  std::wstring digits = WindowText(field);
+  std::erase_if(digits, [](wchar_t unit) { return unit < L'0' || unit > L'9'; });
+  filling_ = true;
+  SetEditText(field, digits);  // what was pasted may hold more than digits
+  filling_ = false;
+  engine_.Edit(kFields[index], digits);
   ShowFields(id);
   RepaintStatus();
 }
@@ -173,20 +192,10 @@ LRESULT CountdownForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     ::SendMessageW(::GetDlgItem(handle(), static_cast<int>(wparam)), EM_SETSEL, 0, -1);
     return 0;
   }
-  if (message == WM_CTLCOLOREDIT) return ColourField(reinterpret_cast<HDC>(wparam));
+  if (message == WM_CTLCOLOREDIT) {
+    return ColourField(reinterpret_cast<HDC>(wparam), PanelTextStyle(1), services().colours);
+  }
   return WidgetForm::OnMessage(message, wparam, lparam);
-}
-
-LRESULT CountdownForm::ColourField(HDC dc) const {
-  // A field has no halo: where the text needs one, its whole ground takes the halo's colour.
-  const TextStyle style = PanelTextStyle(1);
-  const Colour ground =
-      HaloColour(style.colour, style.ground, style.halo_base, kReadableContrast, services().colours)
-          .value_or(style.ground);
-  ::SetTextColor(dc, style.colour);
-  ::SetBkColor(dc, ground);
-  ::SetDCBrushColor(dc, ground);
-  return reinterpret_cast<LRESULT>(::GetStockObject(DC_BRUSH));
 }
 
 std::wstring CountdownForm::Unfinished() const {

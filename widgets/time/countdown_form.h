@@ -20,6 +20,7 @@ class CountdownForm : public WidgetForm {  // frmCDNwg
   void OnUnload() override { tmrTIMER_.Stop(); }
   void LayOutPanel(const Rect& panel) override;
   void RefreshContent() override;
+  void PaintPanel(Surface& surface, const Rect& panel) override;
   void OnControl(int id, int code) override;
   std::wstring Unfinished() const override;
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
@@ -33,14 +34,14 @@ class CountdownForm : public WidgetForm {  // frmCDNwg
   std::size_t MostDigits() const;
   void ShowState();
   void PlaceInterval(const CountdownLayout& place, const Rect& panel);
-  LRESULT ColourField(HDC dc) const;
 
   CountdownEngine engine_;
   std::size_t laid_out_digits_ = 2;
   bool filling_ = false;  // the fields are being written by the program
   std::array<std::unique_ptr<ThemedLabel>, 2> separators_;
   std::array<std::unique_ptr<ThemedLabel>, 4> interval_labels_;  // a word, then three units
-  UniqueFont display_font_;                                      // in use by the edit boxes
+  std::array<Rect, 3> interval_boxes_;  // in pixels of the panel; empty where not shown
+  UniqueFont display_font_;             // in use by the edit boxes
   UniqueFont interval_font_;
   Timer tmrTIMER_;
 };

@@ -18,6 +18,8 @@ class StopwatchEngine {
 
   // Whether tmrSTOPWATCH is enabled.
   bool running() const { return state_ == State::kRunning; }
+  // The shown time is that of a lapse and not the count's.
+  bool lapse_held() const { return lapse_ && state_ != State::kReset; }
   std::wstring_view left_caption() const;
   std::wstring_view right_caption() const;
   // What the panel shows, "00:00.00" at first; stands still after a lapse although the count runs.

@@ -81,6 +81,10 @@ std::wstring StopwatchForm::Unfinished() const {
 }
 
 std::wstring StopwatchForm::StatusText() const {
+  if (engine_.lapse_held()) {
+    return engine_.running() ? L"Lapse held \x2013 the count goes on"
+                             : L"Lapse held \x2013 Resume shows the count";
+  }
   return engine_.running() ? L"Running \x2013 Ctrl+C copies the time" : L"Ctrl+C copies the time";
 }
 
