@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Measures the program against Wine's notepad and an empty window, in one interleaved run.
+"""Measures the program against Wine's notepad and empty windows, in one interleaved run.
 
 Absolute times drift with whatever else the machine does; the ratios of one run can be compared.
 Every round starts each subject once, one after the other, so that all meet the same conditions.

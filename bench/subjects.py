@@ -97,8 +97,14 @@ def control_number(name):
     return re.search(rf"^#define {name} (\d+)", text, re.MULTILINE)[1]
 
 
+def bare_window(name, timers):
+    """Returns the subject of an empty window with that many timers of 100 ms."""
+    return Subject(name, command=(str(WINDOWS_BUILD / "bench/bench_hello.exe"), str(timers)))
+
+
 SUBJECTS = (
-    Subject("empty window", command=(str(WINDOWS_BUILD / "bench/bench_hello.exe"),)),
+    bare_window("one timer", 1),
+    bare_window("two timers", 2),
     Subject("notepad", command=(r"C:\windows\system32\notepad.exe",)),
     Subject("manager"),
     Subject("clock", windows=2, widgets=("Clock",)),

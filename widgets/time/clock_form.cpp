@@ -32,14 +32,19 @@ void ClockForm::OnLoad() {
 
 void ClockForm::OnTick() {
   // Ten ticks a second keep the change of the second prompt; only one of them has anything to show.
-  if (visible() && services().clock.Now().second != second_) RefreshContent();
+  const LocalTime now = services().clock.Now();
+  if (now.second != second_ && sight() == Sight::kShown) ShowTime(now);
 }
 
 void ClockForm::RefreshContent() {
-  const LocalTime now = services().clock.Now();
+  settings_ = LoadClockSettings(services().settings);
+  ShowTime(services().clock.Now());
+}
+
+void ClockForm::ShowTime(const LocalTime& now) {
   second_ = now.second;
   const std::wstring former_status = StatusText();
-  shown_ = ReadDisplay(LoadClockSettings(services().settings), now, services().formatter);
+  shown_ = ReadDisplay(settings_, now, services().formatter);
   if (ShapeOf(shown_) != shape_) LayOutPanel(layout().pfrPANEL);
   lblPANECLOCK_.SetText(shown_.time);
   lblSECS_.SetText(shown_.seconds);

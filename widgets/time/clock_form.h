@@ -21,8 +21,10 @@ class ClockForm : public WidgetForm {  // frmCLKwg
   bool RunOwnCommand(int id) override;
 
   void OnTick();
+  void ShowTime(const LocalTime& now);
   void PlaceLabels();
 
+  ClockSettings settings_;  // as of the last refresh: asked for anew, they would cost each second
   ClockDisplay shown_;
   ClockDisplay shape_;  // what the labels are laid out for
   ClockLayout labels_;
