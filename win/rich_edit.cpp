@@ -38,11 +38,11 @@ WPARAM StreamScope(RichEdit::Scope scope) {
   return scope == RichEdit::Scope::kSelection ? SFF_SELECTION : 0;
 }
 
-CHARRANGE ToSystem(TextRange range) {
+CHARRANGE ToSystem(RichRange range) {
   return {range.from, range.to};
 }
 
-TextRange FromSystem(const CHARRANGE& range) {
+RichRange FromSystem(const CHARRANGE& range) {
   return {static_cast<int>(range.cpMin), static_cast<int>(range.cpMax)};
 }
 
@@ -98,7 +98,7 @@ bool RichEdit::Create(HWND parent, int id, DWORD style, const CharacterFormat& f
 
 LRESULT RichEdit::OnNotify(const NMHDR& header) {
   if (header.code == EN_SELCHANGE) {
-    const TextRange now = FromSystem(reinterpret_cast<const SELCHANGE&>(header).chrg);
+    const RichRange now = FromSystem(reinterpret_cast<const SELCHANGE&>(header).chrg);
     caret_ = now.to == last_selection_.to && now.from != last_selection_.from ? now.from : now.to;
     last_selection_ = now;
     if (quiet_ == 0 && events_.on_select) events_.on_select(now);
@@ -237,7 +237,7 @@ std::wstring RichEdit::Text(Scope scope) const {
   return text;
 }
 
-std::wstring RichEdit::Units(TextRange range) const {
+std::wstring RichEdit::Units(RichRange range) const {
   range.to = std::min(range.to, Length());
   if (range.empty()) return {};
   // One more for the zero, and one as some versions count the last line's end.
@@ -256,19 +256,19 @@ int RichEdit::Length() const {
 
 // --- selection and places
 
-TextRange RichEdit::Selection() const {
+RichRange RichEdit::Selection() const {
   CHARRANGE range = {};
   SendTo(EM_EXGETSEL, 0, range);
   return FromSystem(range);
 }
 
-void RichEdit::Select(TextRange range) {
+void RichEdit::Select(RichRange range) {
   CHARRANGE wanted = ToSystem(range);
   SendTo(EM_EXSETSEL, 0, wanted);
 }
 
 int RichEdit::Caret() const {
-  const TextRange selection = Selection();
+  const RichRange selection = Selection();
   return caret_ == selection.from ? selection.from : selection.to;
 }
 
@@ -276,7 +276,7 @@ void RichEdit::ScrollToCaret() {
   Send(EM_SCROLLCARET);
 }
 
-TextRange RichEdit::Find(const std::wstring& text, TextRange within, FindOptions options) const {
+RichRange RichEdit::Find(const std::wstring& text, RichRange within, FindOptions options) const {
   FINDTEXTEXW wanted = {};
   wanted.lpstrText = text.c_str();
   // Backwards the range is told from its end.

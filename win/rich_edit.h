@@ -18,11 +18,11 @@
 
 namespace varnel {
 
-struct TextRange {
+struct RichRange {
   int from = 0;
   int to = 0;  // behind the last
   bool empty() const { return from >= to; }
-  bool operator==(const TextRange&) const = default;
+  bool operator==(const RichRange&) const = default;
 };
 
 class RichEdit {
@@ -33,9 +33,9 @@ class RichEdit {
   // pasted or dropped without its owner.
   struct Events {
     std::function<void()> on_change;           // the text or a format, also by the program
-    std::function<void(TextRange)> on_select;  // selection or caret
+    std::function<void(RichRange)> on_select;  // selection or caret
     // The mouse is over text with the link format: WM_LBUTTONUP, WM_SETCURSOR and the like.
-    std::function<void(TextRange, UINT message)> on_link;
+    std::function<void(RichRange, UINT message)> on_link;
     std::function<void()> on_paste;         // by key or message; the owner pastes or does not
     std::function<bool(bool cut)> on_copy;  // true when the owner has filled the clipboard
     std::function<void(std::vector<std::wstring> paths, int position)> on_files;
@@ -72,13 +72,13 @@ class RichEdit {
   // With lines that end in CR LF.
   std::wstring Text(Scope scope = Scope::kAll) const;
   // One unit for each position, with lines that end in CR.
-  std::wstring Units(TextRange range) const;
+  std::wstring Units(RichRange range) const;
   int Length() const;
 
   // --- selection and places
 
-  TextRange Selection() const;
-  void Select(TextRange range);
+  RichRange Selection() const;
+  void Select(RichRange range);
   void SelectAll() { Select({0, Length()}); }
   // The end of the selection at which the caret blinks.
   int Caret() const;
@@ -90,7 +90,7 @@ class RichEdit {
     bool whole_words = false;
     bool backwards = false;
   };
-  TextRange Find(const std::wstring& text, TextRange within, FindOptions options) const;
+  RichRange Find(const std::wstring& text, RichRange within, FindOptions options) const;
   // Lines as they are wrapped, counted from 0.
   int LineOf(int position) const;
   int LineCount() const;
@@ -108,8 +108,8 @@ class RichEdit {
   void SetFormat(const CharacterFormat& format, Scope scope = Scope::kSelection);
   // That of text to come where there is none.
   void SetDefaultFormat(const CharacterFormat& format);
-  ParagraphFormat SelectionParagraph() const;
-  void SetParagraph(const ParagraphFormat& format);
+  RichParagraph SelectionParagraph() const;
+  void SetParagraph(const RichParagraph& format);
   // Needed for justified text.
   void UseAdvancedTypography();
 
@@ -179,7 +179,7 @@ class RichEdit {
   HWND handle_ = nullptr;
   int quiet_ = 0;
   int caret_ = 0;  // where it was seen last
-  TextRange last_selection_;
+  RichRange last_selection_;
   LONG pictures_seen_ = 0;
 };
 

@@ -29,14 +29,14 @@ void RichEdit::SetDefaultFormat(const CharacterFormat& format) {
   SendTo(EM_SETCHARFORMAT, SCF_DEFAULT, wanted);
 }
 
-ParagraphFormat RichEdit::SelectionParagraph() const {
+RichParagraph RichEdit::SelectionParagraph() const {
   PARAFORMAT2 format = {};
   format.cbSize = sizeof format;
   SendTo(EM_GETPARAFORMAT, 0, format);
   return FromSystem(format);
 }
 
-void RichEdit::SetParagraph(const ParagraphFormat& format) {
+void RichEdit::SetParagraph(const RichParagraph& format) {
   PARAFORMAT2 wanted = ToSystem(format);
   SendTo(EM_SETPARAFORMAT, 0, wanted);
 }

@@ -19,16 +19,16 @@ constexpr Effect kEffects[] = {{&CharacterFormat::bold, CFE_BOLD},
                                {&CharacterFormat::link, CFE_LINK}};
 
 struct Length {
-  std::optional<int> ParagraphFormat::*value;
+  std::optional<int> RichParagraph::*value;
   LONG PARAFORMAT2::*field;
   DWORD mask;
 };
 constexpr Length kLengths[] = {
-    {&ParagraphFormat::start_indent, &PARAFORMAT2::dxStartIndent, PFM_STARTINDENT},
-    {&ParagraphFormat::offset, &PARAFORMAT2::dxOffset, PFM_OFFSET},
-    {&ParagraphFormat::right_indent, &PARAFORMAT2::dxRightIndent, PFM_RIGHTINDENT},
-    {&ParagraphFormat::space_before, &PARAFORMAT2::dySpaceBefore, PFM_SPACEBEFORE},
-    {&ParagraphFormat::space_after, &PARAFORMAT2::dySpaceAfter, PFM_SPACEAFTER}};
+    {&RichParagraph::start_indent, &PARAFORMAT2::dxStartIndent, PFM_STARTINDENT},
+    {&RichParagraph::offset, &PARAFORMAT2::dxOffset, PFM_OFFSET},
+    {&RichParagraph::right_indent, &PARAFORMAT2::dxRightIndent, PFM_RIGHTINDENT},
+    {&RichParagraph::space_before, &PARAFORMAT2::dySpaceBefore, PFM_SPACEBEFORE},
+    {&RichParagraph::space_after, &PARAFORMAT2::dySpaceAfter, PFM_SPACEAFTER}};
 
 // The script's bits; both may be in the mask, only one in the effects.
 void PutScript(CHARFORMAT2W& system, TextScript script) {
@@ -107,7 +107,7 @@ CharacterFormat FromSystem(const CHARFORMAT2W& system) {
   return format;
 }
 
-PARAFORMAT2 ToSystem(const ParagraphFormat& format) {
+PARAFORMAT2 ToSystem(const RichParagraph& format) {
   PARAFORMAT2 system = {};
   system.cbSize = sizeof system;
   for (const auto& [value, field, mask] : kLengths) {
@@ -141,16 +141,18 @@ PARAFORMAT2 ToSystem(const ParagraphFormat& format) {
   return system;
 }
 
-ParagraphFormat FromSystem(const PARAFORMAT2& system) {
-  ParagraphFormat format;
+RichParagraph FromSystem(const PARAFORMAT2& system) {
+  RichParagraph format;
   for (const auto& [value, field, mask] : kLengths) {
     if (system.dwMask & mask) format.*value = static_cast<int>(system.*field);
   }
-  if (system.dwMask & PFM_ALIGNMENT) format.alignment = static_cast<Alignment>(system.wAlignment);
+  if (system.dwMask & PFM_ALIGNMENT)
+    format.alignment = static_cast<RichAlignment>(system.wAlignment);
   if (system.dwMask & PFM_LINESPACING) {
     format.line_spacing = {system.bLineSpacingRule, static_cast<int>(system.dyLineSpacing)};
   }
-  if (system.dwMask & PFM_NUMBERING) format.numbering = static_cast<Numbering>(system.wNumbering);
+  if (system.dwMask & PFM_NUMBERING)
+    format.numbering = static_cast<RichNumbering>(system.wNumbering);
   if (system.dwMask & PFM_NUMBERINGSTART) format.numbering_start = system.wNumberingStart;
   if (system.dwMask & PFM_TABSTOPS) {
     const int count = std::clamp<int>(system.cTabCount, 0, MAX_TAB_STOPS);

@@ -37,8 +37,8 @@ struct CharacterFormat {
 };
 
 // The platform's own numbers.
-enum class Alignment { kLeft = 1, kRight = 2, kCentre = 3, kJustified = 4 };
-enum class Numbering {
+enum class RichAlignment { kLeft = 1, kRight = 2, kCentre = 3, kJustified = 4 };
+enum class RichNumbering {
   kNone = 0,
   kBullets = 1,
   kFigures = 2,
@@ -56,23 +56,23 @@ struct LineSpacing {
   bool operator==(const LineSpacing&) const = default;
 };
 
-struct ParagraphFormat {
-  std::optional<Alignment> alignment = {};
+struct RichParagraph {
+  std::optional<RichAlignment> alignment = {};
   std::optional<int> start_indent = {};  // of the first line
   std::optional<int> offset = {};        // of the other lines, from the first one
   std::optional<int> right_indent = {};
   std::optional<int> space_before = {};
   std::optional<int> space_after = {};
   std::optional<LineSpacing> line_spacing = {};
-  std::optional<Numbering> numbering = {};
+  std::optional<RichNumbering> numbering = {};
   std::optional<int> numbering_start = {};
   std::optional<std::vector<int>> tabs = {};  // from the left, at most 32
-  bool operator==(const ParagraphFormat&) const = default;
+  bool operator==(const RichParagraph&) const = default;
 };
 
 CHARFORMAT2W ToSystem(const CharacterFormat& format);
 CharacterFormat FromSystem(const CHARFORMAT2W& format);
-PARAFORMAT2 ToSystem(const ParagraphFormat& format);
-ParagraphFormat FromSystem(const PARAFORMAT2& format);
+PARAFORMAT2 ToSystem(const RichParagraph& format);
+RichParagraph FromSystem(const PARAFORMAT2& format);
 
 }  // namespace varnel

@@ -31,10 +31,10 @@ class Editor : public test::Hosted {
 
   int changes_ = 0;
   int pastes_ = 0;
-  std::vector<TextRange> selections_;
+  std::vector<RichRange> selections_;
   std::vector<std::wstring> files_;
   RichEdit edit_{{.on_change = [this] { ++changes_; },
-                  .on_select = [this](TextRange range) { selections_.push_back(range); },
+                  .on_select = [this](RichRange range) { selections_.push_back(range); },
                   .on_link = {},
                   .on_paste = [this] { ++pastes_; },
                   .on_copy = {},
@@ -92,16 +92,16 @@ TEST_F(Editor, FormatsAreReadBackAndMixedOnesAreEmpty) {
 TEST_F(Editor, ParagraphsAreReadBack) {
   edit_.PutText(L"one\rtwo");
   edit_.UseAdvancedTypography();
-  const ParagraphFormat format = {.alignment = Alignment::kJustified,
-                                  .start_indent = 720,
-                                  .offset = 360,
-                                  .right_indent = 144,
-                                  .space_before = 100,
-                                  .space_after = 200,
-                                  .line_spacing = LineSpacing{5, 23},
-                                  .numbering = Numbering::kBullets,
-                                  .numbering_start = 1,
-                                  .tabs = std::vector<int>{700, 1400}};
+  const RichParagraph format = {.alignment = RichAlignment::kJustified,
+                                .start_indent = 720,
+                                .offset = 360,
+                                .right_indent = 144,
+                                .space_before = 100,
+                                .space_after = 200,
+                                .line_spacing = LineSpacing{5, 23},
+                                .numbering = RichNumbering::kBullets,
+                                .numbering_start = 1,
+                                .tabs = std::vector<int>{700, 1400}};
   edit_.Select({5, 5});
   edit_.SetParagraph(format);
   EXPECT_EQ(edit_.SelectionParagraph(), format);
@@ -113,7 +113,7 @@ TEST_F(Editor, OwnerIsToldOfChangesUnlessItMakesThemQuietly) {
   edit_.PutText(L"first");
   EXPECT_GT(changes_, 0);
   edit_.Select({1, 3});
-  EXPECT_EQ(selections_.back(), (TextRange{1, 3}));
+  EXPECT_EQ(selections_.back(), (RichRange{1, 3}));
   EXPECT_EQ(edit_.Caret(), 3);
   edit_.Select({0, 3});
   EXPECT_EQ(edit_.Caret(), 0) << "grown to the left";
@@ -159,10 +159,10 @@ TEST_F(Editor, NothingIsPastedOrDroppedBehindItsOwner) {
 
 TEST_F(Editor, FindsAndTellsPlaces) {
   edit_.PutText(L"cat Cat concat\rcat");
-  EXPECT_EQ(edit_.Find(L"cat", {1, 18}, {}), (TextRange{4, 7}));
-  EXPECT_EQ(edit_.Find(L"cat", {1, 18}, {.match_case = true}), (TextRange{11, 14}));
-  EXPECT_EQ(edit_.Find(L"cat", {5, 18}, {.whole_words = true}), (TextRange{15, 18}));
-  EXPECT_EQ(edit_.Find(L"cat", {0, 14}, {.backwards = true}), (TextRange{11, 14}));
+  EXPECT_EQ(edit_.Find(L"cat", {1, 18}, {}), (RichRange{4, 7}));
+  EXPECT_EQ(edit_.Find(L"cat", {1, 18}, {.match_case = true}), (RichRange{11, 14}));
+  EXPECT_EQ(edit_.Find(L"cat", {5, 18}, {.whole_words = true}), (RichRange{15, 18}));
+  EXPECT_EQ(edit_.Find(L"cat", {0, 14}, {.backwards = true}), (RichRange{11, 14}));
   EXPECT_TRUE(edit_.Find(L"dog", {0, 18}, {}).empty());
   EXPECT_EQ(edit_.LineOf(16), 1);
   EXPECT_EQ(edit_.LineStart(1), 15);
