@@ -64,6 +64,7 @@ class CountedWindows : public WidgetWindows {
     loaded.insert(index);
     return true;
   }
+  bool MayClose(int index) override { return loaded.contains(index); }
   void Unload(int index) override { Require(loaded.erase(index) == 1); }
   void Show(int index, bool) override { Require(loaded.contains(index)); }
   void Mark(int, bool) override {}
