@@ -73,6 +73,10 @@ void CalculatorForm::OnLoad() {
 void CalculatorForm::OnUnload() {
   release_timer_.Stop();
   log_timer_.Stop();
+}
+
+void CalculatorForm::SaveState(SaveReason reason) {
+  WidgetForm::SaveState(reason);
   log_.Retry();
 }
 

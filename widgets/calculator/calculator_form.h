@@ -25,6 +25,7 @@ class CalculatorForm : public WidgetForm, private SideListOwner {  // frmCLCwg
   void HistoryShow();
   // Removes the selected lines from the log.
   void DeleteSelected();
+  void SaveState(SaveReason reason) override;
 
  private:
   void OnLoad() override;
