@@ -26,7 +26,7 @@ double PaintLabel(Colour text) {
   style.font = {L"Tahoma", 80, false};
   style.colour = text;
   style.ground = 0xEF9F50;
-  style.halo_base = 0xEF4F10;
+  style.theme = 0xEF4F10;
   Surface surface({300, 100});
   return 1e6 * SecondsFor([&] { PaintText(ui, surface, {0, 0, 300, 100}, L"12:34", style); });
 }

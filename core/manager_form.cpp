@@ -56,6 +56,8 @@ void ManagerForm::DrawPanelButton(const ButtonPainting& painting) {
   TextStyle style = PanelTextStyle(parts.caption_height);
   style.ground = tile.colours.first;
   style.faint = !tile.enabled || out_of_sight;
+  // Glyph, caption and star read as one.
+  style.prefer_ink = ContrastRatio(style.colour, style.ground) < kSmallInkContrast;
   PaintText(ui(), painting.surface, parts.caption, std::wstring(widget.title), style);
   style.font = {kIconFontName, parts.glyph_height, false};
   PaintText(ui(), painting.surface, parts.glyph,

@@ -12,8 +12,10 @@ struct Option {
   int control;
   const Setting& setting;
 };
-constexpr Option kOptions[] = {
-    {chkSTARTUP, kProgramLaunch}, {chkMINSTART, kMinimizeOnStart}, {chkONTOP, kOnTop}};
+constexpr Option kOptions[] = {{chkSTARTUP, kProgramLaunch},
+                               {chkMINSTART, kMinimizeOnStart},
+                               {chkONTOP, kOnTop},
+                               {chkREADABLE, kMakeTextReadable}};
 
 }  // namespace
 
@@ -36,7 +38,11 @@ void OptionsDialog::Store() {
     WriteCheck(services_.settings, option.setting, Checked(option.control));
   }
   services_.program.RegisterRunAtLogon();
-  for (const auto& [name, form] : services_.forms.all()) form->FollowOnTopSetting();
+  for (const auto& [name, form] : services_.forms.all()) {
+    form->FollowOnTopSetting();
+    form->Form_Resize();
+    form->WidgetRefresh();
+  }
 }
 
 }  // namespace varnel

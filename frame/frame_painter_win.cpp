@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "base/image.h"
-#include "theme/contrast.h"
 #include "theme/gradient.h"
 #include "theme/system_colours_win.h"
 
@@ -22,19 +21,9 @@ void PaintBar(Surface& surface, const FramePainting& frame) {
   PutImage(surface, {bar.left, bar.top}, image);
 }
 
-// The colour for lines, which have no halo: the text's, or its halo's where the text's is hardly
-// seen.
-Colour LineColour(const TextStyle& style) {
-  constexpr double kSeen = 2;
-  if (ContrastRatio(style.colour, style.ground) >= kSeen) return style.colour;
-  return HaloColour(style.colour, style.ground, style.halo_base, kReadableContrast,
-                    UserSystemColours())
-      .value_or(style.colour);
-}
-
 // Three short diagonal lines in the corner that sizes the window.
 void PaintGrip(Surface& surface, const FramePainting& frame) {
-  const Colour colour = LineColour(StripTextStyle(frame.paint, frame.dpi));
+  const Colour colour = WritingOf(StripTextStyle(frame.paint, frame.dpi)).colour;
   const Rect& grip = frame.layout.size_grip;
   const int step = std::max(3, Scaled(4, frame.dpi));
   const int edge = Scaled(3, frame.dpi);
@@ -48,14 +37,25 @@ void PaintGrip(Surface& surface, const FramePainting& frame) {
 
 }  // namespace
 
-TextStyle BarTextStyle(const WidgetPaint& paint, int dpi) {
+TextStyle PanelTextStyle(const WidgetPaint& paint, int font_height, int dpi, Reads reads) {
   TextStyle style;
-  style.font = {paint.theme.strTHEMEBARFONTNAME, Scaled(kTitleHeight, dpi), false};
+  style.font = {paint.theme.strTHEMEPANELFONTNAME, font_height, false};
+  style.colour = paint.theme.lngTHEMEPANELFONTCOLOR;
+  style.ground = paint.chrome.ground;
+  style.theme = paint.theme.lngTHEMECOLOR;
+  style.readable = paint.readable;
+  style.dpi = dpi;
+  style.reads = reads;
+  style.prefer_ink = !IsLarge(style);
+  return style;
+}
+
+TextStyle BarTextStyle(const WidgetPaint& paint, int dpi) {
+  TextStyle style = PanelTextStyle(paint, Scaled(kTitleHeight, dpi), dpi);
+  style.font.face = paint.theme.strTHEMEBARFONTNAME;
   style.colour = paint.theme.lngTHEMEBARFONTCOLOR;
   style.ground = paint.chrome.bar.first;
-  style.halo_base = paint.theme.lngTHEMECOLOR;
   style.align = Align::kLeft;
-  style.dpi = dpi;
   return style;
 }
 

@@ -21,6 +21,9 @@ struct FramePainting {
 // Fills the whole surface, which has the window's size.
 void PaintFrame(Ui& ui, Surface& surface, const FramePainting& frame);
 
+// The style of texts on the panel, `font_height` in pixels of the screen.
+TextStyle PanelTextStyle(const WidgetPaint& paint, int font_height, int dpi,
+                         Reads reads = Reads::kByItsHeight);
 // The style of texts on the title bar, and of those on the bottom strip.
 TextStyle BarTextStyle(const WidgetPaint& paint, int dpi);
 TextStyle StripTextStyle(const WidgetPaint& paint, int dpi);

@@ -4,6 +4,7 @@
 
 #include "base/image.h"
 #include "base/rounded_box.h"
+#include "frame/frame_painter_win.h"
 #include "win/window_text.h"
 
 namespace varnel {
@@ -94,16 +95,16 @@ void PaintButtonFace(const ButtonPainting& painting, int dpi) {
                  OpaquePixel(kWhite));
 }
 
-void PaintTextButton(Ui& ui, const ButtonPainting& painting, const ThemeRecord& theme,
-                     const std::wstring& face, int height, int dpi) {
+void PaintTextButton(Ui& ui, const ButtonPainting& painting, const WidgetPaint& paint, int height,
+                     int dpi) {
   PaintButtonFace(painting, dpi);
   const TextButton& button = painting.button;
-  TextStyle style;
-  style.font = {button.glyph ? kIconFontName : face, height, false};
-  style.colour = button.on_bar ? theme.lngTHEMEBARFONTCOLOR : theme.lngTHEMEPANELFONTCOLOR;
+  TextStyle style = button.on_bar ? BarTextStyle(paint, dpi) : PanelTextStyle(paint, height, dpi);
+  style.font.height = height;
+  if (button.glyph) style.font.face = kIconFontName;
   style.ground = painting.colours.first;
-  style.halo_base = theme.lngTHEMECOLOR;
-  style.dpi = dpi;
+  style.prefer_ink = button.on_bar;
+  style.align = Align::kCentre;
   PaintText(ui, painting.surface, painting.bounds,
             button.glyph ? std::wstring(1, button.glyph) : WindowText(button.handle), style);
 }

@@ -9,6 +9,7 @@
 #include "base/geometry.h"
 #include "theme/chrome_colours.h"
 #include "theme/text_painter_win.h"
+#include "theme/widget_paint.h"
 #include "win/tooltip.h"
 #include "win/window.h"
 
@@ -73,7 +74,7 @@ class TextButtons {
 void PaintButtonFace(const ButtonPainting& painting, int dpi);
 
 // The same with the button's text or glyph on it; `height` is the em of its font, in pixels.
-void PaintTextButton(Ui& ui, const ButtonPainting& painting, const ThemeRecord& theme,
-                     const std::wstring& face, int height, int dpi);
+void PaintTextButton(Ui& ui, const ButtonPainting& painting, const WidgetPaint& paint, int height,
+                     int dpi);
 
 }  // namespace varnel

@@ -135,6 +135,7 @@ void WidgetForm::ApplyChrome() {
   if (!own_on_top_) on_top_ = ReadFlag(services_.settings, kOnTop);
   KeepOnTop(handle(), on_top_);
   paint_ = WidgetPaintOf(theme_, HighContrastWanted(), services_.colours);
+  paint_.readable = ReadCheck(services_.settings, kMakeTextReadable);
   ::SetLayeredWindowAttributes(handle(), 0, WindowAlpha(paint_.theme.bytTHEMEOPACITY), LWA_ALPHA);
 }
 
@@ -155,14 +156,8 @@ void WidgetForm::FollowOnTopSetting() {
   ApplyChrome();
 }
 
-TextStyle WidgetForm::PanelTextStyle(int font_height) const {
-  TextStyle style;
-  style.font = {theme_.strTHEMEPANELFONTNAME, font_height, false};
-  style.colour = paint_.theme.lngTHEMEPANELFONTCOLOR;
-  style.ground = paint_.chrome.ground;
-  style.halo_base = paint_.theme.lngTHEMECOLOR;
-  style.dpi = dpi();
-  return style;
+TextStyle WidgetForm::PanelTextStyle(int font_height, Reads reads) const {
+  return varnel::PanelTextStyle(paint_, font_height, dpi(), reads);
 }
 
 void WidgetForm::ShowFocus(bool shown) {
@@ -201,7 +196,7 @@ void WidgetForm::DrawButton(const DRAWITEMSTRUCT& item) {
   if (button->on_bar) {
     ButtonPainting small = painting;
     small.bounds = Inset(bounds, Scaled(2, dpi()));
-    PaintTextButton(ui(), small, paint_.theme, {}, Scaled(kBarGlyphHeight, dpi()), dpi());
+    PaintTextButton(ui(), small, paint_, Scaled(kBarGlyphHeight, dpi()), dpi());
   } else {
     DrawPanelButton(painting);
   }
@@ -214,8 +209,7 @@ ColourPair WidgetForm::SeenOnPanel(const ColourPair& button) const {
 }
 
 void WidgetForm::DrawPanelButton(const ButtonPainting& painting) {
-  PaintTextButton(ui(), painting, paint_.theme, theme_.strTHEMEPANELFONTNAME,
-                  painting.bounds.height() * 2 / 5, dpi());
+  PaintTextButton(ui(), painting, paint_, painting.bounds.height() * 2 / 5, dpi());
 }
 
 LRESULT WidgetForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {

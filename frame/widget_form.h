@@ -12,6 +12,7 @@
 #include "frame/services.h"
 #include "frame/sight_win.h"
 #include "frame/text_buttons_form.h"
+#include "theme/text_painter_win.h"
 #include "theme/widget_paint.h"
 #include "win/painted_window.h"
 #include "win/timer.h"
@@ -85,7 +86,7 @@ class WidgetForm : public PaintedWindow, public LiveForm {
   const ChromeColours& chrome() const { return paint_.chrome; }
   TextButtons& buttons() { return buttons_; }
   // A style for texts on the panel: the theme's panel font and colour.
-  TextStyle PanelTextStyle(int font_height) const;
+  TextStyle PanelTextStyle(int font_height, Reads reads = Reads::kByItsHeight) const;
   // A button's face and outline; a face that is lost in the panel gets an outline that is not.
   ColourPair SeenOnPanel(const ColourPair& button) const;
   void RepaintStatus();

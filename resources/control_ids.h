@@ -12,6 +12,7 @@
 #define chkSTARTUP 1060
 #define chkMINSTART 1061
 #define chkONTOP 1062
+#define chkREADABLE 1063
 
 // frmCLKwg, the clock
 #define lblPANECLOCK 1100

@@ -32,6 +32,12 @@ class SystemColours {
   virtual Colour Resolve(int index) const = 0;
 };
 
+// For colours that name no system colours.
+class PlainColours : public SystemColours {
+ public:
+  Colour Resolve(int) const override { return kNoColour; }
+};
+
 // `colour` itself, or the system colour that it names; kNoColour when it names none.
 Colour Translate(Colour colour, const SystemColours& system);
 

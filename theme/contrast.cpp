@@ -6,7 +6,7 @@
 namespace varnel {
 namespace {
 
-constexpr double kEdgedContrast = 2;  // less than this says too little without a halo
+constexpr int kStep = 5;  // divides the range of weights, so that the last step is the end itself
 
 double Linear(int channel) {
   const double share = channel / 255.0;
@@ -20,6 +20,16 @@ Colour HaloEnd(Colour text, Colour theme, double needed) {
   const Colour other = darker ? kWhite : kBlack;
   const double reached = ContrastRatio(text, away);
   return reached >= needed || reached >= ContrastRatio(text, other) ? away : other;
+}
+
+// `start` led towards `end` until its contrast with `other` is `needed`, or `end` where it never
+// is.
+Colour Shade(Colour start, Colour end, Colour other, double needed, const SystemColours& system) {
+  for (int weight = 255; weight > 0; weight -= kStep) {
+    const Colour shade = Blend(start, end, weight, system);
+    if (ContrastRatio(other, shade) >= needed) return shade;
+  }
+  return end;
 }
 
 }  // namespace
@@ -38,16 +48,10 @@ double ContrastRatio(Colour a, Colour b) {
 
 std::optional<Colour> HaloColour(Colour text, Colour ground, Colour theme, double needed,
                                  const SystemColours& system) {
-  constexpr int kStep = 5;  // divides the range of weights, so that the last step is the end itself
   const Colour ink = Translate(text, system);
   const Colour start = Translate(theme, system);
   if (ContrastRatio(ink, Translate(ground, system)) >= needed) return std::nullopt;
-  const Colour end = HaloEnd(ink, start, needed);
-  for (int weight = 255; weight > 0; weight -= kStep) {
-    const Colour halo = Blend(start, end, weight, system);
-    if (ContrastRatio(ink, halo) >= needed) return halo;
-  }
-  return end;
+  return Shade(start, HaloEnd(ink, start, needed), ink, needed, system);
 }
 
 Colour OutlineColour(Colour wished, Colour ground) {
@@ -55,18 +59,24 @@ Colour OutlineColour(Colour wished, Colour ground) {
   return ContrastRatio(kBlack, ground) > ContrastRatio(kWhite, ground) ? kBlack : kWhite;
 }
 
-std::optional<Halo> HaloOf(Colour text, Colour ground, Colour theme, bool large,
-                           const SystemColours& system) {
-  const auto colour = HaloColour(text, ground, theme, kReadableContrast, system);
-  if (!colour) return std::nullopt;
-  const auto luminance = [&](Colour of) { return RelativeLuminance(Translate(of, system)); };
-  const bool halo_darker = luminance(*colour) < luminance(text);
-  const bool text_darker = luminance(text) < luminance(ground);
-  const double own = ContrastRatio(Translate(text, system), Translate(ground, system));
-  if (halo_darker != text_darker || own < kEdgedContrast) return Halo{*colour, false};
+Colour InkColour(Colour ground, Colour theme, const SystemColours& system) {
+  const Colour behind = Translate(ground, system);
+  const bool dark = ContrastRatio(kBlack, behind) >= ContrastRatio(kWhite, behind);
+  return Shade(Translate(theme, system), dark ? kBlack : kWhite, behind, kReadableContrast, system);
+}
+
+Writing WritingOf(Colour text, Colour ground, Colour theme, bool large, bool prefer_ink,
+                  const SystemColours& system) {
+  const Colour colour = Translate(text, system);
+  const double own = ContrastRatio(colour, Translate(ground, system));
   const double needed = large ? kReadableLargeContrast : kReadableContrast;
-  const auto edge = HaloColour(text, ground, theme, needed, system);
-  return edge ? std::optional(Halo{*edge, true}) : std::nullopt;
+  if (own >= needed) return {colour, std::nullopt};
+  const bool far_off = own < (large ? kLargeInkContrast : kSmallInkContrast);
+  const auto halo = HaloColour(colour, ground, theme, needed, system);
+  const bool darker = RelativeLuminance(colour) < RelativeLuminance(Translate(ground, system));
+  const bool thickens = (RelativeLuminance(*halo) < RelativeLuminance(colour)) == darker;
+  if (prefer_ink || far_off || thickens) return {InkColour(ground, theme, system), std::nullopt};
+  return {colour, halo};
 }
 
 }  // namespace varnel

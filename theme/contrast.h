@@ -1,4 +1,4 @@
-// Whether text can be read on its ground, and the halo that it is given when it cannot.
+// Whether text can be read on its ground, and what it is given when it cannot: ink or a halo.
 // Luminance and contrast follow the Web Content Accessibility Guidelines 2.
 #pragma once
 
@@ -30,17 +30,25 @@ std::optional<Colour> HaloColour(Colour text, Colour ground, Colour theme, doubl
 // else black or white, whichever has more. Both must be translated.
 Colour OutlineColour(Colour wished, Colour ground);
 
-struct Halo {
+// The shade of `theme` that is readable on `ground`: `theme` made darker, or lighter where black is
+// harder to read there than white, until its contrast with `ground` is kReadableContrast.
+Colour InkColour(Colour ground, Colour theme, const SystemColours& system);
+
+// What a text is written with.
+struct Writing {
   Colour colour = kBlack;
-  bool edge = false;  // a slim line will do
+  std::optional<Colour> halo;
+  bool operator==(const Writing&) const = default;
 };
 
-// The halo that `text` is painted with, if any. Mostly the ground lies between text and halo, as
-// with white letters on a pale ground: the halo alone carries them, and one of less than 4.5 is
-// hardly seen. Where the text lies between ground and halo, as letters of a middle colour on white,
-// and has some contrast of its own, an edge is enough, and large text is judged and edged as large
-// text.
-std::optional<Halo> HaloOf(Colour text, Colour ground, Colour theme, bool large,
-                           const SystemColours& system);
+// How a text of the colour `text` is written so that it can be read. One that has the contrast it
+// needs keeps its colour. Of the others those go to ink that are far from it, small text below
+// kSmallInkContrast and large text below kLargeInkContrast; those whose halo would only thicken
+// them, as it would lie beyond them as seen from the ground; and those that `prefer_ink`. The rest
+// keep their colour and get a slim halo.
+inline constexpr double kSmallInkContrast = 3;
+inline constexpr double kLargeInkContrast = 2;
+Writing WritingOf(Colour text, Colour ground, Colour theme, bool large, bool prefer_ink,
+                  const SystemColours& system);
 
 }  // namespace varnel

@@ -6,7 +6,7 @@
 namespace varnel {
 
 // Answers a box's request for its colours (WM_CTLCOLOREDIT, WM_CTLCOLORSTATIC). A box has no halo:
-// where its text needs one, the whole ground takes the halo's colour.
-LRESULT ColourField(HDC dc, const TextStyle& style, const SystemColours& system);
+// where its text needs help, it is in ink.
+LRESULT ColourField(HDC dc, TextStyle style);
 
 }  // namespace varnel

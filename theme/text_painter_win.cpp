@@ -4,14 +4,13 @@
 #include <optional>
 
 #include "base/halo.h"
-#include "theme/contrast.h"
-#include "theme/system_colours_win.h"
 
 namespace varnel {
 namespace {
 
 constexpr int kFaintWeight = 110;
 constexpr int kLargeHeight = 24;  // 18 points, at 96 dpi
+constexpr int kTallest = 1000;
 
 UINT DrawFlags(const TextStyle& style) {
   const UINT across = style.align == Align::kLeft    ? DT_LEFT
@@ -38,13 +37,11 @@ void DrawPlain(HDC dc, HFONT font, const Rect& box, const std::wstring& text,
   ::DrawTextW(dc, text.c_str(), length, &area, DrawFlags(style));
 }
 
-// Small letters get a relatively wide rim, for it is their only ground; that of large ones stays
-// slim.
-HaloShape ShapeFor(const TextStyle& style, bool edge) {
+// As slim as will do: letters keep their shapes.
+HaloShape ShapeFor(const TextStyle& style) {
   const double unit = style.dpi / static_cast<double>(kDefaultDpi);
-  if (edge) return {0.5 * unit, unit};
-  const double grown = std::min(style.font.height / 30.0, 3 * unit);
-  return {std::max(0.8 * unit, grown * 0.5), std::max(1.4 * unit, grown)};
+  const double grown = std::min(style.font.height / 60.0, unit);
+  return {0.5 * unit, unit + grown};
 }
 
 // How much of each pixel of `box` the text covers.
@@ -71,8 +68,21 @@ Rect Clipped(const Rect& box, Size size) {
 
 }  // namespace
 
+bool IsLarge(const TextStyle& style) {
+  return style.reads == Reads::kAsLarge || style.font.height >= Scaled(kLargeHeight, style.dpi);
+}
+
+Writing WritingOf(const TextStyle& style) {
+  if (!style.readable) return {style.colour, std::nullopt};
+  return WritingOf(style.colour, style.ground, style.theme, IsLarge(style), style.prefer_ink,
+                   PlainColours());
+}
+
 int HaloRoom(int dpi) {
-  return HaloMargin(ShapeFor({{{}, 1000, false}, 0, 0, 0, {}, dpi, false, false}, false));
+  TextStyle largest;
+  largest.font.height = kTallest;
+  largest.dpi = dpi;
+  return HaloMargin(ShapeFor(largest));
 }
 
 void PaintText(Ui& ui, Surface& surface, const Rect& box, const std::wstring& text,
@@ -80,16 +90,14 @@ void PaintText(Ui& ui, Surface& surface, const Rect& box, const std::wstring& te
   const Rect area = Clipped(box, surface.size());
   if (area.empty() || text.empty()) return;
   HFONT font = ui.fonts.Get(style.font);
-  const UserSystemColours system;
+  const Writing writing = WritingOf(style);
   if (style.faint) {
     DrawPlain(surface.dc(), font, area, text, style,
-              Blend(style.colour, style.ground, kFaintWeight, system));
+              Blend(writing.colour, style.ground, kFaintWeight, PlainColours()));
     return;
   }
-  const bool large = style.font.height >= Scaled(kLargeHeight, style.dpi);
-  const auto halo = HaloOf(style.colour, style.ground, style.halo_base, large, system);
-  if (!halo) {
-    DrawPlain(surface.dc(), font, area, text, style, style.colour);
+  if (!writing.halo) {
+    DrawPlain(surface.dc(), font, area, text, style, writing.colour);
     return;
   }
   const Mask letters = CoverageOf(font, {area.width(), area.height()}, text, style);
@@ -101,8 +109,8 @@ void PaintText(Ui& ui, Surface& surface, const Rect& box, const std::wstring& te
                           area.width());
   };
   for (int y = 0; y < image.height(); ++y) std::ranges::copy(row_of(y), image.Row(y).begin());
-  CompositeText(image, {0, 0}, letters, HaloMask(letters, ShapeFor(style, halo->edge)),
-                OpaquePixel(style.colour), OpaquePixel(halo->colour));
+  CompositeText(image, {0, 0}, letters, HaloMask(letters, ShapeFor(style)),
+                OpaquePixel(writing.colour), OpaquePixel(*writing.halo));
   for (int y = 0; y < image.height(); ++y) std::ranges::copy(image.Row(y), row_of(y).begin());
 }
 

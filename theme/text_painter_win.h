@@ -1,10 +1,10 @@
-// Text that can be read on any ground: where its own colour does not stand out enough, it gets a
-// halo.
+// Text that can be read on any ground: where its own colour does not stand out enough, it is
+// written in ink or with a halo.
 #pragma once
 
 #include <string>
 
-#include "theme/colour.h"
+#include "theme/contrast.h"
 #include "win/fonts.h"
 #include "win/surface.h"
 #include "win/ui.h"
@@ -13,12 +13,19 @@ namespace varnel {
 
 enum class Align { kLeft, kCentre, kRight };
 
+// How a text is judged: what reads as one with a larger text goes the way of that.
+enum class Reads { kByItsHeight, kAsLarge };
+
 // All colours are plain ones, no system colour names.
 struct TextStyle {
   FontSpec font;
   Colour colour = kWhite;
-  Colour ground = kBlack;     // what the text stands on
-  Colour halo_base = kBlack;  // the colour whose shades a halo is made of
+  Colour ground = kBlack;  // what the text stands on
+  Colour theme = kBlack;   // the colour whose shades ink and halo are made of
+  bool readable = true;    // ink and halo are wanted
+  // Ink wherever the colour needs help: small letters would lose their shape in a halo.
+  bool prefer_ink = false;
+  Reads reads = Reads::kByItsHeight;
   Align align = Align::kCentre;
   int side_room = 0;  // pixels kept free of letters at the left and right ends of the box
   int dpi = kDefaultDpi;
@@ -31,6 +38,12 @@ struct TextStyle {
 // too long for the box ends in an ellipsis. Only pixels inside the box change.
 void PaintText(Ui& ui, Surface& surface, const Rect& box, const std::wstring& text,
                const TextStyle& style);
+
+// Whether the text is judged as large: 18 points and more, or read as one with such a text.
+bool IsLarge(const TextStyle& style);
+
+// What PaintText writes with, before a faint text is lost in its ground.
+Writing WritingOf(const TextStyle& style);
 
 // The most room, in pixels, that a halo takes around text on a screen of `dpi`.
 int HaloRoom(int dpi);

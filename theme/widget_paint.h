@@ -10,6 +10,7 @@ struct WidgetPaint {
   ThemeRecord theme;  // holds plain colours, no names of system colours
   ChromeColours chrome;
   bool high_contrast = false;
+  bool readable = true;  // texts may be written in ink or with a halo
 };
 
 // Derives the colours of `theme` anew (ApplyChrome). With `high_contrast` everything has the

@@ -7,6 +7,7 @@
 
 #include "dialogs/theme/place_beside.h"
 #include "dialogs/theme/theme_preview_win.h"
+#include "frame/frame_settings.h"
 #include "resources/control_ids.h"
 #include "theme/preset_generator.h"
 #include "win/common_controls.h"
@@ -194,9 +195,12 @@ void ThemeDialog::ShowReadability() {
   show(lblREADBAR, icoREADBAR, readability.bar);
   show(lblREADPANEL, icoREADPANEL, readability.panel);
   const bool hard = HardToRead(readability.bar) || HardToRead(readability.panel);
-  SetControlText(lblREADHINT, hard ? L"Under 4.5 : 1 small text is hard to read. It is drawn with "
-                                     L"a rim to help."
-                                   : L"Both are easy to read.");
+  const bool helped = hard && ReadCheck(services_.settings, kMakeTextReadable);
+  SetControlText(lblREADHINT, !hard ? L"Both are easy to read."
+                              : helped
+                                  ? L"Under 4.5 : 1 small text is hard to read. It is written in "
+                                    L"a darker or lighter shade."
+                                  : L"Under 4.5 : 1 small text is hard to read.");
 }
 
 void ThemeDialog::EnableButtons() {
@@ -299,7 +303,8 @@ void ThemeDialog::Draw(const DRAWITEMSTRUCT& item) {
   const ThemeRecord& theme = editor_.theme();
   if (item.CtlID == picPREVIEW) {
     Surface surface({box.width(), box.height()});
-    PaintThemePreview(ui(), surface, theme, editor_.target_entry(), dpi, services_.colours);
+    PaintThemePreview(ui(), surface, theme, editor_.target_entry(), dpi,
+                      ReadCheck(services_.settings, kMakeTextReadable), services_.colours);
     surface.CopyTo(item.hDC, {0, 0});
   }
   for (const ColourField& colour : kColours) {

@@ -20,13 +20,8 @@ void PaintSampleWidget(Ui& ui, Surface& surface, const WidgetPaint& paint, const
   layout.title_text.right = layout.pfrBAR.right - Scaled(kMargin, dpi);  // there are no buttons
   PaintFrame(ui, surface,
              {layout, paint, std::wstring(entry.title), entry.glyph, L"Bottom bar", dpi});
-  TextStyle style;
-  style.font = {paint.theme.strTHEMEPANELFONTNAME, Scaled(kSampleHeight, dpi), false};
-  style.colour = paint.theme.lngTHEMEPANELFONTCOLOR;
-  style.ground = paint.chrome.ground;
-  style.halo_base = paint.theme.lngTHEMECOLOR;
-  style.dpi = dpi;
-  PaintText(ui, surface, layout.pfrPANEL, kSampleText, style);
+  PaintText(ui, surface, layout.pfrPANEL, kSampleText,
+            PanelTextStyle(paint, Scaled(kSampleHeight, dpi), dpi));
 }
 
 // Lays `upper` over `lower` with its corner at `at`; `alpha` 0 to 255.
@@ -51,8 +46,9 @@ void LayOver(Surface& lower, Surface& upper, Point at, int alpha) {
 }  // namespace
 
 void PaintThemePreview(Ui& ui, Surface& surface, ThemeRecord theme, const FormEntry& entry, int dpi,
-                       const SystemColours& system) {
-  const WidgetPaint paint = WidgetPaintOf(theme, false, system);
+                       bool readable, const SystemColours& system) {
+  WidgetPaint paint = WidgetPaintOf(theme, false, system);
+  paint.readable = readable;
   const Size size = surface.size();
   Image ground(size.width, size.height);
   FillGradient(ground, paint.theme.lngTHEMECOLOR, paint.theme.lngTHEMECOLORSUBTLE, kGradientAngle,

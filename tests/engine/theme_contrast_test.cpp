@@ -24,10 +24,10 @@ TEST(Contrast, KnownFigures) {
 }
 
 void ExpectReadable(Colour text, Colour ground, Colour theme) {
-  for (const double needed : {3.0, 4.5}) {
-    const auto halo = HaloColour(text, ground, theme, needed, kSystem);
-    const Colour behind = halo.value_or(Translate(ground, kSystem));
-    ASSERT_GE(ContrastRatio(Translate(text, kSystem), behind), needed)
+  for (const bool large : {false, true}) {
+    const Writing writing = WritingOf(text, ground, theme, large, false, kSystem);
+    const Colour behind = writing.halo.value_or(Translate(ground, kSystem));
+    ASSERT_GE(ContrastRatio(writing.colour, behind), large ? 3 : 4.5)
         << text << " on " << ground << " of theme " << theme;
   }
 }
@@ -54,40 +54,42 @@ TEST(Halo, StartsFromTheThemeAndLeadsAwayFromTheText) {
   EXPECT_EQ(HaloColour(0x606060, 0x606060, 0x606060, 21, kSystem), kWhite);
 }
 
-TEST(Halo, AnEdgeWhereTheTextLiesBetweenGroundAndHalo) {
+TEST(Writing, KeepsItsColourGetsAHaloOrGoesToInk) {
   const Colour kPink = ColourOf({185, 79, 188});     // 4 : 1 on white
   const Colour kGold = ColourOf({213, 157, 7});      // 2.4 : 1
   const Colour kSilver = ColourOf({220, 220, 220});  // 1.4 : 1
-  enum { kNone, kFull, kEdge };
+  enum { kPlain, kHalo, kInk };
   const struct {
     Colour text, ground;
-    bool large;
+    bool large, prefer_ink;
     int kind;
-    double contrast;
-  } cases[] = {{kPink, kWhite, true, kNone, 0},      {kPink, kWhite, false, kEdge, 4.5},
-               {kGold, kWhite, true, kEdge, 3},      {kGold, kWhite, false, kEdge, 4.5},
-               {kSilver, kWhite, true, kFull, 4.5},  {kWhite, kGold, true, kFull, 4.5},
-               {kBlack, kBlack, true, kFull, 4.5},   {kBlack, kWhite, false, kNone, 0},
-               {0x606060, 0x202020, true, kEdge, 3}, {0x606060, 0x202020, false, kEdge, 4.5}};
+  } cases[] = {{kPink, kWhite, true, true, kPlain},  // enough for large text
+               {kPink, kWhite, false, false, kInk},  // a halo would only thicken it
+               {kWhite, kPink, false, false, kHalo},   {kWhite, kPink, false, true, kInk},
+               {kWhite, kGold, true, false, kHalo},    {kWhite, kGold, false, false, kInk},
+               {kGold, kWhite, true, false, kInk},     {kWhite, kSilver, true, false, kInk},
+               {kBlack, kBlack, false, false, kInk},   {kBlack, kWhite, false, true, kPlain},
+               {0x606060, 0x202020, true, false, kInk}};
   for (const auto& test : cases) {
-    const auto halo = HaloOf(test.text, test.ground, test.ground, test.large, kSystem);
-    ASSERT_EQ(halo ? halo->edge ? kEdge : kFull : kNone, test.kind) << test.text << test.large;
-    if (halo) EXPECT_NEAR(ContrastRatio(test.text, halo->colour), test.contrast, 0.4) << test.text;
+    const Writing writing =
+        WritingOf(test.text, test.ground, kPink, test.large, test.prefer_ink, kSystem);
+    const int kind = writing.halo ? kHalo : writing.colour == test.text ? kPlain : kInk;
+    EXPECT_EQ(kind, test.kind) << test.text << " on " << test.ground << test.large;
   }
+  // Ink is a shade of the theme, away from the ground.
+  EXPECT_EQ(InkColour(kWhite, 0x800000, kSystem), 0x800000);
+  EXPECT_GT(ChannelsOf(InkColour(0x202020, 0x800000, kSystem)).blue, 0x80);
 }
 
-TEST(Halo, EveryColourCanBeMadeReadable) {
+TEST(Writing, EveryColourCanBeMadeReadable) {
   std::mt19937 random(11);
   const auto any = [&random] { return static_cast<Colour>(random() & 0xFFFFFF); };
   for (int round = 0; round < 4000; ++round) {
     ExpectReadable(any(), any(), any());
+    ExpectReadable(round % 256 * 0x010101, round % 256 * 0x010101, any());
+    ExpectReadable(any(), kNoColour, any());
     const Colour ground = any();
     ASSERT_GE(ContrastRatio(OutlineColour(any(), ground), ground), 3);
-  }
-  for (int grey = 0; grey < 256; ++grey) {
-    const Colour text = grey * 0x010101;
-    ExpectReadable(text, text, text);
-    ExpectReadable(text, kNoColour, any());
   }
 }
 

@@ -196,6 +196,8 @@ void CalculatorForm::DrawPanelButton(const ButtonPainting& painting) {
   toned.colours = SeenOnPanel(toned.colours);
   PaintButtonFace(toned, dpi());
   TextStyle style = PanelTextStyle(key_font_height_);
+  // The keys read as one, and those of the digits have the palest faces.
+  style.prefer_ink = ContrastRatio(style.colour, painting.colours.first) < kSmallInkContrast;
   style.ground = toned.colours.first;
   PaintText(ui(), painting.surface, painting.bounds, std::wstring(KeyFace(*key)), style);
 }

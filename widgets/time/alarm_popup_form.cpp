@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "frame/frame_painter_win.h"
+#include "frame/frame_settings.h"
 #include "frame/screens_win.h"
 #include "resources/control_ids.h"
 #include "theme/field_colours_win.h"
@@ -17,7 +19,7 @@ constexpr wchar_t kTitle[] = L"Alarm";
 constexpr wchar_t kBellGlyph[] = L"\xE265";
 constexpr wchar_t kCloseGlyph = L'\xE202';
 constexpr int kBar = 26;  // at 96 dpi, like all below
-constexpr int kMargin = 12;
+constexpr int kPopupMargin = 12;
 constexpr int kGlyph = 72;     // the bell's room at the left
 constexpr int kTime = 58;      // the alarm time's height
 constexpr int kMostPart = 60;  // of the work area's height, in hundredths
@@ -62,6 +64,7 @@ void AlarmPopup::Ring(const AlarmRing& ring) {
 void AlarmPopup::TakeTheme() {
   ThemeRecord theme = LoadTheme(services_.settings, L"frmCLKwg", services_.colours);
   paint_ = WidgetPaintOf(theme, HighContrastWanted(), services_.colours);
+  paint_.readable = ReadCheck(services_.settings, kMakeTextReadable);
   ::SetLayeredWindowAttributes(handle(), 0, WindowAlpha(paint_.theme.bytTHEMEOPACITY), LWA_ALPHA);
 }
 
@@ -72,7 +75,7 @@ void AlarmPopup::PlaceWindowFor(int height) {
   const int screen_dpi = screens.monitors.front().dpi;
   const Size size{PixelsFromTwips(kSizeTwips.width, screen_dpi),
                   std::max(height, PixelsFromTwips(kSizeTwips.height, screen_dpi))};
-  const int gap = Scaled(kMargin, screen_dpi);
+  const int gap = Scaled(kPopupMargin, screen_dpi);
   ::SetWindowPos(handle(), HWND_TOPMOST, area.right - size.width - gap,
                  area.bottom - size.height - gap, size.width, size.height,
                  SWP_NOACTIVATE | SWP_SHOWWINDOW);
@@ -84,20 +87,15 @@ void AlarmPopup::PutAway() {
 }
 
 TextStyle AlarmPopup::StyleOf(int height_at_96, Align align) const {
-  TextStyle style;
-  style.font = {paint_.theme.strTHEMEPANELFONTNAME, Scaled(height_at_96, dpi()), false};
-  style.colour = paint_.theme.lngTHEMEPANELFONTCOLOR;
-  style.ground = paint_.chrome.ground;
-  style.halo_base = paint_.theme.lngTHEMECOLOR;
+  TextStyle style = PanelTextStyle(paint_, Scaled(height_at_96, dpi()), dpi());
   style.align = align;
-  style.dpi = dpi();
   return style;
 }
 
 void AlarmPopup::LayOut() {
   const Rect area = client();
   const int bar = Scaled(kBar, dpi());
-  const int margin = Scaled(kMargin, dpi());
+  const int margin = Scaled(kPopupMargin, dpi());
   TextStyle title = StyleOf(13, Align::kLeft);
   title.font.face = paint_.theme.strTHEMEBARFONTNAME;
   title.colour = paint_.theme.lngTHEMEBARFONTCOLOR;
@@ -116,8 +114,8 @@ void AlarmPopup::LayOut() {
 // not become higher than `most`. The height that it needs.
 int AlarmPopup::LayOutTexts(int most) {
   const int left = Scaled(kGlyph, dpi());
-  const int right = client().right - Scaled(kMargin, dpi());
-  const int gap = Scaled(kMargin, dpi());
+  const int right = client().right - Scaled(kPopupMargin, dpi());
+  const int gap = Scaled(kPopupMargin, dpi());
   UniqueFont font = MakeFont(StyleOf(16, Align::kLeft).font);
   const int message = lablMESSAGE_.HeightFor(right - left, font.get());
   const int earlier = txtEARLIER_.HeightFor(right - left, font.get());
@@ -157,8 +155,7 @@ LRESULT AlarmPopup::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_MOUSEACTIVATE:
       return MA_NOACTIVATE;
     case WM_CTLCOLORSTATIC:
-      return ColourField(reinterpret_cast<HDC>(wparam), StyleOf(16, Align::kLeft),
-                         services_.colours);
+      return ColourField(reinterpret_cast<HDC>(wparam), StyleOf(16, Align::kLeft));
     case WM_COMMAND:
       if (LOWORD(wparam) == imgBUTCLOSE || LOWORD(wparam) == IDCANCEL) PutAway();
       return 0;
@@ -180,7 +177,7 @@ void AlarmPopup::DrawCloseButton(const DRAWITEMSTRUCT& item) {
   PaintTextButton(ui(),
                   {*button, surface, Inset(bounds, Scaled(2, dpi())), look,
                    ButtonColours(paint_, look, services_.colours), false, true},
-                  paint_.theme, {}, Scaled(14, dpi()), dpi());
+                  paint_, Scaled(14, dpi()), dpi());
   surface.CopyTo(item.hDC, {0, 0});
 }
 

@@ -68,14 +68,16 @@ void ClockForm::PlaceLabels() {
   const int room = HaloRoom(dpi());
   const Rect boxes[] = {labels_.time.box, labels_.seconds.box, labels_.marker.box,
                         labels_.date.box};
-  const auto place = [&](ThemedLabel& label, const LabelPlace& place) {
-    label.Place(Within(panel, Grown(place.box, room, boxes)), PanelTextStyle(place.font_height));
+  const auto place = [&](ThemedLabel& label, const LabelPlace& place, const TextStyle& style) {
+    label.Place(Within(panel, Grown(place.box, room, boxes)), style);
     label.Show(place.shown());
   };
-  place(lblPANECLOCK_, labels_.time);
-  place(lblSECS_, labels_.seconds);
-  place(lblSTYLE_, labels_.marker);
-  place(lbl7Sept2010_, labels_.date);
+  const TextStyle time = PanelTextStyle(labels_.time.font_height);
+  const Reads as_time = IsLarge(time) ? Reads::kAsLarge : Reads::kByItsHeight;
+  place(lblPANECLOCK_, labels_.time, time);
+  place(lblSECS_, labels_.seconds, PanelTextStyle(labels_.seconds.font_height, as_time));
+  place(lblSTYLE_, labels_.marker, PanelTextStyle(labels_.marker.font_height, as_time));
+  place(lbl7Sept2010_, labels_.date, PanelTextStyle(labels_.date.font_height));
 }
 
 std::wstring ClockForm::StatusText() const {

@@ -62,7 +62,8 @@ void CountdownForm::LayOutPanel(const Rect& panel) {
   const CountdownLayout place =
       LayOutCountdown({panel.width(), panel.height()}, dpi(), std::wstring(laid_out_digits_, L'0'),
                       FontMeasure(theme().strTHEMEPANELFONTNAME, false));
-  const TextStyle style = PanelTextStyle(place.font_height);
+  display_font_height_ = place.font_height;
+  const TextStyle style = FieldStyle(place.font_height);
   UniqueFont font = MakeFont(style.font);
   for (int i = 0; i < 3; ++i) {
     PlaceEditBox(::GetDlgItem(handle(), txtHRS + i), Within(panel, place.fields[i]), font.get());
@@ -77,9 +78,15 @@ void CountdownForm::LayOutPanel(const Rect& panel) {
   buttons().Place(lblStop, Within(panel, place.buttons.stop));
 }
 
+TextStyle CountdownForm::FieldStyle(int font_height) const {
+  TextStyle style = PanelTextStyle(font_height);
+  style.prefer_ink = true;
+  return style;
+}
+
 void CountdownForm::PlaceInterval(const CountdownLayout& place, const Rect& panel) {
   const bool shown = !place.interval_label.empty();
-  const TextStyle style = PanelTextStyle(place.interval_font_height);
+  const TextStyle style = FieldStyle(place.interval_font_height);
   for (int i = 0; i < 4; ++i) {
     const Rect& box = i == 0 ? place.interval_label : place.interval_units[i - 1];
     interval_labels_[i]->Place(Within(panel, box), style);
@@ -193,7 +200,9 @@ LRESULT CountdownForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     return 0;
   }
   if (message == WM_CTLCOLOREDIT) {
-    return ColourField(reinterpret_cast<HDC>(wparam), PanelTextStyle(1), services().colours);
+    const bool of_display = ::GetDlgCtrlID(reinterpret_cast<HWND>(lparam)) < txtSUBHRS;
+    return ColourField(reinterpret_cast<HDC>(wparam),
+                       PanelTextStyle(of_display ? display_font_height_ : 1));
   }
   return WidgetForm::OnMessage(message, wparam, lparam);
 }

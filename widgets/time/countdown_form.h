@@ -33,6 +33,7 @@ class CountdownForm : public WidgetForm {  // frmCDNwg
   // Of the display's longest field.
   std::size_t MostDigits() const;
   void ShowState();
+  TextStyle FieldStyle(int font_height) const;
   void PlaceInterval(const CountdownLayout& place, const Rect& panel);
 
   CountdownEngine engine_;
@@ -41,7 +42,8 @@ class CountdownForm : public WidgetForm {  // frmCDNwg
   std::array<std::unique_ptr<ThemedLabel>, 2> separators_;
   std::array<std::unique_ptr<ThemedLabel>, 4> interval_labels_;  // a word, then three units
   std::array<Rect, 3> interval_boxes_;  // in pixels of the panel; empty where not shown
-  UniqueFont display_font_;             // in use by the edit boxes
+  int display_font_height_ = 1;
+  UniqueFont display_font_;  // in use by the edit boxes
   UniqueFont interval_font_;
   Timer tmrTIMER_;
 };
