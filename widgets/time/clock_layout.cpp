@@ -6,7 +6,9 @@ namespace varnel {
 namespace {
 
 // In pixels at 96 dpi. Text smaller than its least is not worth its room.
-constexpr int kMargin = 8;
+constexpr int kMargin = 14;
+constexpr int kSmallMargin = 8;
+constexpr int kSmallPanel = 150;  // as high or as wide
 constexpr int kMostTime = 960;
 constexpr int kLeastTime = 20;
 constexpr int kLeastSeconds = 10;
@@ -19,6 +21,18 @@ constexpr int kSeconds = 45;
 constexpr int kMarker = 30;
 constexpr int kDate = 30;
 constexpr int kGap = 10;
+constexpr int kDateGap = 30;
+
+constexpr int kDateShare = 80;  // of the panel's width, in hundredths, where it can be read there
+constexpr int kWorthIt = 115;   // the time's height in another arrangement, in hundredths
+
+struct Arrangement {
+  bool stacked = false;      // seconds and marker stand in a row below the time
+  bool date_beside = false;  // the date stands at the right of everything else
+};
+constexpr Arrangement kUsual;
+constexpr Arrangement kTall{true, false};
+constexpr Arrangement kWide{false, true};
 
 int Part(int height, int hundredths) {
   return std::max(1, height * hundredths / 100);
@@ -44,31 +58,58 @@ struct Group {
   }
 };
 
-// The group with the time's baseline starting at (0, 0).
-Group Arrange(const Texts& texts, int height, int most_date, const TextMeasure& measure) {
-  Group group;
+// Seconds over AM or PM at the right of the time, whose baseline starts at (0, 0).
+void PlaceBeside(Group& group, const Texts& texts, int height, const TextMeasure& measure) {
   ClockLayout& layout = group.layout;
-  const TextExtent time = measure.Measure(texts.time, height);
-  layout.time = group.Place(time, height, {0, -time.ascent});
-  const int stack = time.width + Part(height, kGap);
+  const int left = layout.time.box.right + Part(height, kGap);
   if (!texts.marker.empty()) {
     const int font = Part(height, kMarker);
     const TextExtent marker = measure.Measure(texts.marker, font);
-    layout.marker = group.Place(marker, font, {stack, -marker.ascent});
+    layout.marker = group.Place(marker, font, {left, -marker.ascent});
   }
   if (!texts.seconds.empty()) {
     const int font = Part(height, kSeconds);
     const TextExtent seconds = measure.Measure(texts.seconds, font);
     const int top =
         layout.marker.shown() ? layout.marker.box.top - seconds.height : -seconds.ascent;
-    layout.seconds = group.Place(seconds, font, {stack, top});
+    layout.seconds = group.Place(seconds, font, {left, top});
   }
-  if (!texts.date.empty()) {
-    const int font = std::min(most_date, Part(height, kDate));
-    const TextExtent date = measure.Measure(texts.date, font);
-    const int middle = (group.bounds.left + group.bounds.right) / 2;
-    layout.date = group.Place(date, font, {middle - date.width / 2, group.bounds.bottom});
+}
+
+// Seconds and AM or PM in a row below the time, on one baseline.
+void PlaceBelow(Group& group, const Texts& texts, int height, const TextMeasure& measure) {
+  const int gap = Part(height, kGap);
+  const int seconds_font = Part(height, kSeconds);
+  const int marker_font = Part(height, kMarker);
+  const TextExtent seconds = measure.Measure(texts.seconds, seconds_font);
+  const TextExtent marker = measure.Measure(texts.marker, marker_font);
+  const int width = seconds.width + (seconds.width && marker.width ? gap : 0) + marker.width;
+  const int left = (group.bounds.left + group.bounds.right - width) / 2;
+  const int baseline = group.bounds.bottom + std::max(seconds.ascent, marker.ascent);
+  if (!texts.seconds.empty()) {
+    group.layout.seconds = group.Place(seconds, seconds_font, {left, baseline - seconds.ascent});
   }
+  if (!texts.marker.empty()) {
+    group.layout.marker =
+        group.Place(marker, marker_font, {left + width - marker.width, baseline - marker.ascent});
+  }
+}
+
+Group Arrange(const Texts& texts, const Arrangement& arrangement, int height, int most_date,
+              const TextMeasure& measure) {
+  Group group;
+  const TextExtent time = measure.Measure(texts.time, height);
+  group.layout.time = group.Place(time, height, {0, -time.ascent});
+  (arrangement.stacked ? PlaceBelow : PlaceBeside)(group, texts, height, measure);
+  if (texts.date.empty()) return group;
+  const int font = std::min(most_date, Part(height, kDate));
+  const TextExtent date = measure.Measure(texts.date, font);
+  const Rect& row = group.bounds;
+  const Point corner =
+      arrangement.date_beside
+          ? Point{row.right + Part(height, kDateGap), (row.top + row.bottom - date.height) / 2}
+          : Point{(row.left + row.right - date.width) / 2, row.bottom};
+  group.layout.date = group.Place(date, font, corner);
   return group;
 }
 
@@ -83,21 +124,20 @@ void MoveTo(LabelPlace& place, Point offset) {
                      {place.box.width(), place.box.height()});
 }
 
-// The largest layout of `texts` inside `area`; shows nothing when there is none.
-ClockLayout LargestLayout(const Texts& texts, const Rect& area, int most,
-                          const TextMeasure& measure) {
+// The largest layout of `texts` inside `area`, with a date of at most `most_date`; shows nothing
+// when there is none.
+ClockLayout LargestLayout(const Texts& texts, const Arrangement& arrangement, const Rect& area,
+                          int most, int most_date, const TextMeasure& measure) {
   const Size room{area.width(), area.height()};
-  const int most_date = FittingHeight(texts.date, room, Part(most, kDate), measure);
-  if (most_date == 0) return {};
   Texts widest = texts;
   widest.time = WithFullHour(texts.time);
   const auto size_at = [&](int height) {
-    const Rect bounds = Arrange(widest, height, most_date, measure).bounds;
+    const Rect bounds = Arrange(widest, arrangement, height, most_date, measure).bounds;
     return Size{bounds.width(), bounds.height()};
   };
   const int height = LargestFontIn(room, most, size_at);
   if (height == 0) return {};
-  Group group = Arrange(texts, height, most_date, measure);
+  Group group = Arrange(texts, arrangement, height, most_date, measure);
   const Point offset{area.left + (room.width - group.bounds.width()) / 2 - group.bounds.left,
                      area.top + (room.height - group.bounds.height()) / 2 - group.bounds.top};
   for (LabelPlace* place :
@@ -115,6 +155,29 @@ bool Readable(const Texts& texts, const ClockLayout& layout, int dpi) {
          reaches(texts.seconds, layout.seconds, kLeastSeconds) &&
          reaches(texts.marker, layout.marker, kLeastMarker) &&
          reaches(texts.date, layout.date, kLeastDate);
+}
+
+// The usual arrangement, unless another makes the time plainly larger.
+ClockLayout BestLayout(const Texts& texts, Size panel, int dpi, const TextMeasure& measure) {
+  const int small = Scaled(kSmallPanel, dpi);
+  const bool narrow = panel.width < small || panel.height < small;
+  const Rect area =
+      Inset({0, 0, panel.width, panel.height}, Scaled(narrow ? kSmallMargin : kMargin, dpi));
+  const int most = Scaled(kMostTime, dpi);
+  const Size room{area.width(), area.height()};
+  const Size share{std::min(room.width, panel.width * kDateShare / 100), room.height};
+  int most_date = FittingHeight(texts.date, share, Part(most, kDate), measure);
+  if (most_date < Scaled(kLeastDate, dpi)) {
+    most_date = FittingHeight(texts.date, room, Part(most, kDate), measure);
+  }
+  if (most_date == 0) return {};
+  ClockLayout best = LargestLayout(texts, kUsual, area, most, most_date, measure);
+  for (const Arrangement& other : {kTall, kWide}) {
+    const ClockLayout layout = LargestLayout(texts, other, area, most, most_date, measure);
+    const bool larger = layout.time.font_height * 100 > best.time.font_height * kWorthIt;
+    if (larger && Readable(texts, layout, dpi)) best = layout;
+  }
+  return best;
 }
 
 }  // namespace
@@ -152,16 +215,15 @@ std::wstring DateOf(const ClockDisplay& display, std::size_t choice) {
 
 ClockLayout LayOutClock(Size panel, int dpi, const ClockDisplay& display,
                         const TextMeasure& measure) {
-  const Rect area = Inset({0, 0, panel.width, panel.height}, Scaled(kMargin, dpi));
   Texts texts{WithWidestDigits(display.time, measure),
               display.seconds_shown ? WithWidestDigits(display.seconds, measure) : L"",
               display.marker_shown ? display.marker : L"", WithWidestDigits(display.date, measure)};
-  ClockLayout layout = LargestLayout(texts, area, Scaled(kMostTime, dpi), measure);
+  ClockLayout layout = BestLayout(texts, panel, dpi, measure);
   for (std::wstring* least_wanted : {&texts.date, &texts.seconds, &texts.marker}) {
     if (Readable(texts, layout, dpi)) break;
     if (least_wanted->empty()) continue;
     least_wanted->clear();
-    layout = LargestLayout(texts, area, Scaled(kMostTime, dpi), measure);
+    layout = BestLayout(texts, panel, dpi, measure);
   }
   return layout;
 }

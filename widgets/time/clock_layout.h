@@ -1,5 +1,7 @@
 // Where the clock's labels stand: the time as large as the panel allows, seconds over AM or PM at
-// its right, the date centred below, the whole group in the middle.
+// its right, the date centred below, the whole group in the middle. On a tall panel seconds and AM
+// or PM stand below the time, on a broad one the date at the right of all, where that makes the
+// time plainly larger.
 #pragma once
 
 #include "base/label_place.h"
