@@ -162,7 +162,7 @@ CharacterFormat FormatOfSelection(HWND rich_edit) {
   return FromSystem(format);
 }
 
-ParagraphFormat ParagraphOfSelection(HWND rich_edit) {
+RichParagraph ParagraphOfSelection(HWND rich_edit) {
   PARAFORMAT2 format = {};
   format.cbSize = sizeof format;
   SendRecord(rich_edit, EM_GETPARAFORMAT, 0, format);

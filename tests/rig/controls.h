@@ -49,6 +49,6 @@ std::vector<int> SelectedRows(HWND list_view);
 // A rich edit control: selects text, and tells the formats of what is selected.
 void SelectUnits(HWND rich_edit, int from, int to);
 CharacterFormat FormatOfSelection(HWND rich_edit);
-ParagraphFormat ParagraphOfSelection(HWND rich_edit);
+RichParagraph ParagraphOfSelection(HWND rich_edit);
 
 }  // namespace varnel::rig

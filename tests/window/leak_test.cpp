@@ -73,7 +73,7 @@ TEST(Leaks, AThousandThemesPaintedLeaveNothingBehind) {
     theme.lngTHEMECOLOR = i * 15'485;
     theme.lngTHEMECONTRAST = i % 256;
     theme.lngTHEMEBARFONTANGLE = i;
-    PaintThemePreview(ui, surface, theme, kManagerForm, 96, UserSystemColours());
+    PaintThemePreview(ui, surface, theme, kManagerForm, 96, true, UserSystemColours());
     PaintSwatch(surface.dc(), {10, 10, 40, 24}, theme.lngTHEMECOLOR, 96, UserSystemColours());
   };
   for (int i = 0; i < 10; ++i) paint(i);
