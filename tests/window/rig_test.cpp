@@ -62,8 +62,8 @@ TEST_F(Rig, RecordsAndLabelsComeFromOtherProgramsToo) {
   EXPECT_EQ(rig::SelectedUnits(edit.handle()), std::pair(66'000, 67'000));
   edit.SetFormat({.bold = true});
   EXPECT_EQ(rig::FormatOfSelection(edit.handle()).bold, true);
-  edit.SetParagraph({.alignment = Alignment::kCentre});
-  EXPECT_EQ(rig::ParagraphOfSelection(edit.handle()).alignment, Alignment::kCentre);
+  edit.SetParagraph({.alignment = RichAlignment::kCentre});
+  EXPECT_EQ(rig::ParagraphOfSelection(edit.handle()).alignment, RichAlignment::kCentre);
 
   HWND list = ::CreateWindowExW(0, WC_LISTVIEWW, L"", WS_CHILD | LVS_LIST, 0, 0, 100, 100,
                                 host_.handle(), nullptr, nullptr, nullptr);
