@@ -45,10 +45,6 @@ Point PixelCorner(const Place& place, const Screens& screens) {
           PixelsFromTwips(place.corner.y, screens.system_dpi)};
 }
 
-Size PixelSize(Size size, int dpi) {
-  return {PixelsFromTwips(size.width, dpi), PixelsFromTwips(size.height, dpi)};
-}
-
 // The monitor that shows most of `pixels`, or else the nearest one; null without any monitor.
 const Monitor* NearestMonitor(const Rect& pixels, const Screens& screens) {
   const Monitor* nearest = nullptr;
@@ -71,9 +67,15 @@ int DpiAt(Point pixel, const Screens& screens) {
   return monitor == nullptr ? screens.system_dpi : monitor->dpi;
 }
 
-// `place` with a window of `size` pixels, moved into the monitor's work area.
+// The part of the monitor where a window of `size` pixels belongs.
+const Rect& RoomFor(Size size, const Monitor& monitor) {
+  const Size whole = {monitor.area.width(), monitor.area.height()};
+  return size == whole ? monitor.area : monitor.work_area;
+}
+
+// `place` with a window of `size` pixels, moved to where it belongs on the monitor.
 Place MovedInside(const Place& place, Size size, const Monitor& monitor, const Screens& screens) {
-  const Rect& area = monitor.work_area;
+  const Rect& area = RoomFor(size, monitor);
   const Point corner = PixelCorner(place, screens);
   const Point inside = {std::max(std::min(corner.x, area.right - size.width), area.left),
                         std::max(std::min(corner.y, area.bottom - size.height), area.top)};
@@ -81,8 +83,8 @@ Place MovedInside(const Place& place, Size size, const Monitor& monitor, const S
 }
 
 Place FittedTo(const Monitor& monitor, const Place& place, const Screens& screens) {
-  const Rect& area = monitor.work_area;
   const Size size = PixelSize(place.size, monitor.dpi);
+  const Rect& area = RoomFor(size, monitor);
   const Size smallest = PixelSize(kSmallestSize, monitor.dpi);
   const Size fitted = {std::min(size.width, std::max(area.width(), smallest.width)),
                        std::min(size.height, std::max(area.height(), smallest.height))};
@@ -121,6 +123,10 @@ constexpr std::wstring_view kWidthName = L"Width";
 constexpr std::wstring_view kHeightName = L"Height";
 
 }  // namespace
+
+Size PixelSize(Size twips, int dpi) {
+  return {PixelsFromTwips(twips.width, dpi), PixelsFromTwips(twips.height, dpi)};
+}
 
 Rect PixelsFromPlace(const Place& place, const Screens& screens) {
   const Point corner = PixelCorner(place, screens);
@@ -162,6 +168,23 @@ Size SnapSize(const Place& place, const Screens& screens) {
             std::min(size.height, TwipsFromPixels(area.bottom - corner.y, monitor->dpi))};
   }
   return {std::max(size.width, kSmallestSize.width), std::max(size.height, kSmallestSize.height)};
+}
+
+Size SteppedSize(const Place& place, int across, int down, const Screens& screens) {
+  Place wanted = place;
+  wanted.size = {place.size.width + across, place.size.height + down};
+  const Size snapped = SnapSize(wanted, screens);
+  return {across == 0 ? place.size.width : snapped.width,
+          down == 0 ? place.size.height : snapped.height};
+}
+
+Place RestAfterDrag(const Rect& seen, const Place& meant, SnappedPosition& old,
+                    const Screens& screens) {
+  Place place = {PlaceFromPixels(seen, meant, screens).corner, meant.size};
+  SnapToGrid(place.corner, old);
+  const Monitor* monitor = NearestMonitor(seen, screens);
+  if (monitor == nullptr) return place;
+  return MovedInside(place, PixelSize(place.size, monitor->dpi), *monitor, screens);
 }
 
 Place FitPlace(const Place& place, const Screens& screens) {

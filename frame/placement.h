@@ -17,6 +17,7 @@ namespace varnel {
 struct Monitor {
   Rect work_area;  // pixels, without task bars; an empty one is passed over
   int dpi = kDefaultDpi;
+  Rect area = {};  // the whole of it; empty where nobody knows
 };
 
 struct Screens {
@@ -30,6 +31,9 @@ struct Place {
   Size size;
   bool operator==(const Place&) const = default;
 };
+
+// A window's size in pixels of a monitor with `dpi`.
+Size PixelSize(Size twips, int dpi);
 
 Rect PixelsFromPlace(const Place& place, const Screens& screens);
 // The place of a window that is seen at `pixels`. What `meant`, the place it was to have, gives the
@@ -57,8 +61,19 @@ Place KeepOnScreen(const Place& place, const Screens& screens);
 // smaller than kSmallestSize.
 Size SnapSize(const Place& place, const Screens& screens);
 
+// `place` with a size that is `across` and `down` twips more, held as SnapSize does; a direction
+// without a change keeps its length as it is.
+Size SteppedSize(const Place& place, int across, int down, const Screens& screens);
+
+// Where a window comes to rest that was to be at `meant` and has been dragged to `seen` (pixels):
+// snapped to the grid, then wholly in the work area of the monitor that shows most of it, with the
+// size that `meant` has there.
+Place RestAfterDrag(const Rect& seen, const Place& meant, SnappedPosition& old,
+                    const Screens& screens);
+
 // `place` brought wholly into the work area of the monitor nearest to its corner; a larger one is
-// made smaller, though not below kSmallestSize.
+// made smaller, though not below kSmallestSize. One that is exactly as large as the whole monitor
+// was made so on purpose, and covers it.
 Place FitPlace(const Place& place, const Screens& screens);
 
 // The place of a form that has none stored, in a tiling of the primary monitor three wide and three

@@ -10,7 +10,7 @@ namespace varnel {
 Screens CurrentScreens() {
   Screens screens;
   for (const MonitorInfo& monitor : Monitors()) {
-    screens.monitors.push_back({monitor.work_area, monitor.dpi});
+    screens.monitors.push_back({monitor.work_area, monitor.dpi, monitor.area});
   }
   screens.system_dpi = SystemDpi();
   return screens;

@@ -1,18 +1,27 @@
 #include "frame/text_buttons_form.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/image.h"
 #include "base/rounded_box.h"
 #include "frame/frame_painter_win.h"
+#include "win/system_rect.h"
 #include "win/window_text.h"
 
 namespace varnel {
 namespace {
 
+constexpr int kHoverTickMs = 100;
+constexpr int kBarGlyphHeight = 17;  // at 96 dpi
 constexpr double kCornerRadius = 4;  // at 96 dpi
 
 }  // namespace
+
+TextButtons::TextButtons(Window& owner)
+    : owner_(owner),
+      tmrBARBTNS_(owner, kHoverTickMs, [this] { HoverTick(tmrBARBTNS_); }),
+      tmrPANBTNS_(owner, kHoverTickMs, [this] { HoverTick(tmrPANBTNS_); }) {}
 
 bool TextButtons::Add(int id, const std::wstring& word, wchar_t glyph, bool on_bar) {
   HWND handle = ::CreateWindowExW(
@@ -47,34 +56,66 @@ void TextButtons::Enable(int id, bool on) {
   if (const TextButton* button = Find(id)) ::EnableWindow(button->handle, on);
 }
 
-bool TextButtons::OnMouseOver(HWND control) {
+void TextButtons::OnMouseOver(HWND control) {
   const auto found = std::ranges::find(buttons_, control, &TextButton::handle);
-  const int id = found == buttons_.end() ? 0 : found->id;
-  if (id == 0 || id == hovered_) return false;
+  if (found == buttons_.end() || found->id == hovered_) return;
   Repaint(hovered_);
-  hovered_ = id;
+  hovered_ = found->id;
   Repaint(hovered_);
   TellWord(*found);
-  return true;
+  (found->on_bar ? tmrBARBTNS_ : tmrPANBTNS_).Start();
 }
 
 void TextButtons::TellWord(const TextButton& button) {
   if (button.glyph) tooltip_.Attach(owner_.handle(), button.handle, WindowText(button.handle));
 }
 
-bool TextButtons::MouseHasLeft() {
+void TextButtons::HoverTick(Timer& timer) {
   POINT point = {};
   ::GetCursorPos(&point);
   const TextButton* button = hovered();
-  if (button && ::WindowFromPoint(point) == button->handle) return false;
-  Repaint(hovered_);
-  hovered_ = 0;
-  return true;
+  if (button && ::WindowFromPoint(point) == button->handle) return;
+  Repaint(std::exchange(hovered_, 0));
+  timer.Stop();
+}
+
+void TextButtons::ShowFocus(bool shown) {
+  if (std::exchange(focus_shown_, shown) == shown) return;
+  if (HWND focus = ::GetFocus(); ::IsChild(owner_.handle(), focus)) {
+    ::InvalidateRect(focus, nullptr, FALSE);
+  }
 }
 
 ButtonLook TextButtons::LookOf(const TextButton& button, const DRAWITEMSTRUCT& item) const {
   if (item.itemState & ODS_SELECTED) return ButtonLook::kPressed;
   return button.id == hovered_ ? ButtonLook::kHover : ButtonLook::kNormal;
+}
+
+void TextButtons::Draw(Ui& ui, const DRAWITEMSTRUCT& item, const WidgetPaint& paint,
+                       const SystemColours& system,
+                       const std::function<void(const ButtonPainting&)>& draw_on_panel) const {
+  const TextButton* button = Find(static_cast<int>(item.CtlID));
+  if (!button) return;
+  const Rect bounds = FromSystem(item.rcItem);
+  const int dpi = owner_.dpi();
+  const ButtonLook look = LookOf(*button, item);
+  const ColourPair colours = ButtonColours(paint, look, system);
+  Surface surface({bounds.width(), bounds.height()});
+  const bool on_bar = button->on_bar;
+  FillRectangle(surface.dc(), bounds, on_bar ? paint.chrome.bar.first : paint.chrome.ground);
+  const ButtonPainting painting{*button,
+                                surface,
+                                on_bar ? Inset(bounds, Scaled(2, dpi)) : bounds,
+                                look,
+                                on_bar ? colours : SeenOnPanel(paint, colours),
+                                (item.itemState & ODS_FOCUS) != 0 && focus_shown_,
+                                (item.itemState & ODS_DISABLED) == 0};
+  if (on_bar) {
+    PaintTextButton(ui, painting, paint, Scaled(kBarGlyphHeight, dpi), dpi);
+  } else {
+    draw_on_panel(painting);
+  }
+  surface.CopyTo(item.hDC, {0, 0});
 }
 
 void TextButtons::Repaint(int id) const {

@@ -3,13 +3,14 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
 #include "base/geometry.h"
-#include "theme/chrome_colours.h"
 #include "theme/text_painter_win.h"
 #include "theme/widget_paint.h"
+#include "win/timer.h"
 #include "win/tooltip.h"
 #include "win/window.h"
 
@@ -35,7 +36,8 @@ struct ButtonPainting {
 
 class TextButtons {
  public:
-  explicit TextButtons(Window& owner) : owner_(owner) {}
+  // `owner` outlives the buttons.
+  explicit TextButtons(Window& owner);
 
   // Makes a button with `word` as its window text, which is what it is called. False when the
   // system refuses.
@@ -49,24 +51,34 @@ class TextButtons {
 
   // The button under the mouse, or null.
   const TextButton* hovered() const { return hovered_ ? Find(hovered_) : nullptr; }
-  // Notes that the mouse is over `control` (any window). True when it has just come to a button;
-  // one that shows a glyph then tells its word.
-  bool OnMouseOver(HWND control);
+  // The mouse is over `control` (any window). A button lights up until the mouse has left it; one
+  // that shows a glyph tells its word.
+  void OnMouseOver(HWND control);
   // While not allowed no button tells its word.
   void AllowTooltip(bool allowed) { tooltip_.Allow(allowed); }
-  // Looks where the mouse is now. True when it has left the button that it was over.
-  bool MouseHasLeft();
+
+  // Whether the button that has the focus is to be seen to have it; not at first.
+  void ShowFocus(bool shown);
+  bool focus_shown() const { return focus_shown_; }
 
   ButtonLook LookOf(const TextButton& button, const DRAWITEMSTRUCT& item) const;
+  // Draws the button that `item` is of: the title bar's here, the panel's by `draw_on_panel`.
+  void Draw(Ui& ui, const DRAWITEMSTRUCT& item, const WidgetPaint& paint,
+            const SystemColours& system,
+            const std::function<void(const ButtonPainting&)>& draw_on_panel) const;
   void Repaint(int id) const;
 
  private:
   // In a tooltip, when the button shows a glyph.
   void TellWord(const TextButton& button);
+  void HoverTick(Timer& timer);
 
   Window& owner_;
   std::vector<TextButton> buttons_;
-  int hovered_ = 0;
+  int hovered_ = 0;  // the button under the mouse, or 0
+  bool focus_shown_ = false;
+  Timer tmrBARBTNS_;
+  Timer tmrPANBTNS_;
   Tooltip tooltip_;
 };
 

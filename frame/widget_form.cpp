@@ -1,29 +1,25 @@
 #include "frame/widget_form.h"
 
+#include <utility>
+
+#include "frame/command.h"
 #include "frame/frame_painter_win.h"
 #include "frame/frame_settings.h"
-#include "frame/screens_win.h"
-#include "frame/sizes.h"
 #include "resources/control_ids.h"
-#include "theme/contrast.h"
 #include "theme/theme_store.h"
 #include "win/message_box.h"
+#include "win/popup_menu.h"
+#include "win/system_rect.h"
 #include "win/user_look.h"
 
 namespace varnel {
 namespace {
 
-constexpr int kHoverTickMs = 100;
 constexpr wchar_t kBarGlyphs[] = {L'\xE204', L'\xE203', L'\xE202'};
 constexpr const wchar_t* kBarWords[] = {L"Menu", L"Hide", L"Close"};
-constexpr int kBarGlyphHeight = 17;
-constexpr double kVisibleFace = 1.1;  // the contrast of a button's face with the panel
 
-// The user wants to see the focus even while the mouse is used.
-bool KeyboardCuesAlways() {
-  BOOL always = FALSE;
-  ::SystemParametersInfoW(SPI_GETKEYBOARDCUES, 0, &always, 0);
-  return always;
+bool KeyDown(int key) {
+  return ::GetKeyState(key) < 0;
 }
 
 }  // namespace
@@ -33,18 +29,14 @@ WidgetForm::WidgetForm(Services& services, const FormEntry& entry, int index)
       services_(services),
       entry_(entry),
       index_(index),
-      buttons_(*this),
-      tmrBARBTNS_(*this, kHoverTickMs, [this] { HoverTick(tmrBARBTNS_); }),
-      tmrPANBTNS_(*this, kHoverTickMs, [this] { HoverTick(tmrPANBTNS_); }) {}
+      mover_(*this, services.settings, entry.form_name),
+      buttons_(*this) {}
 
 WidgetForm::~WidgetForm() {
   services_.forms.Remove(entry_.form_name, *this);
 }
 
 bool WidgetForm::Load() {
-  const Screens screens = CurrentScreens();
-  place_ = ReadPosition(services_.settings, entry_.form_name, DefaultPlace(index_, screens), true);
-  snapped_ = {place_.corner.x, place_.corner.y};
   theme_ = LoadTheme(services_.settings, entry_.form_name, services_.colours);
   Creation creation;
   creation.class_name = entry_.form_name.data();
@@ -53,14 +45,14 @@ bool WidgetForm::Load() {
   // Widgets are no entries of the task bar; the manager is.
   creation.extended_style =
       WS_EX_LAYERED | (index_ == kManagerIndex ? WS_EX_APPWINDOW : WS_EX_TOOLWINDOW);
-  creation.place = PixelsFromPlace(FitPlace(place_, screens), screens);
+  creation.place = mover_.Restore(index_);
   if (!Create(creation)) {
     ui().log.Write(L"no window for " + std::wstring(entry_.form_name));
     return false;
   }
   CreateBarButtons();
   OnLoad();
-  ShowFocus(KeyboardCuesAlways());
+  buttons_.ShowFocus(KeyboardPreferred());
   services_.forms.Add(entry_.form_name, *this);
   ApplyChrome();
   Form_Resize();
@@ -74,14 +66,6 @@ void WidgetForm::Unload() {
   OnUnload();
   services_.forms.Remove(entry_.form_name, *this);
   Destroy();
-}
-
-void WidgetForm::SavePlace() {
-  if (!handle()) return;
-  const WindowState state = ::IsIconic(handle())   ? WindowState::kMinimised
-                            : ::IsZoomed(handle()) ? WindowState::kMaximised
-                                                   : WindowState::kNormal;
-  SavePosition(services_.settings, entry_.form_name, state, place_, true);
 }
 
 bool WidgetForm::MayClose() {
@@ -160,13 +144,6 @@ TextStyle WidgetForm::PanelTextStyle(int font_height, Reads reads) const {
   return varnel::PanelTextStyle(paint_, font_height, dpi(), reads);
 }
 
-void WidgetForm::ShowFocus(bool shown) {
-  if (std::exchange(focus_shown_, shown) == shown) return;
-  if (HWND focus = ::GetFocus(); ::IsChild(handle(), focus)) {
-    ::InvalidateRect(focus, nullptr, FALSE);
-  }
-}
-
 void WidgetForm::RepaintStatus() {
   const RECT strip = ToSystem(layout_.picBOTTOMSTRIP);
   ::InvalidateRect(handle(), &strip, FALSE);
@@ -178,50 +155,163 @@ void WidgetForm::Paint(Surface& surface) {
   PaintPanel(surface, layout_.pfrPANEL);
 }
 
-void WidgetForm::DrawButton(const DRAWITEMSTRUCT& item) {
-  const TextButton* button = buttons_.Find(static_cast<int>(item.CtlID));
-  if (!button) return;
-  const Rect bounds = FromSystem(item.rcItem);
-  Surface surface({bounds.width(), bounds.height()});
-  FillRectangle(surface.dc(), bounds, button->on_bar ? chrome().bar.first : chrome().ground);
-  const ButtonLook look = buttons_.LookOf(*button, item);
-  const ColourPair colours = ButtonColours(paint_, look, services_.colours);
-  const ButtonPainting painting{*button,
-                                surface,
-                                bounds,
-                                look,
-                                button->on_bar ? colours : SeenOnPanel(colours),
-                                (item.itemState & ODS_FOCUS) != 0 && focus_shown_,
-                                (item.itemState & ODS_DISABLED) == 0};
-  if (button->on_bar) {
-    ButtonPainting small = painting;
-    small.bounds = Inset(bounds, Scaled(2, dpi()));
-    PaintTextButton(ui(), small, paint_, Scaled(kBarGlyphHeight, dpi()), dpi());
-  } else {
-    DrawPanelButton(painting);
-  }
-  surface.CopyTo(item.hDC, {0, 0});
-}
-
-ColourPair WidgetForm::SeenOnPanel(const ColourPair& button) const {
-  const bool lost = ContrastRatio(button.first, chrome().ground) < kVisibleFace;
-  return {button.first, lost ? chrome().border : button.second};
-}
-
 void WidgetForm::DrawPanelButton(const ButtonPainting& painting) {
   PaintTextButton(ui(), painting, paint_, painting.bounds.height() * 2 / 5, dpi());
 }
 
+void WidgetForm::OnCommand(int id, int code, HWND control) {
+  if (!control) {
+    // The system's own handling of Enter and Esc sends commands without a control.
+    if (id == IDOK) ::SendMessageW(::GetFocus(), BM_CLICK, 0, 0);
+    if (id != IDOK && id != IDCANCEL) RunCommand(id);
+    return;
+  }
+  if (code == BN_DBLCLK && buttons_.Find(id) && SecondClickCounts(id)) code = BN_CLICKED;
+  if (code == BN_CLICKED && id == lablTBARTOP) {
+    const Rect window = screen_rect();
+    ShowMenu({window.left + layout_.bar_buttons[0].left, window.top + layout_.pfrBAR.bottom});
+  } else if (code == BN_CLICKED && id == lablTBARTOP + 1) {
+    MinimiseToTaskBar(handle());
+  } else if (code == BN_CLICKED && id == lablTBARTOP + 2) {
+    OnCloseButton();
+  } else {
+    OnControl(id, code);
+  }
+}
+
+void WidgetForm::OnCloseButton() {
+  services_.program.WidgetCheck(index_);
+}
+
+bool WidgetForm::OnSightMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+  switch (message) {
+    case WM_CLOSE:
+      // What the user does arrives as a system command: this comes from another program.
+      services_.program.CloseFromOutside(index_);
+      return true;
+    case WM_SYSCOMMAND:
+      return OnSystemCommand(wparam & 0xFFF0);
+    case WM_SIZE:
+      services_.program.SightChanged(index_);
+      return false;
+    case WM_WINDOWPOSCHANGED:
+      if (reinterpret_cast<const WINDOWPOS*>(lparam)->flags & (SWP_SHOWWINDOW | SWP_HIDEWINDOW)) {
+        services_.program.SightChanged(index_);
+      }
+      return false;
+    default:
+      return false;
+  }
+}
+
+bool WidgetForm::OnSystemCommand(WPARAM command) {
+  switch (command) {
+    case SC_CLOSE:
+      OnCloseButton();
+      return true;
+    case SC_MINIMIZE:
+      MinimiseToTaskBar(handle());
+      return true;
+    case SC_RESTORE:
+      RefreshContent();
+      BringIntoSight(handle(), SW_SHOWNORMAL, index_ != kManagerIndex);
+      return true;
+    default:
+      return false;
+  }
+}
+
+void WidgetForm::RunCommand(int id) {
+  services_.program.SetCurrentWidget(entry_.form_name);
+  if (id == CommandId(TopCommand())) {
+    SetOnTop(!on_top_);
+  } else if (!RunOwnCommand(id)) {
+    services_.program.RunCommand(id);
+  }
+}
+
+std::wstring_view WidgetForm::TopCommand() const {
+  return entry_.top_command.empty() ? kTopCommand : entry_.top_command;
+}
+
+void WidgetForm::ShowMenu(Point at) {
+  services_.program.SetCurrentWidget(entry_.form_name);
+  std::vector<MenuItem> items = MenuGroup();
+  if (!items.empty()) items.push_back(MenuSeparator());
+  for (MenuItem& item : services_.program.SharedMenu()) {
+    // The widget's own command stands in for the shared one: nobody wants both.
+    if (item.id == CommandId(kTopCommand)) item.id = CommandId(TopCommand());
+    items.push_back(std::move(item));
+  }
+  buttons_.AllowTooltip(false);  // it would lie over the menu
+  const int chosen = ShowPopupMenu(handle(), at, items);
+  if (handle()) buttons_.AllowTooltip(true);
+  RunCommand(chosen);
+}
+
+void WidgetForm::OnContextMenu(LPARAM position) {
+  // A menu would keep the end of the movement from the window, which would follow the mouse on.
+  if (mover_.dragging()) return;
+  if (position == -1) {  // asked for by key
+    const Rect window = screen_rect();
+    ShowMenu({window.left + layout_.title_text.left, window.top + layout_.pfrBAR.bottom});
+  } else {
+    ShowMenu({static_cast<short>(LOWORD(position)), static_cast<short>(HIWORD(position))});
+  }
+}
+
+bool WidgetForm::OnMouseOver(HWND control) {
+  if (!services_.program.closing()) buttons_.OnMouseOver(control);
+  POINT mouse = {};
+  ::GetCursorPos(&mouse);
+  const Rect grip = Within(screen_rect(), layout_.size_grip);
+  if (control != handle() || !grip.Contains({static_cast<int>(mouse.x), static_cast<int>(mouse.y)}))
+    return false;
+  ::SetCursor(::LoadCursorW(nullptr, MAKEINTRESOURCEW(32642)));  // the diagonal arrows
+  return true;
+}
+
+void WidgetForm::OnLeftButtonDown(Point at) {
+  if (layout_.pfrBAR.Contains(at)) {
+    mover_.DragByBar();
+  } else if (layout_.size_grip.Contains(at)) {
+    mover_.DragByGrip();
+  }
+}
+
+void WidgetForm::SetSize(int width, int height) {
+  mover_.SetSize({width, height});
+}
+
+void WidgetForm::MoveToDefaultPlace() {
+  mover_.Settle(DefaultPlace(index_, CurrentScreens()));
+}
+
+bool WidgetForm::OnKey(const MSG& message) {
+  const bool down = message.message == WM_KEYDOWN;
+  if (down || message.message == WM_SYSKEYDOWN) buttons_.ShowFocus(true);
+  if (!down || !KeyDown(VK_CONTROL)) return false;
+  const WPARAM key = message.wParam;
+  const Point direction = {(key == VK_RIGHT) - (key == VK_LEFT), (key == VK_DOWN) - (key == VK_UP)};
+  if (direction == Point{}) return false;
+  if (KeyDown(VK_SHIFT)) {
+    mover_.SizeByStep(direction);
+  } else {
+    mover_.MoveByStep(direction);
+  }
+  return true;
+}
+
 LRESULT WidgetForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
   if (OnSightMessage(message, wparam, lparam)) return 0;
+  if (const auto result = mover_.OnMessage(message, wparam, lparam)) return *result;
+  if (OnChange(message, wparam)) return 0;
   switch (message) {
     case WM_DRAWITEM:
-      DrawButton(*reinterpret_cast<const DRAWITEMSTRUCT*>(lparam));
+      buttons_.Draw(ui(), *reinterpret_cast<const DRAWITEMSTRUCT*>(lparam), paint_,
+                    services_.colours,
+                    [this](const ButtonPainting& painting) { DrawPanelButton(painting); });
       return TRUE;
-    case WM_SIZE:
-      // Not before there are controls, nor for the icon that a minimised window has become.
-      if (!buttons_.all().empty() && wparam != SIZE_MINIMIZED) Form_Resize();
-      return 0;
     case WM_COMMAND:
       OnCommand(LOWORD(wparam), HIWORD(wparam), reinterpret_cast<HWND>(lparam));
       return 0;
@@ -234,17 +324,9 @@ LRESULT WidgetForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_LBUTTONDOWN:
       OnLeftButtonDown({static_cast<short>(LOWORD(lparam)), static_cast<short>(HIWORD(lparam))});
       return 0;
-    case WM_MOUSEMOVE:
-      if (sizing_) DragSize();
-      return 0;
-    case WM_LBUTTONUP:
-      ::ReleaseCapture();
-      return 0;
-    case WM_CAPTURECHANGED:
-      if (std::exchange(sizing_, false)) SavePlace();
-      return 0;
     case WM_PARENTNOTIFY:
-      if (LOWORD(wparam) == WM_LBUTTONDOWN) ShowFocus(KeyboardCuesAlways());
+      // The mouse is used: where the keyboard goes to is of no interest.
+      if (LOWORD(wparam) == WM_LBUTTONDOWN) buttons_.ShowFocus(KeyboardPreferred());
       return 0;
     case WM_ACTIVATE:
       if (LOWORD(wparam) == WA_INACTIVE) last_focus_ = ::GetFocus();
@@ -252,23 +334,31 @@ LRESULT WidgetForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_SETFOCUS:
       if (::IsChild(handle(), last_focus_)) ::SetFocus(last_focus_);
       return 0;
-    case WM_DISPLAYCHANGE:
-      ReturnToScreen();
-      return 0;
-    case WM_SETTINGCHANGE:
-      ReturnToScreen();
-      if (HighContrastWanted() != paint_.high_contrast) OnLookChanged();
-      return 0;
-    case WM_DPICHANGED:
-      OnDpiChanged(*reinterpret_cast<const RECT*>(lparam));
-      return 0;
-    case WM_SYSCOLORCHANGE:
-      OnLookChanged();
-      return 0;
     default:
       break;
   }
   return PaintedWindow::OnMessage(message, wparam, lparam);
+}
+
+bool WidgetForm::OnChange(UINT message, WPARAM wparam) {
+  switch (message) {
+    case WM_SIZE:
+      // Not before there are controls, nor for the icon that a minimised window has become.
+      if (!buttons_.all().empty() && wparam != SIZE_MINIMIZED) Form_Resize();
+      return true;
+    case WM_SETTINGCHANGE:
+      if (HighContrastWanted() != paint_.high_contrast) OnLookChanged();
+      return true;
+    case WM_DPICHANGED:
+      Form_Resize();
+      WidgetRefresh();
+      return true;
+    case WM_SYSCOLORCHANGE:
+      OnLookChanged();
+      return true;
+    default:
+      return false;
+  }
 }
 
 }  // namespace varnel

@@ -7,15 +7,14 @@
 #include "base/menu.h"
 #include "frame/form_registry.h"
 #include "frame/frame_layout.h"
-#include "frame/placement.h"
 #include "frame/save_reason.h"
 #include "frame/services.h"
 #include "frame/sight_win.h"
 #include "frame/text_buttons_form.h"
+#include "frame/window_mover_win.h"
 #include "theme/text_painter_win.h"
 #include "theme/widget_paint.h"
 #include "win/painted_window.h"
-#include "win/timer.h"
 
 namespace varnel {
 
@@ -29,7 +28,7 @@ class WidgetForm : public PaintedWindow, public LiveForm {
   bool Load();
   // Saves the place and removes the window.
   void Unload();
-  void SavePlace();
+  void SavePlace() { mover_.Save(); }
   // Showing restores what is minimised.
   void Show(bool shown);
   Sight sight() const { return SightOf(handle()); }
@@ -87,18 +86,13 @@ class WidgetForm : public PaintedWindow, public LiveForm {
   TextButtons& buttons() { return buttons_; }
   // A style for texts on the panel: the theme's panel font and colour.
   TextStyle PanelTextStyle(int font_height, Reads reads = Reads::kByItsHeight) const;
-  // A button's face and outline; a face that is lost in the panel gets an outline that is not.
-  ColourPair SeenOnPanel(const ColourPair& button) const;
   void RepaintStatus();
 
  private:
   void CreateBarButtons();
   // The system's colours or the user's wishes have changed.
   void OnLookChanged();
-  // The focus is shown once the keyboard is used, until the mouse is.
-  void ShowFocus(bool shown);
   void Paint(Surface& surface) override;
-  void DrawButton(const DRAWITEMSTRUCT& item);
   void OnCommand(int id, int code, HWND control);
   void RunCommand(int id);
   void ShowMenu(Point at);
@@ -107,21 +101,13 @@ class WidgetForm : public PaintedWindow, public LiveForm {
   void OnContextMenu(LPARAM position);
   // True when the pointer has been given its shape.
   bool OnMouseOver(HWND control);
-  void HoverTick(Timer& timer);
   // Closing, and coming into sight or going out of it; true when the message is dealt with.
   bool OnSightMessage(UINT message, WPARAM wparam, LPARAM lparam);
   // The user's wishes from outside the panel: task bar, Alt+F4. True when it was one of them.
   bool OnSystemCommand(WPARAM command);
   void OnLeftButtonDown(Point at);
-  void DragStart();
-  void DragSize();
-  bool OnArrow(WPARAM key, bool sizing);
-  // The first shows the form at its new place as far as the screens allow; the second saves, too.
-  void MoveTo(const Place& place);
-  void Settle(const Place& place);
-  void SnapAndKeep();
-  void ReturnToScreen();
-  void OnDpiChanged(const RECT& suggested);
+  // The size, the resolution or the look has changed; false for other messages.
+  bool OnChange(UINT message, WPARAM wparam);
 
   Services& services_;
   const FormEntry& entry_;
@@ -129,17 +115,11 @@ class WidgetForm : public PaintedWindow, public LiveForm {
   ThemeRecord theme_;
   WidgetPaint paint_;
   FrameLayout layout_;
-  Place place_;  // as the user wished it; the window may have had to go elsewhere
-  SnappedPosition snapped_;
+  WindowMover mover_;
   bool on_top_ = false;
   bool own_on_top_ = false;  // on_top_ was chosen for this window alone
-  bool sizing_ = false;
-  bool moving_ = false;  // the system moves the window after the mouse
-  bool focus_shown_ = false;
   HWND last_focus_ = nullptr;
   TextButtons buttons_;
-  Timer tmrBARBTNS_;
-  Timer tmrPANBTNS_;
 };
 
 }  // namespace varnel

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "base/halo.h"
+#include "win/system_rect.h"
 
 namespace varnel {
 namespace {

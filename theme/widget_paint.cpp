@@ -1,5 +1,7 @@
 #include "theme/widget_paint.h"
 
+#include "theme/contrast.h"
+
 namespace varnel {
 namespace {
 
@@ -35,6 +37,12 @@ ColourPair ButtonColours(const WidgetPaint& paint, ButtonLook look, const System
   const int face = look == ButtonLook::kPressed ? kHighlight : kButtonFace;
   const int outline = look == ButtonLook::kNormal ? kButtonText : kHighlight;
   return {system.Resolve(face), system.Resolve(outline)};
+}
+
+ColourPair SeenOnPanel(const WidgetPaint& paint, const ColourPair& button) {
+  constexpr double kVisibleFace = 1.1;
+  const bool lost = ContrastRatio(button.first, paint.chrome.ground) < kVisibleFace;
+  return {button.first, lost ? paint.chrome.border : button.second};
 }
 
 ColourPair CardColours(const WidgetPaint& paint, const SystemColours& system) {

@@ -19,6 +19,9 @@ WidgetPaint WidgetPaintOf(ThemeRecord& theme, bool high_contrast, const SystemCo
 
 ColourPair ButtonColours(const WidgetPaint& paint, ButtonLook look, const SystemColours& system);
 
+// A button's face and outline on the panel: a face that is lost there gets an outline that is not.
+ColourPair SeenOnPanel(const WidgetPaint& paint, const ColourPair& button);
+
 // The face of a card on the panel, between the ground and a button's face, and its outline.
 ColourPair CardColours(const WidgetPaint& paint, const SystemColours& system);
 

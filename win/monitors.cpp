@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "win/late_function.h"
-#include "win/surface.h"
+#include "win/system_rect.h"
 
 namespace varnel {
 namespace {

@@ -8,6 +8,7 @@
 #include "base/metafile.h"
 #include "win/com.h"
 #include "win/surface.h"
+#include "win/system_rect.h"
 
 namespace varnel {
 namespace {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "win/system_rect.h"
+
 namespace varnel {
 
 Surface::Surface(Size size)

@@ -40,12 +40,4 @@ void FillRectangle(HDC dc, const Rect& rect, COLORREF colour);
 // A one-pixel line inside the edges of `rect`.
 void FrameRectangle(HDC dc, const Rect& rect, COLORREF colour);
 
-inline RECT ToSystem(const Rect& rect) {
-  return {rect.left, rect.top, rect.right, rect.bottom};
-}
-inline Rect FromSystem(const RECT& rect) {
-  return {static_cast<int>(rect.left), static_cast<int>(rect.top), static_cast<int>(rect.right),
-          static_cast<int>(rect.bottom)};
-}
-
 }  // namespace varnel

@@ -11,4 +11,11 @@ bool HighContrastWanted() {
          (setting.dwFlags & HCF_HIGHCONTRASTON);
 }
 
+// Not the setting for keyboard cues: that one is about underlined letters, and some systems have it
+// on for everybody.
+bool KeyboardPreferred() {
+  BOOL preferred = FALSE;
+  return ::SystemParametersInfoW(SPI_GETKEYBOARDPREF, 0, &preferred, 0) && preferred;
+}
+
 }  // namespace varnel

@@ -6,4 +6,7 @@ namespace varnel {
 // The system's high-contrast setting is on.
 bool HighContrastWanted();
 
+// The user works by keyboard and wants to see always where it goes to.
+bool KeyboardPreferred();
+
 }  // namespace varnel

@@ -5,7 +5,7 @@
 
 #include "base/number_text.h"
 #include "base/text.h"
-#include "win/surface.h"
+#include "win/system_rect.h"
 #include "win/timer.h"
 
 namespace varnel {

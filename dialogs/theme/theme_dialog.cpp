@@ -12,6 +12,7 @@
 #include "theme/preset_generator.h"
 #include "win/common_controls.h"
 #include "win/monitors.h"
+#include "win/system_rect.h"
 
 namespace varnel {
 namespace {

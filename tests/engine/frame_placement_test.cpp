@@ -167,6 +167,50 @@ TEST(SizeGrip, KeepsToTheGridTheSmallestSizeAndTheScreen) {
   EXPECT_EQ(SnapSize({{0, 0}, {90'000, 90'000}}, Screens{}), (Size{90'000, 90'000}));
 }
 
+TEST(SizeGrip, AStepInOneDirectionLeavesTheOtherLength) {
+  const Place odd{{1500, 1500}, {5905, 3471}};
+  EXPECT_EQ(SteppedSize(odd, kGridStep, 0, kOne), (Size{6000, 3471}));
+  EXPECT_EQ(SteppedSize(odd, 0, -kGridStep, kOne), (Size{5905, 3300}));
+  EXPECT_EQ(SteppedSize({{0, 0}, {2405, 90'000}}, -kGridStep, 0, kOne), (Size{2400, 90'000}));
+}
+
+TEST(FitPlace, LeavesTheWholeScreenToWhatIsExactlyAsLarge) {
+  // The task bar is above; the second monitor is sharper.
+  const Screens screens{{{{0, 40, 1280, 800}, 96, {0, 0, 1280, 800}},
+                         {{1280, 0, 3840, 1400}, 192, {1280, 0, 3840, 1440}}},
+                        96};
+  const Place whole{{1500, 1500}, {1280 * 15, 800 * 15}};
+  EXPECT_EQ(PixelsFromPlace(FitPlace(whole, screens), screens), (Rect{0, 0, 1280, 800}));
+  const Place sharp{{1300 * 15, 1500}, {19'200, 10'800}};
+  EXPECT_EQ(PixelsFromPlace(FitPlace(sharp, screens), screens), (Rect{1280, 0, 3840, 1440}));
+  const Place less{{1500, 1500}, {1280 * 15, 799 * 15}};
+  EXPECT_EQ(PixelsFromPlace(FitPlace(less, screens), screens), screens.monitors[0].work_area);
+}
+
+TEST(RestAfterDrag, OnTheMonitorThatShowsMostWithItsSize) {
+  const Screens screens{{{{0, 0, 1280, 800}, 96}, {{1280, 0, 3840, 1440}, 192}}, 96};
+  const Place meant{{1500, 1500}, {6000, 3000}};  // 400 x 200 pixels, 800 x 400 on the right
+  struct Drop {
+    Rect seen;
+    Rect rest;
+  };
+  const Drop drops[] = {
+      {{1100, 100, 1500, 300}, {1280, 100, 2080, 500}},  // more than half is on the right
+      {{1000, 104, 1400, 304}, {880, 100, 1280, 300}},
+      {{1000, 100, 1800, 500}, {1280, 100, 2080, 500}},  // scaled by the system on its way
+      {{2004, 96, 2804, 496}, {2000, 100, 2800, 500}},
+  };
+  for (const auto& [seen, rest] : drops) {
+    SnappedPosition old;
+    const Place place = RestAfterDrag(seen, meant, old, screens);
+    EXPECT_EQ(PixelsFromPlace(place, screens), rest);
+    EXPECT_EQ(place.size, meant.size);
+    EXPECT_EQ(FitPlace(place, screens), place);
+  }
+  SnappedPosition old;
+  EXPECT_EQ(RestAfterDrag({104, 95, 504, 295}, meant, old, Screens{}).corner, (Point{1500, 1500}));
+}
+
 TEST(DefaultPlace, TilesThePrimaryMonitor) {
   EXPECT_EQ(DefaultPlace(kManagerIndex, kOne), (Place{{150, 150}, DefaultSize()}));
   EXPECT_EQ(DefaultPlace(0, kOne).corner, (Point{6300, 150}));

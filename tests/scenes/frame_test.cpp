@@ -109,6 +109,7 @@ TEST_F(Frame, KeysMoveAndSizeTheWindowAndWalkTheButtons) {
   EXPECT_SOON_EQ(RectOf(clock_).top, start.top + kGrid);
   Chord({VK_CONTROL, VK_SHIFT, VK_RIGHT});
   EXPECT_SOON(RectOf(clock_).width() > start.width());
+  EXPECT_EQ(RectOf(clock_).height(), start.height());
 
   const Picture before = StillPictureOf(Control(clock_, lablTBARTOP));
   PressKey(VK_TAB);

@@ -193,7 +193,7 @@ void CalculatorForm::DrawPanelButton(const ButtonPainting& painting) {
   if (!key) return;
   ButtonPainting toned = painting;
   toned.colours.first = Toned(painting.colours.first, FaceWeight(*key));
-  toned.colours = SeenOnPanel(toned.colours);
+  toned.colours = SeenOnPanel(paint(), toned.colours);
   PaintButtonFace(toned, dpi());
   TextStyle style = PanelTextStyle(key_font_height_);
   // The keys read as one, and those of the digits have the palest faces.
