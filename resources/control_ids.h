@@ -151,3 +151,26 @@
 #define optTEMP 1530       // 0 Celsius, 1 Fahrenheit
 #define cmdOKfrmWTHpr 1
 #define cmdCancelfrmWTHpr 2
+
+// The dialogs for the folders of documents
+#define txtLOCATION 1650
+#define cmdBrowse 1651
+
+// frmWBDwg, the whiteboard; its list is lvwFILES
+#define picMAINBOARD 1700
+#define lblWhiteboard 1701
+#define lblTestfrmWBDwg 1702  // the pen, beside the board
+#define cmdPEN 1710           // 0 to 7, one a pen; the last is the eraser
+#define cmdPENS 1718          // all pens, where there is no room for each
+#define cmdBOARDTOOL 1720     // 0 to 6: pen width, text, picture, undo, redo, new, list
+
+// frmWBDit, the whiteboard's text
+#define txtINSE 1740
+#define cboSIZE 1741
+#define cmdOKfrmWBDit 1
+#define cmdCancelfrmWBDit 2
+
+// frmWBDpr, the whiteboard's folder
+#define lblQUESTION 1745
+#define cmdOKfrmWBDpr 1
+#define cmdCancelfrmWBDpr 2

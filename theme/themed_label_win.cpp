@@ -49,9 +49,13 @@ LRESULT ThemedLabel::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
   return PaintedWindow::OnMessage(message, wparam, lparam);
 }
 
+void ThemedLabel::PaintGround(Surface& surface) {
+  FillRectangle(surface.dc(), client(), style_.ground);
+}
+
 void ThemedLabel::Paint(Surface& surface) {
   const Rect area = client();
-  FillRectangle(surface.dc(), area, style_.ground);
+  PaintGround(surface);
   std::wstring text = shown_text_;
   if (first_seen_ > 0) text.replace(0, first_seen_, L"\x2026");
   PaintText(ui(), surface, area, text, style_);

@@ -23,6 +23,10 @@ class ThemedLabel : public PaintedWindow {
   void Place(const Rect& box, const TextStyle& style);
   void Show(bool shown);
 
+ protected:
+  // Fills the label with what its text stands on.
+  virtual void PaintGround(Surface& surface);
+
  private:
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
   void Paint(Surface& surface) override;

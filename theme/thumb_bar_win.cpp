@@ -32,8 +32,14 @@ void ThumbBar::SetRange(const ScrollRange& range) {
   ::InvalidateRect(handle(), nullptr, FALSE);
 }
 
+// Its own inverse.
+Rect ThumbBar::Upright(const Rect& rect) const {
+  if (axis_ == ThumbAxis::kDown) return rect;
+  return {rect.top, rect.left, rect.bottom, rect.right};
+}
+
 Rect ThumbBar::Thumb() const {
-  return ThumbIn(client(), range_, Scaled(kLeastLength, dpi()));
+  return ThumbIn(Track(), range_, Scaled(kLeastLength, dpi()));
 }
 
 void ThumbBar::Paint(Surface& surface) {
@@ -41,33 +47,34 @@ void ThumbBar::Paint(Surface& surface) {
   const Rect thumb = Thumb();
   if (thumb.empty()) return;
   const std::uint32_t colour = OpaquePixel(thumb_);
-  DrawRoundedBox(surface.pixels(), surface.size(), thumb, thumb.width() / 2.0, colour, colour);
+  DrawRoundedBox(surface.pixels(), surface.size(), Upright(thumb), thumb.width() / 2.0, colour,
+                 colour);
 }
 
-void ThumbBar::OnPress(int y) {
+void ThumbBar::OnPress(int place) {
   const Rect thumb = Thumb();
   if (thumb.empty()) return;
-  if (y >= thumb.top && y < thumb.bottom) {
-    seized_at_ = y - thumb.top;
+  if (place >= thumb.top && place < thumb.bottom) {
+    seized_at_ = place - thumb.top;
     ::SetCapture(handle());
   } else {
-    scroll_to_(range_.first + (y < thumb.top ? -range_.page : range_.page));
+    scroll_to_(range_.first + (place < thumb.top ? -range_.page : range_.page));
   }
 }
 
-void ThumbBar::OnDrag(int y) {
+void ThumbBar::OnDrag(int place) {
   if (::GetCapture() != handle()) return;
-  scroll_to_(FirstAtThumb(client(), range_, Scaled(kLeastLength, dpi()), y - seized_at_));
+  scroll_to_(FirstAtThumb(Track(), range_, Scaled(kLeastLength, dpi()), place - seized_at_));
 }
 
 LRESULT ThumbBar::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
-  const int y = static_cast<short>(HIWORD(lparam));
+  const int place = static_cast<short>(axis_ == ThumbAxis::kDown ? HIWORD(lparam) : LOWORD(lparam));
   switch (message) {
     case WM_LBUTTONDOWN:
-      OnPress(y);
+      OnPress(place);
       return 0;
     case WM_MOUSEMOVE:
-      OnDrag(y);
+      OnDrag(place);
       return 0;
     case WM_LBUTTONUP:
       ::ReleaseCapture();

@@ -1,4 +1,4 @@
-// A slim vertical scroll bar in a widget's colours.
+// A slim scroll bar in a widget's colours.
 #pragma once
 
 #include <functional>
@@ -9,11 +9,13 @@
 
 namespace varnel {
 
+enum class ThumbAxis { kDown, kAcross };
+
 class ThumbBar : public PaintedWindow {
  public:
   // `scroll_to` is told the item that the user wants to see first.
-  ThumbBar(Ui& ui, std::function<void(int)> scroll_to)
-      : PaintedWindow(ui), scroll_to_(std::move(scroll_to)) {}
+  ThumbBar(Ui& ui, std::function<void(int)> scroll_to, ThumbAxis axis = ThumbAxis::kDown)
+      : PaintedWindow(ui), scroll_to_(std::move(scroll_to)), axis_(axis) {}
 
   // The bar as a child of `parent`, hidden. False when the system refuses.
   bool Load(HWND parent);
@@ -24,16 +26,20 @@ class ThumbBar : public PaintedWindow {
 
  private:
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
+  // The bar and its thumb as if it were an upright one.
+  Rect Track() const { return Upright(client()); }
   Rect Thumb() const;
+  Rect Upright(const Rect& rect) const;
   void Paint(Surface& surface) override;
-  void OnPress(int y);
-  void OnDrag(int y);
+  void OnPress(int place);
+  void OnDrag(int place);
 
   std::function<void(int)> scroll_to_;
+  ThumbAxis axis_;
   ScrollRange range_;
   Colour ground_ = kBlack;
   Colour thumb_ = kWhite;
-  int seized_at_ = 0;  // the point of the thumb that the mouse holds, from its top
+  int seized_at_ = 0;  // the point of the thumb that the mouse holds, from its beginning
 };
 
 }  // namespace varnel
