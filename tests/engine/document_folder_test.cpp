@@ -9,6 +9,7 @@
 
 #include "base/document_file.h"
 #include "tests/support/cases.h"
+#include "tests/support/memory_bin.h"
 #include "tests/support/memory_files.h"
 
 namespace varnel {
@@ -16,21 +17,9 @@ namespace {
 
 const std::wstring kFolder = L"C:\\Notes";
 
-struct MemoryBin : RecycleBin {
-  explicit MemoryBin(test::MemoryFiles& disk) : disk(disk) {}
-  FileResult Recycle(const std::wstring& path) override {
-    const std::string bytes = disk.Read(path, 1000).bytes;
-    const FileResult result = disk.Remove(path, Removal::kForced);
-    if (result == FileResult::kDone) content[path] = bytes;
-    return result;
-  }
-  test::MemoryFiles& disk;
-  std::map<std::wstring, std::string> content;
-};
-
 struct DocumentLists : ::testing::Test {
   test::MemoryFiles disk{kFolder};
-  MemoryBin bin{disk};
+  test::MemoryBin bin{disk};
   DocumentFolder notes{disk, bin, {L".rtf", L".txt"}};
 
   void Put(const std::wstring& name, std::string bytes = "x") {
