@@ -2,7 +2,9 @@
 
 #include "core/options_dialog.h"
 #include "dialogs/theme/theme_dialog.h"
-#include "widgets/boards/board_folders.h"
+#include "widgets/boards/insert_text_dialog.h"
+#include "widgets/boards/whiteboard_folder_dialog.h"
+#include "widgets/boards/whiteboard_form.h"
 #include "widgets/calculator/calculator_form.h"
 #include "widgets/notes/notes_folder.h"
 #include "widgets/time/alarm_dialog.h"
@@ -43,6 +45,10 @@ void AddWeather(Catalogue& catalogue) {
 }
 
 void AddBoards(Catalogue& catalogue) {
+  auto& whiteboard = catalogue.AddService<BoardLink>();
+  catalogue.AddWidget<WhiteboardForm>(6, whiteboard);
+  catalogue.AddDialog<InsertTextDialog>(L"frmWBDit", whiteboard);
+  catalogue.AddDialog<WhiteboardFolderDialog>(L"frmWBDpr", whiteboard);
   catalogue.AddFolder(kWhiteboardFolder);
   catalogue.AddFolder(kCalendarFolder);
 }

@@ -138,6 +138,7 @@ class Studio {
       settings.SetText(text.section, text.name, text.value);
     }
     if (!look.preset.empty()) StorePreset(form->form_name, look.preset);
+    if (subject.plant) subject.plant(root_.folder());
     if (!program_.Start()) return nullptr;
     HWND window = rig::WaitForForm(program_, form->form_name);
     if (!window) Complain(subject.name + L": no window " + std::wstring(form->form_name));

@@ -2,12 +2,16 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
+#include <iterator>
+
 #include "base/number_text.h"
 #include "resources/control_ids.h"
 #include "tests/rig/controls.h"
 #include "tests/rig/dialogs.h"
 #include "tests/rig/input.h"
 #include "tests/rig/menus.h"
+#include "tools/shots/sample_boards.h"
 
 namespace varnel::shots {
 namespace {
@@ -107,6 +111,38 @@ void LetWeatherFail(const Program&, HWND weather) {
   WaitUntil([weather] { return Text(Control(weather, lblUPDATED)).starts_with(L"The server"); });
 }
 
+// Shows the first board, whose name comes first, with a text put on it, and a pen chosen.
+void LabelBoard(const Program& program, HWND whiteboard) {
+  const Rect small = RectOf(whiteboard);
+  ::SetWindowPos(whiteboard, nullptr, small.left, small.top, 620, 420, SWP_NOZORDER);
+  HWND list = Control(whiteboard, lvwFILES);
+  const Rect rows = RectOf(list);
+  Click({rows.left + 20, rows.top + 20});
+  WaitUntil([&] { return Text(Control(whiteboard, lblWhiteboard)) == L"Garden plan"; });
+  ClickOn(Control(whiteboard, cmdPEN + 4));
+  Choose(whiteboard, L"mnuWBOARDINSTEXT");
+  HWND dialog = WaitForForm(program, L"frmWBDit");
+  SetText(Control(dialog, txtINSE), L"pond");
+  Send(Control(dialog, cmdOKfrmWBDit), BM_CLICK);
+  const Rect board = RectOf(Control(whiteboard, picMAINBOARD));
+  Click({board.left + 90, board.top + 175});
+  ClickOn(Control(whiteboard, cmdPEN + 5));
+  MoveMouse({board.left + 300, board.bottom + 20});
+  ::SetWindowPos(whiteboard, nullptr, small.left, small.top, small.width(), small.height(),
+                 SWP_NOZORDER);
+}
+
+// A board's text, not put down yet.
+void FloatText(const Program& program, HWND whiteboard) {
+  LabelBoard(program, whiteboard);
+  Choose(whiteboard, L"mnuWBOARDINSTEXT");
+  HWND dialog = WaitForForm(program, L"frmWBDit");
+  SetText(Control(dialog, txtINSE), L"path to the gate");
+  Send(Control(dialog, cmdOKfrmWBDit), BM_CLICK);
+}
+
+const std::vector<StoredText> kNoBoardList = {{L"frmWBDwg\\Details", L"Show-Side-Bar", L"False"}};
+
 void OpenMenu(const Program& program, HWND form) {
   Click({RectOf(form).left + 60, RectOf(form).top + 10}, MouseButton::kRight);
   WaitForMenus(program, 1);
@@ -118,6 +154,45 @@ void ShowButtonLooks(const Program&, HWND form) {
   MoveMouse(CentreOf(Control(form, lblNUMBER + 4)));
 }
 
+std::vector<Subject> WhiteboardSubjects() {
+  return {
+      {L"whiteboard",
+       kWhiteboard,
+       kDpis | kManyPresets,
+       {},
+       LabelBoard,
+       Part::kWidget,
+       {},
+       PlantBoards},
+      {L"whiteboard-no-list",
+       kWhiteboard,
+       kPlain,
+       kNoBoardList,
+       {},
+       Part::kWidget,
+       {},
+       PlantBoards},
+      {L"whiteboard-float", kWhiteboard, kPlain, {}, FloatText, Part::kWidget, {}, PlantBoards},
+      {L"whiteboard-menu", kWhiteboard, kPlain, {}, OpenMenu, Part::kForm, L"#32768", PlantBoards},
+      {L"whiteboard-text",
+       kWhiteboard,
+       kDpis,
+       {},
+       Command(L"mnuWBOARDINSTEXT"),
+       Part::kForm,
+       L"frmWBDit",
+       PlantBoards},
+      {L"whiteboard-folder",
+       kWhiteboard,
+       kDpis,
+       {},
+       Command(L"mnuWBOARDPROPS"),
+       Part::kForm,
+       L"frmWBDpr",
+       PlantBoards},
+  };
+}
+
 }  // namespace
 
 const std::vector<std::wstring> kFewPresetNames = {L"Neon\\Cyan", L"Soft\\Pink", L"Light\\White",
@@ -126,8 +201,10 @@ const std::vector<std::wstring> kManyPresetNames = {
     L"Neon\\Cyan", L"Soft\\Pink", L"Light\\White", L"Slate\\Forest", L"Bright\\Yellow",
     L"Dark\\Red",  L"Flat\\Gray", L"Frosted\\Sky", L"Glass\\Orange", L"Pale\\Purple"};
 
-const std::vector<Subject>& Subjects() {
-  static const std::vector<Subject> subjects = {
+namespace {
+
+std::vector<Subject> OtherSubjects() {
+  return {
       {L"desktop", kManager, kPlain, kAllWidgets, {}, Part::kDesktop},
       {L"manager", kManager, kDpis | kFewPresets},
       {L"manager-looks", kManager, kPlain, {}, ShowButtonLooks},
@@ -159,6 +236,16 @@ const std::vector<Subject>& Subjects() {
       {L"theme-dialog-panel", kClock, kDpis, {}, ThemeTab(2), Part::kForm, L"frmTHEME"},
       {L"menu", kClock, kDpis, {}, OpenMenu, Part::kForm, L"#32768"},
   };
+}
+
+}  // namespace
+
+const std::vector<Subject>& Subjects() {
+  static const std::vector<Subject> subjects = [] {
+    std::vector<Subject> all = OtherSubjects();
+    std::ranges::move(WhiteboardSubjects(), std::back_inserter(all));
+    return all;
+  }();
   return subjects;
 }
 

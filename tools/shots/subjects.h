@@ -42,6 +42,8 @@ struct Subject {
   Preparation prepare{};
   Part part = Part::kWidget;
   std::wstring form{};  // for kForm
+  // What lies in the program's folder before it starts.
+  std::function<void(const std::wstring& program_folder)> plant{};
 };
 
 const std::vector<Subject>& Subjects();
