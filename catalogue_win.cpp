@@ -7,6 +7,7 @@
 #include "widgets/boards/whiteboard_form.h"
 #include "widgets/calculator/calculator_form.h"
 #include "widgets/notes/notes_folder.h"
+#include "widgets/notes/spell_service_win.h"
 #include "widgets/time/alarm_dialog.h"
 #include "widgets/time/alarm_service_win.h"
 #include "widgets/time/clock_dialog.h"
@@ -55,6 +56,7 @@ void AddBoards(Catalogue& catalogue) {
 
 void AddNotes(Catalogue& catalogue) {
   catalogue.AddFolder(kNotesFolder);
+  catalogue.AddService<SpellService>();
 }
 
 constexpr Family kFamilies[] = {AddProgram, AddTime,   AddCalculator,

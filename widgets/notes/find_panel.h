@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "base/settings.h"
+#include "widgets/notes/edited_note.h"
 #include "widgets/notes/find_text.h"
 #include "widgets/notes/text_edit.h"
 #include "widgets/notes/text_words.h"
@@ -21,18 +22,10 @@ inline constexpr Setting kFindWholeWordBox{L"frmNOTwg\\Details", L"Find Whole Wo
 inline constexpr std::wstring_view kFindHistory = L"frmNOTwg\\Find";
 inline constexpr std::wstring_view kReplaceHistory = L"frmNOTwg\\Replace";
 
-// A message box of the notes; all have the information icon.
-struct NotesMessage {
-  std::wstring_view title;
-  std::wstring_view text;
-};
 inline constexpr NotesMessage kAllFound{L"Searching Has Now Been Completed",
                                         L"All references have been found."};
 inline constexpr NotesMessage kAllReplaced{L"Searching Has Now Been Completed",
                                            L"All references have been replaced."};
-inline constexpr NotesMessage kFullyChecked{
-    L"The Spell Checking Now Been Completed",
-    L"Your page has been fully checked. It is always a good idea to proof yourself too."};
 
 // Texts that were searched for or put in, the newest first.
 struct FindHistory {

@@ -1,0 +1,18 @@
+#include "widgets/notes/spell_service_win.h"
+
+#include "base/path.h"
+#include "win/resource_data.h"
+#include "win/ui.h"
+
+namespace varnel {
+
+SpellService::SpellService(Services& services)
+    : checker_(services.files, services.settings,
+               AddTrailingSeparator(services.program_folder) + L"notes\\",
+               [&services] { return ResourceData(services.ui.instance, L"WORDS", L"DATA"); }) {}
+
+SpellService::~SpellService() {
+  checker_.DatabaseSave();
+}
+
+}  // namespace varnel
