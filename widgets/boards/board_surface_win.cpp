@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "win/system_rect.h"
+
 namespace varnel {
 namespace {
 

@@ -11,6 +11,7 @@
 #include "widgets/boards/whiteboard_form.h"
 #include "win/clipboard.h"
 #include "win/popup_menu.h"
+#include "win/system_rect.h"
 
 namespace varnel {
 namespace {
