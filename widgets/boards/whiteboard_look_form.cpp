@@ -240,7 +240,8 @@ void WhiteboardForm::DrawPanelButton(const ButtonPainting& painting) {
                   (id == ToolId(BoardTool::kText) && board_.BoardMode() == L"TEXT") ||
                   (id == ToolId(BoardTool::kPicture) && board_.BoardMode() == L"PICTURE");
   if (on) {
-    shown.colours = SeenOnPanel(ButtonColours(paint(), ButtonLook::kPressed, services().colours));
+    shown.colours =
+        SeenOnPanel(paint(), ButtonColours(paint(), ButtonLook::kPressed, services().colours));
   }
   PaintButtonFace(shown, dpi());
   if (id == ToolId(BoardTool::kPenWidth)) return DrawWidth(shown);
