@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/cases.h"
+#include "tests/support/rtf_compare.h"
 #include "tests/support/rtf_samples.h"
 #include "widgets/notes/rtf_pictures.h"
 #include "widgets/notes/rtf_writer.h"
@@ -10,18 +11,13 @@
 namespace varnel {
 namespace {
 
+using test::FormatOf;
+using test::ParagraphOf;
+
 RtfDocument Read(const std::string& body) {
   const RtfReading reading = ReadRtf("{\\rtf1\\ansi" + body + "}");
   EXPECT_EQ(reading.fault, RtfFault::kNone) << body;
   return reading.document;
-}
-
-const ParagraphFormat& ParagraphOf(const RtfDocument& document, std::size_t index = 0) {
-  return document.paragraph_formats[document.paragraphs.at(index).format];
-}
-
-const CharFormat& FormatOf(const RtfDocument& document, std::size_t run) {
-  return document.char_formats[document.runs.at(run).format];
 }
 
 TEST(RtfReader, TextIsWhatTheControlHas) {
@@ -56,6 +52,7 @@ TEST(RtfReader, TextIsWhatTheControlHas) {
       {"{\\upr{a}{\\*\\ud{b}}}{\\shp{\\*\\shpinst{\\sp{\\sn x}{\\sv y}}{\\shptxt in}}{\\shprslt "
        "out}}",
        L"ainout"},
+      {"{\\listtext\\pard{\\b\\tab one}{\\par}}{\\listtext 2.\\tab}two", L"\tone\rtwo"},
   };
   for (const auto& [body, text] : cases) EXPECT_EQ(Read(body).text, text) << body;
 }
@@ -139,29 +136,13 @@ TEST(RtfReader, EachPictureIsTakenOnceInItsBestForm) {
   EXPECT_EQ(document.losses, (RtfLosses{.objects = true, .margins = true}));
 }
 
-void ExpectSame(const RtfDocument& read, const RtfDocument& written) {
-  ASSERT_EQ(read.text, written.text);
-  EXPECT_EQ(read.fonts, written.fonts);
-  EXPECT_EQ(read.pictures, written.pictures);
-  ASSERT_EQ(read.runs.size(), written.runs.size());
-  for (std::size_t i = 0; i < read.runs.size(); ++i) {
-    EXPECT_EQ(read.runs[i].begin, written.runs[i].begin);
-    EXPECT_TRUE(FormatOf(read, i) == FormatOf(written, i)) << i;
-  }
-  ASSERT_EQ(read.paragraphs.size(), written.paragraphs.size());
-  for (std::size_t i = 0; i < read.paragraphs.size(); ++i) {
-    EXPECT_EQ(read.paragraphs[i].begin, written.paragraphs[i].begin);
-    EXPECT_TRUE(ParagraphOf(read, i) == ParagraphOf(written, i)) << i;
-  }
-}
-
 TEST(RtfWriter, EveryDocumentIsReadBackAsItWas) {
   test::Chance chance(14);
   for (int i = 0; i < 300 && !HasFailure(); ++i) {
     const RtfDocument document = test::AnyDocument(chance, test::Below(chance, 300));
     const RtfReading reading = ReadRtf(WriteRtf(document));
     ASSERT_EQ(reading.fault, RtfFault::kNone);
-    ExpectSame(reading.document, document);
+    test::ExpectSame(reading.document, document);
   }
 }
 

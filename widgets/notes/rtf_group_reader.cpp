@@ -153,9 +153,25 @@ void RtfGroupReader::TracePictures(const Group& closed, std::uint32_t end) {
   }
 }
 
+// Whether the group that has just begun ends a paragraph: then it holds the list's own text, as
+// some writers have it, and not just a number or bullet.
+bool RtfGroupReader::HoldsParagraph() const {
+  if (previous_end_ != groups_.back().begin + 1) return false;
+  RtfTokens ahead = tokens_;
+  int depth = 1;
+  while (depth > 0) {
+    const RtfToken token = ahead.Next();
+    if (token.kind == RtfTokenKind::kEnd) return false;
+    if (token.kind == RtfTokenKind::kWord && token.text == "par") return true;
+    depth += token.kind == RtfTokenKind::kOpen ? 1 : token.kind == RtfTokenKind::kClose ? -1 : 0;
+  }
+  return false;
+}
+
 void RtfGroupReader::SwitchTo(RtfDestination destination) {
   const RtfDestination old = group().destination;
   if (IsLeftOut(old)) return;
+  if (destination == RtfDestination::kListText && HoldsParagraph()) return;
   const bool is_result = destination == RtfDestination::kText;
   if (old == RtfDestination::kObject && !is_result) return;
   if (old == RtfDestination::kShape && !is_result && destination != RtfDestination::kPicture)

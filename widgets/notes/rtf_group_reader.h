@@ -44,6 +44,7 @@ class RtfGroupReader {
   void Symbol(const RtfToken& token);
   void Text(const RtfToken& token);
   void SwitchTo(RtfDestination destination);
+  bool HoldsParagraph() const;
   void Body(const RtfWordUse& use);
   static bool IsTable(RtfDestination destination);  // groups without text of the document
   void InTable(const RtfWordUse& use);

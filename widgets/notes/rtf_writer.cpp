@@ -211,7 +211,10 @@ std::string UnitRtf(wchar_t unit, int skip, AsciiAs ascii) {
   }
   const long code = static_cast<std::int16_t>(static_cast<std::uint16_t>(unit));
   Put(rtf, "u", code);
-  return rtf += skip > 0 ? std::string(static_cast<std::size_t>(skip), '?') : " ";
+  if (skip <= 0) return rtf += ' ';
+  // Question marks, in the form after which no reader drops the letters that follow.
+  for (int i = 0; i < skip; ++i) rtf += "\\'3f";
+  return rtf;
 }
 
 std::string PictureRtf(const RtfPicture& picture) {
