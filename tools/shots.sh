@@ -21,8 +21,7 @@ sheet() {
   local pictures
   mapfile -t pictures < <(find "$shots" -maxdepth 1 -name "$3.png" | sort -V)
   [ ${#pictures[@]} -gt 0 ] || return 0
-  imagemagick montage -label '%t' "${pictures[@]}" -tile "$2x" -geometry '+6+6' \
-    -background '#33566e' -fill white "$shots/sheets/$1.png"
+  tools/sheet.sh "$shots/sheets/$1.png" "$2" "${pictures[@]}"
 }
 
 # Every symbol of the weather, in the order that the font has them.
@@ -44,7 +43,7 @@ desktop() {
     [ -f "$shots/$name.png" ] || return 0
     pictures+=("$shots/$name.png")
   done
-  imagemagick montage "${pictures[@]}" -tile 3x -geometry '+8+8' -background '#256f96' \
+  imagemagick montage +label "${pictures[@]}" -tile 3x -geometry '+8+8' -background '#256f96' \
     "$shots/sheets/desktop.png"
 }
 

@@ -1,8 +1,11 @@
 """Tests of the checks themselves: each breach is seen, and good code is left alone."""
 
+import struct
+import subprocess
 import sys
 import tempfile
 import unittest
+import zlib
 from pathlib import Path
 
 TOOLS = Path(__file__).resolve().parents[2] / "tools"
@@ -167,6 +170,35 @@ class SizesTest(TreeTest):
         self.assertEqual(check_sizes.line_counts(self.root), (20, 50))
         self.assertEqual(check_sizes.share_breaches(20, 60), [])
         self.assertEqual(len(check_sizes.share_breaches(20, 59)), 1)
+
+
+class SheetTest(TreeTest):
+    """The pictures' sheets, on a machine whose user has set nothing up."""
+
+    SIDE = 40
+
+    def write_picture(self, name):
+        """Writes a black PNG."""
+
+        def chunk(kind, data):
+            body = kind + data
+            return struct.pack(">I", len(data)) + body + struct.pack(">I", zlib.crc32(body))
+
+        header = struct.pack(">IIBBBBB", self.SIDE, self.SIDE, 8, 0, 0, 0, 0)
+        rows = zlib.compress(bytes((self.SIDE + 1) * self.SIDE))
+        picture = chunk(b"IHDR", header) + chunk(b"IDAT", rows) + chunk(b"IEND", b"")
+        path = self.root / name
+        path.write_bytes(b"\x89PNG\r\n\x1a\n" + picture)
+        return path
+
+    def test_pictures_stand_side_by_side_above_their_names(self):
+        sheet = self.root / "sheet.png"
+        pictures = [self.write_picture("one.png"), self.write_picture("two.png")]
+        empty = {"PATH": "/usr/bin:/bin", "HOME": str(self.root), "FONTCONFIG_FILE": "/dev/null"}
+        subprocess.run([TOOLS / "sheet.sh", sheet, "2", *pictures], env=empty, check=True)
+        width, height = struct.unpack(">II", sheet.read_bytes()[16:24])
+        self.assertEqual(width, 2 * (self.SIDE + 12))
+        self.assertGreater(height, self.SIDE + 12 + 8)
 
 
 if __name__ == "__main__":

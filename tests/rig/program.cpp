@@ -26,10 +26,18 @@ bool Program::Start(const std::wstring& more) {
   STARTUPINFOW startup = {};
   startup.cb = sizeof startup;
   PROCESS_INFORMATION process = {};
-  if (!::CreateProcessW(exe.c_str(), command.data(), nullptr, nullptr, FALSE, CREATE_SUSPENDED,
-                        nullptr, nullptr, &startup, &process)) {
-    ADD_FAILURE() << "The program cannot be started: error " << ::GetLastError();
-    return false;
+  // Under load the test platform now and then has no answer ready.
+  constexpr int kMostTries = 5;
+  for (int attempt = 1;
+       !::CreateProcessW(exe.c_str(), command.data(), nullptr, nullptr, FALSE, CREATE_SUSPENDED,
+                         nullptr, nullptr, &startup, &process);
+       ++attempt) {
+    const DWORD error = ::GetLastError();
+    if (error != ERROR_INTERNAL_ERROR || attempt == kMostTries) {
+      ADD_FAILURE() << "The program cannot be started: error " << error;
+      return false;
+    }
+    ::Sleep(500);
   }
   const UniqueKernelHandle thread(process.hThread);
   process_ = UniqueKernelHandle(process.hProcess);
