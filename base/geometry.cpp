@@ -50,13 +50,13 @@ Rect Grown(const Rect& rect, int amount, std::span<const Rect> others) {
     const bool in_line = other.left < grown.right && other.right > grown.left;
     if (!beside || !in_line) continue;
     if (other.top >= rect.bottom) {
-      grown.bottom = other.top;
+      grown.bottom = std::min(grown.bottom, (rect.bottom + other.top) / 2);
     } else if (other.bottom <= rect.top) {
-      grown.top = other.bottom;
+      grown.top = std::max(grown.top, (rect.top + other.bottom + 1) / 2);
     } else if (other.left >= rect.right) {
-      grown.right = other.left;
+      grown.right = std::min(grown.right, (rect.right + other.left) / 2);
     } else if (other.right <= rect.left) {
-      grown.left = other.right;
+      grown.left = std::max(grown.left, (rect.left + other.right + 1) / 2);
     }
   }
   return grown;

@@ -52,8 +52,9 @@ Rect Union(const Rect& one, const Rect& other);
 // negative.
 Rect Inset(const Rect& rect, int amount);
 
-// `rect` made larger by `amount` on every side, but less where it would reach into one of `others`.
-// Those that overlap `rect` itself, as it does, count for nothing.
+// `rect` made larger by `amount` on every side, but at most by half of what lies between it and one
+// of `others`, which may grow as much. Those that overlap `rect` itself, as it does, count for
+// nothing.
 Rect Grown(const Rect& rect, int amount, std::span<const Rect> others);
 
 // `rect`, measured from the corner of `frame`, measured from where `frame` itself is.

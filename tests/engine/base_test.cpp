@@ -76,9 +76,9 @@ TEST(Geometry, TwipsAndPixelsAtEveryDpi) {
 TEST(Geometry, GrowsNotIntoNeighbours) {
   const Rect box{10, 10, 20, 20};
   const Rect beside[] = {box, {20, 10, 30, 20}, {10, 22, 20, 30}, {0, 0, 3, 40}};
-  EXPECT_EQ(Grown(box, 5, beside), (Rect{5, 5, 20, 22}));
+  EXPECT_EQ(Grown(box, 5, beside), (Rect{5, 5, 20, 21}));
   const Rect around[] = {{0, 0, 8, 30}, {0, 0, 30, 9}};
-  EXPECT_EQ(Grown(box, 5, around), (Rect{8, 9, 25, 25}));
+  EXPECT_EQ(Grown(box, 5, around), (Rect{9, 10, 25, 25}));
   EXPECT_EQ(Grown(box, 5, {}), (Rect{5, 5, 25, 25}));
 }
 

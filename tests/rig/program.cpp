@@ -28,9 +28,8 @@ bool Program::Start(const std::wstring& more) {
   PROCESS_INFORMATION process = {};
   // Under load the test platform now and then has no answer ready.
   constexpr int kMostTries = 5;
-  for (int attempt = 1;
-       !::CreateProcessW(exe.c_str(), command.data(), nullptr, nullptr, FALSE, CREATE_SUSPENDED,
-                         nullptr, nullptr, &startup, &process);
+  for (int attempt = 1; !::CreateProcessW(exe.c_str(), command.data(), nullptr, nullptr, FALSE,
+                                          CREATE_SUSPENDED, nullptr, nullptr, &startup, &process);
        ++attempt) {
     const DWORD error = ::GetLastError();
     if (error != ERROR_INTERNAL_ERROR || attempt == kMostTries) {
