@@ -45,5 +45,10 @@ varnel_assets(build_places.py
               FROM /usr/lib/x86_64-linux-gnu/libgeonames.so.0 READS tools/assets/place_names.tsv)
 varnel_assets(build_words.py MAKES words.bin
               FROM /usr/share/dict/american-english-large /usr/share/dict/british-english-large)
+varnel_assets(build_pictures.py MAKES pictures.bin
+              FROM node_modules/@iconify-json/fluent-emoji-flat/icons.json
+                   tools/assets/calendar_pictures.tsv
+              READS resources/pictures/calculator.svg resources/pictures/fog.svg
+                    resources/pictures/presentation.svg resources/pictures/tasks.svg)
 
 add_custom_target(assets DEPENDS ${VARNEL_ASSETS})

@@ -174,3 +174,30 @@
 #define lblQUESTION 1745
 #define cmdOKfrmWBDpr 1
 #define cmdCancelfrmWBDpr 2
+
+// frmCALwg, the calendar; its board and pens are the whiteboard's
+#define lblSeptember2015 1750  // the month's title: on the panel, and on the title bar
+#define lblMONTHBAR 1751
+#define lablDAYNO 1752  // today's number, the name of its day, and what says that it is today
+#define lablDAY 1753
+#define lblDATETODAY 1754
+#define lblSCREEN 1755   // on the bottom strip: what there is to say,
+#define lblMOUSE 1756    // the day under the pointer,
+#define lblTest 1757     // and the pen
+#define cmdCALTOOL 1760  // 0 to 7: previous, next, today, pen width, text, icon, undo, redo
+
+// frmCALit, the calendar's text; its size is cboSIZE
+#define txtINSERTBOX 1770
+#define chkWRAP 1771
+#define cmdOKfrmCALit 1
+#define cmdCancelfrmCALit 2
+
+// frmCALip, the icon picker; its tabs are tabMAIN
+#define lvwICONS 1775
+#define cmdOKfrmCALip 1
+#define cmdCancelfrmCALip 2
+
+// frmCALpr, the calendar's folder; its list of months is flbLIST
+#define lblSelectedFolder 1780
+#define cmdOKfrmCALpr 1
+#define cmdCancelfrmCALpr 2
