@@ -2,9 +2,13 @@
 
 #include "core/options_dialog.h"
 #include "dialogs/theme/theme_dialog.h"
-#include "widgets/boards/insert_text_dialog.h"
+#include "widgets/boards/calendar_folder_dialog.h"
+#include "widgets/boards/calendar_form.h"
+#include "widgets/boards/calendar_text_dialog.h"
+#include "widgets/boards/icon_picker_dialog.h"
 #include "widgets/boards/whiteboard_folder_dialog.h"
 #include "widgets/boards/whiteboard_form.h"
+#include "widgets/boards/whiteboard_text_dialog.h"
 #include "widgets/calculator/calculator_form.h"
 #include "widgets/notes/notes_folder.h"
 #include "widgets/notes/spell_service_win.h"
@@ -48,8 +52,13 @@ void AddWeather(Catalogue& catalogue) {
 void AddBoards(Catalogue& catalogue) {
   auto& whiteboard = catalogue.AddService<BoardLink>();
   catalogue.AddWidget<WhiteboardForm>(6, whiteboard);
-  catalogue.AddDialog<InsertTextDialog>(L"frmWBDit", whiteboard);
+  catalogue.AddDialog<WhiteboardTextDialog>(L"frmWBDit", whiteboard);
   catalogue.AddDialog<WhiteboardFolderDialog>(L"frmWBDpr", whiteboard);
+  auto& calendar = catalogue.AddService<CalendarLink>();
+  catalogue.AddWidget<CalendarForm>(2, calendar);
+  catalogue.AddDialog<CalendarTextDialog>(L"frmCALit", calendar);
+  catalogue.AddDialog<IconPickerDialog>(L"frmCALip", calendar);
+  catalogue.AddDialog<CalendarFolderDialog>(L"frmCALpr", calendar);
   catalogue.AddFolder(kWhiteboardFolder);
   catalogue.AddFolder(kCalendarFolder);
 }

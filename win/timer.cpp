@@ -20,6 +20,11 @@ void Timer::Start() {
   enabled_ = ::SetTimer(owner_.handle(), id(), interval_, nullptr) != 0;
 }
 
+void Timer::Restart(int interval) {
+  interval_ = interval;
+  Start();
+}
+
 void Timer::Stop() {
   if (std::exchange(enabled_, false)) ::KillTimer(owner_.handle(), id());
 }

@@ -21,6 +21,8 @@ class Timer {
 
   // Without effect while the owner has no window.
   void Start();
+  // Starts anew with another interval, also one that is running.
+  void Restart(int interval);
   void Stop();
   bool enabled() const { return enabled_; }
   UINT_PTR id() const { return reinterpret_cast<UINT_PTR>(this); }

@@ -12,6 +12,7 @@
 #include "tests/rig/input.h"
 #include "tests/rig/menus.h"
 #include "tools/shots/sample_boards.h"
+#include "tools/shots/sample_month.h"
 
 namespace varnel::shots {
 namespace {
@@ -154,6 +155,53 @@ void ShowButtonLooks(const Program&, HWND form) {
   MoveMouse(CentreOf(Control(form, lblNUMBER + 4)));
 }
 
+// Puts a picture and a text on days of the month, with a pen chosen.
+void FillMonth(const Program& program, HWND calendar) {
+  const Rect small = RectOf(calendar);
+  ::SetWindowPos(calendar, nullptr, small.left, small.top, 620, 420, SWP_NOZORDER);
+  const Rect board = RectOf(Control(calendar, picMAINBOARD));
+  const auto day = [&](double column, double row) {
+    return Point{static_cast<int>(board.left + 30 + (board.width() - 30) * column / 7),
+                 static_cast<int>(board.top + 24 + (board.height() - 24) * row / 6)};
+  };
+  Choose(calendar, L"mnuCALINSPIC");
+  HWND picker = WaitForForm(program, L"frmCALip");
+  Send(Control(picker, cmdOKfrmCALip), BM_CLICK);
+  Click(day(5.7, 2.6));
+  Send(Control(calendar, cmdPEN + 6), BM_CLICK);
+  Choose(calendar, L"mnuCALINSTXT");
+  HWND dialog = WaitForForm(program, L"frmCALit");
+  SetText(Control(dialog, txtINSERTBOX), L"Anna 7");
+  Send(Control(dialog, cmdOKfrmCALit), BM_CLICK);
+  Click(day(4.6, 2.6));
+  Send(Control(calendar, cmdPEN + 5), BM_CLICK);
+  MoveMouse(day(2.5, 1.5));
+  ::SetWindowPos(calendar, nullptr, small.left, small.top, small.width(), small.height(),
+                 SWP_NOZORDER);
+}
+
+Preparation PickerTab(int tab) {
+  return [tab](const Program& program, HWND form) {
+    Choose(form, L"mnuCALINSPIC");
+    HWND picker = WaitForForm(program, L"frmCALip");
+    Send(Control(picker, tabMAIN), TCM_SETCURFOCUS, static_cast<WPARAM>(tab));
+  };
+}
+
+Subject CalendarDialog(const std::wstring& name, const Preparation& open, const wchar_t* form) {
+  return {name, kCalendar, kDpis, {}, open, Part::kForm, form, PlantMonth};
+}
+
+std::vector<Subject> CalendarSubjects() {
+  return {
+      {L"calendar", kCalendar, kDpis | kManyPresets, {}, FillMonth, Part::kWidget, {}, PlantMonth},
+      {L"calendar-menu", kCalendar, kPlain, {}, OpenMenu, Part::kForm, L"#32768", PlantMonth},
+      CalendarDialog(L"calendar-text", Command(L"mnuCALINSTXT"), L"frmCALit"),
+      CalendarDialog(L"calendar-folder", Command(L"mnuCALPROPS"), L"frmCALpr"),
+      CalendarDialog(L"calendar-picker-family", PickerTab(0), L"frmCALip"),
+      CalendarDialog(L"calendar-picker-work", PickerTab(6), L"frmCALip")};
+}
+
 std::vector<Subject> WhiteboardSubjects() {
   return {
       {L"whiteboard",
@@ -244,6 +292,7 @@ const std::vector<Subject>& Subjects() {
   static const std::vector<Subject> subjects = [] {
     std::vector<Subject> all = OtherSubjects();
     std::ranges::move(WhiteboardSubjects(), std::back_inserter(all));
+    std::ranges::move(CalendarSubjects(), std::back_inserter(all));
     return all;
   }();
   return subjects;

@@ -197,6 +197,13 @@ Rect DrawingBoard::MergeFloat() {
   if (scaled_) {
     kept = {Rounded(across_.Kept(box.left)), Rounded(down_.Kept(box.top)),
             Rounded(across_.Kept(box.right)), Rounded(down_.Kept(box.bottom))};
+    if (kind_ == FloatKind::kIcon) {
+      // An icon is made anew, as large as it is kept: it may be shown larger later.
+      const double enlarged = std::max(static_cast<double>(kept.width()) / box.width(),
+                                       static_cast<double>(kept.height()) / box.height());
+      Image sharp = source_(std::pow(kScaleStep, scale_steps_) * enlarged);
+      if (!sharp.empty()) picFLOAT_ = std::move(sharp);
+    }
     picFLOAT_ = Resampled(picFLOAT_, {kept.width(), kept.height()});
   }
   const Rect changed = Changed(canvas_.Merge(picFLOAT_, {kept.left, kept.top}));

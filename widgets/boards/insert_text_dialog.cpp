@@ -13,13 +13,10 @@ constexpr int kMostUnits = 10'000;
 
 }  // namespace
 
-InsertTextDialog::InsertTextDialog(Services& services, BoardLink& link)
-    : Dialog(services.ui, L"frmWBDit"), services_(services), link_(link) {}
-
 void InsertTextDialog::OnOpen() {
-  ::SendMessageW(Control(txtINSE), EM_LIMITTEXT, kMostUnits, 0);
-  const long long stored = ReadNumber(services_.settings, kBoardTextSize, kTextSizes[0],
-                                      kTextSizes[std::size(kTextSizes) - 1]);
+  ::SendMessageW(Control(text_box_), EM_LIMITTEXT, kMostUnits, 0);
+  const long long stored =
+      ReadNumber(services_.settings, size_, kTextSizes[0], kTextSizes[std::size(kTextSizes) - 1]);
   for (const int points : kTextSizes) {
     const std::wstring text = NumberText(points);
     const LRESULT item =
@@ -31,14 +28,14 @@ void InsertTextDialog::OnOpen() {
 }
 
 void InsertTextDialog::OnCommand(int id, int code) {
-  if (code != BN_CLICKED || (id != cmdOKfrmWBDit && id != cmdCancelfrmWBDit)) return;
-  const std::wstring text = ControlText(txtINSE);
-  const auto chosen = ::SendMessageW(Control(cboSIZE), CB_GETCURSEL, 0, 0);
-  const int points = kTextSizes[std::clamp<LRESULT>(chosen, 0, std::size(kTextSizes) - 1)];
+  if (code != BN_CLICKED || (id != IDOK && id != IDCANCEL)) return;
+  if (id == IDOK) {
+    const auto chosen = ::SendMessageW(Control(cboSIZE), CB_GETCURSEL, 0, 0);
+    const int points = kTextSizes[std::clamp<LRESULT>(chosen, 0, std::size(kTextSizes) - 1)];
+    services_.settings.Write(size_, NumberText(points));
+    OnText(ControlText(text_box_), points);
+  }
   Close();
-  if (id == cmdCancelfrmWBDit) return;
-  services_.settings.Write(kBoardTextSize, NumberText(points));
-  if (link_.widget) link_.widget->InsertText(text + L" ", points);
 }
 
 }  // namespace varnel

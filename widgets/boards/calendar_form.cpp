@@ -1,0 +1,336 @@
+#include "widgets/boards/calendar_form.h"
+
+#include <windows.h>
+#include <windowsx.h>
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "base/number_text.h"
+#include "base/resample.h"
+#include "resources/control_ids.h"
+#include "widgets/boards/board_folders.h"
+#include "widgets/boards/calendar_settings.h"
+#include "win/pictures.h"
+#include "win/user_week.h"
+
+namespace varnel {
+namespace {
+
+constexpr BoardTraits kTraits{kCalendarPen,
+                              kCalendarPenWidth,
+                              kCalendarTextSize,
+                              L"mnuCALPENSUB",
+                              {{{L"mnuCALPENTHIN", L"T&hin pen"},
+                                {L"mnuCALPENTHICK", L"Thic&k pen"},
+                                {L"mnuCALPENMARKER", L"&Marker"},
+                                {L"mnuCALPENBROAD", L"Broa&d pen"}}},
+                              lblMONTHBAR,
+                              lblTest,
+                              cmdCALTOOL + static_cast<int>(CalendarTool::kPenWidth)};
+
+constexpr int kOneDayMs = 24 * 60 * 60 * 1000;
+constexpr int kMonthsOfAYear = 12;
+constexpr int kIconSides[] = {48, 96};  // of the pictures that there are, in pixels
+
+// The picture with its colours weakened by its opacity.
+Image Premultiplied(const Image& straight) {
+  Image picture = straight;
+  for (std::uint32_t& pixel : picture.All()) {
+    pixel = MixPixels(0, pixel | 0xFF000000U, pixel >> 24);
+  }
+  return picture;
+}
+
+}  // namespace
+
+CalendarForm::CalendarForm(Services& services, const FormEntry& entry, int index,
+                           CalendarLink& link)
+    : BoardForm(services, entry, index, kTraits, Canvas::kClearSheet),
+      link_(link),
+      calendar_(services.files, services.formatter, board_,
+                [this](Month month, const MonthInk& ink) { return PictureOfMonth(month, ink); }),
+      lblSeptember2015_(services.ui),
+      lablDAYNO_(services.ui),
+      lablDAY_(services.ui),
+      lblDATETODAY_(services.ui),
+      lblSCREEN_(services.ui),
+      lblMOUSE_(services.ui),
+      watch_(services.ui,
+             [this] {
+               calendar_.Refresh();
+               MonthShown();
+             }),
+      midnight_timer_(*this, kOneDayMs, [this] { OnNewDay(); }) {}
+
+std::vector<BoardAction> CalendarForm::MakeActions() {
+  constexpr auto kCtrl = BoardAction::Held::kCtrl;
+  constexpr auto kPlain = BoardAction::Held::kNothing;
+  const auto by_months = [this](int months) { return [this, months] { ShowMonthBeside(months); }; };
+  std::vector<BoardAction> actions = {
+      {{L"mnuCALTODAY", L"&Today", L"Home"}, [this] { GoToToday(); }, VK_HOME},
+      {{L"mnuCALPREVIOUS", L"Pre&vious month", L"Page Up"}, by_months(-1), VK_PRIOR},
+      {{L"mnuCALNEXT", L"&Next month", L"Page Down"}, by_months(1), VK_NEXT},
+      {{L"mnuCALPREVIOUSYEAR", L"A year &back", L"Ctrl+Page Up"},
+       by_months(-kMonthsOfAYear),
+       VK_PRIOR,
+       kCtrl},
+      {{L"mnuCALNEXTYEAR", L"A year &on", L"Ctrl+Page Down"},
+       by_months(kMonthsOfAYear),
+       VK_NEXT,
+       kCtrl},
+      {{L"mnuCALSAVE", L"&Save", L"Ctrl+S"},
+       [this] { SaveMonth(); },
+       'S',
+       kCtrl,
+       [this] { return board_.BoardModified(); }},
+      {{L"mnuCALUNDO", L"&Undo", L"Ctrl+Z"},
+       [this] { Undo(); },
+       'Z',
+       kCtrl,
+       [this] { return board_.CanUndo(); },
+       {},
+       {},
+       true},
+      {{L"mnuCALREDO", L"&Redo", L"Ctrl+Y"},
+       [this] { Redo(); },
+       'Y',
+       kCtrl,
+       [this] { return board_.CanRedo(); }},
+      {{L"mnuCALSCREENCLR", L"&Clear the month"}, [this] { Clear(); }},
+      {{L"mnuCALINSTXT", L"&Insert text...", L"Ctrl+T"},
+       [this] { CalendarInsertText(); },
+       'T',
+       kCtrl,
+       {},
+       {},
+       {},
+       true},
+      {{L"mnuCALINSPIC", L"Insert a pictur&e...", L"Ctrl+I"},
+       [this] { CalendarInsertChoose(); },
+       'I',
+       kCtrl},
+      {{L"mnuCALCOPY", L"Cop&y the month", L"Ctrl+C"}, [this] { Copy(); }, 'C', kCtrl},
+      {{L"mnuCALPASTE", L"P&aste", L"Ctrl+V"}, [this] { Paste(); }, 'V', kCtrl},
+      {{L"mnuCALPENS", L"&Pens"}, {}, 0, kPlain, {}, {}, [this] { return PenItems(); }, true}};
+  std::ranges::move(WidthActions(), std::back_inserter(actions));
+  // Printing is still to come.
+  actions.push_back({{L"mnuCALPRINT", L"Print..."}, {}, 0, kPlain, {}, {}, {}, true});
+  actions.push_back({{L"mnuCALPROPS", L"Calendar properties..."},
+                     [this] { services().program.OpenDialog(L"frmCALpr"); }});
+  return actions;
+}
+
+// --- months
+
+void CalendarForm::FolderChanged() {
+  const std::wstring folder =
+      ReadFolder(services().settings, kCalendarFolder, services().program_folder);
+  calendar_.Adopt(folder, ThisMonth(), UserFirstWeekday());
+  watch_.Watch(folder);
+  MonthShown();
+}
+
+void CalendarForm::CalendarBoardLoad() {
+  calendar_.Load();
+  MonthShown();
+}
+
+void CalendarForm::ShowMonthBeside(int months) {
+  ShowMonth(MovedBy(calendar_.month(), months));
+}
+
+void CalendarForm::ShowMonth(Month month) {
+  picMAINBOARD_.EndStroke();
+  if (month != calendar_.month()) calendar_.Show(month);
+  MonthShown();
+}
+
+// What is unsaved is saved even where the month stays.
+void CalendarForm::GoToToday() {
+  picMAINBOARD_.EndStroke();
+  calendar_.Save();
+  ShowMonth(ThisMonth());
+}
+
+void CalendarForm::MonthShown() {
+  if (!handle()) return;
+  const LocalTime now = services().clock.Now();
+  today_ = DateOf(now);
+  month_offset_ = MonthsBetween(ThisMonth(), calendar_.month());
+  month_grid_ = GridOfMonth(calendar_.month(), calendar_.first_weekday(), true);
+  midnight_timer_.Restart(SecondsToMidnight(now) * 1000);
+  Form_Resize();
+  CalendarRefreshBoard();
+  WidgetRefresh();
+}
+
+void CalendarForm::OnNewDay() {
+  if (DateOf(services().clock.Now()) == today_) {
+    midnight_timer_.Restart(SecondsToMidnight(services().clock.Now()) * 1000);
+    return;
+  }
+  // Who looked at this month goes on to do so, but not in the middle of a stroke.
+  const bool busy = board_.drawing() || board_.floating();
+  if (month_offset_ == 0 && !busy && ThisMonth() != calendar_.month()) {
+    calendar_.Show(ThisMonth());
+  }
+  MonthShown();
+}
+
+void CalendarForm::OnLanguage() {
+  calendar_.SetFirstWeekday(UserFirstWeekday());
+  if (calendar_.Save()) calendar_.Load();
+  MonthShown();
+}
+
+bool CalendarForm::SaveMonth() {
+  picMAINBOARD_.EndStroke();
+  AfterChange(board_.DropFloat());
+  return calendar_.Save();
+}
+
+// --- what a month's grid says
+
+std::wstring CalendarForm::DayName(const Date& date, std::wstring_view pattern) const {
+  LocalTime time;
+  time.year = date.year;
+  time.month = date.month;
+  time.day = date.day;
+  time.weekday = WeekdayOf(date);
+  return services().formatter.Format(time, pattern);
+}
+
+MonthGrid CalendarForm::GridOfMonth(Month month, int first_weekday, bool with_today) const {
+  constexpr Date kSomeSunday{2023, 1, 1};
+  MonthGrid grid;
+  grid.month = month;
+  grid.days = GridOf(month, first_weekday);
+  const auto rule = static_cast<FirstWeek>(UserFirstWeekRule());
+  for (int i = 0; i < kWeekDays; ++i) {
+    Date day = kSomeSunday;
+    day.day += (first_weekday + i) % kWeekDays;
+    const auto column = static_cast<std::size_t>(i);
+    grid.names[column] = DayName(day, L"dddd");
+    grid.brief_names[column] = DayName(day, L"ddd");
+  }
+  for (std::size_t i = 0; i < grid.weeks.size(); ++i) {
+    grid.weeks[i] = WeekNumber(grid.days[i * kWeekDays], first_weekday, rule);
+  }
+  for (std::size_t i = 0; i < grid.days.size(); ++i) {
+    grid.holidays[i] = calendar_.holidays().NameOf(grid.days[i]);
+    if (with_today && grid.days[i] == today_) grid.today = static_cast<int>(i);
+  }
+  return grid;
+}
+
+// "Wednesday 16 September, week 38 - today"
+std::wstring CalendarForm::DayText(const Date& date) const {
+  const auto day = std::ranges::find(month_grid_.days, date);
+  std::wstring text = DayName(date, L"dddd d mmmm");
+  if (day == month_grid_.days.end()) return text;
+  const auto cell = static_cast<std::size_t>(day - month_grid_.days.begin());
+  text += L", week " + NumberText(month_grid_.weeks[cell / kWeekDays]);
+  const std::wstring& holiday = month_grid_.holidays[cell];
+  if (!holiday.empty()) text += L" - " + holiday;
+  if (date == today_) text += L" - today";
+  return text;
+}
+
+void CalendarForm::OnPointer(Point at) {
+  if (std::exchange(pointed_, grid_.CellAt(at)) != pointed_) RefreshContent();
+}
+
+// --- objects
+
+void CalendarForm::CalendarInsertText() {
+  picMAINBOARD_.EndStroke();
+  services().program.OpenDialog(L"frmCALit");
+}
+
+void CalendarForm::CalendarInsertChoose() {
+  picMAINBOARD_.EndStroke();
+  services().program.OpenDialog(L"frmCALip");
+}
+
+int CalendarForm::TextWidth() const {
+  return std::max(1, grid_.cells[0].width() - Scaled(8, dpi()));
+}
+
+void CalendarForm::InsertText(const std::wstring& text, int points, bool wrap) {
+  FloatText(text, points, wrap ? TextWidth() : 0);
+}
+
+// Three fifths of a day high, and made from the picture that is nearest above that.
+void CalendarForm::InsertIcon(const OfferedPicture& picture) {
+  const Rect& cell = grid_.cells[0];
+  const int side = std::max(8, std::min(cell.width(), cell.height()) * 3 / 5);
+  const auto source = [picture, side](double scale) {
+    const int wished = static_cast<int>(side * scale + 0.5);
+    const std::string_view file = wished <= kIconSides[0] ? picture.small : picture.large;
+    return Resampled(Premultiplied(DecodePicture(file).image), {wished, wished});
+  };
+  FloatPicture(FloatKind::kIcon, source);
+}
+
+// --- messages
+
+void CalendarForm::OnControl(int id, int code) {
+  BoardForm::OnControl(id, code);
+  if (code != BN_CLICKED || id < cmdCALTOOL ||
+      id >= cmdCALTOOL + static_cast<int>(kCalendarTools)) {
+    return;
+  }
+  switch (static_cast<CalendarTool>(id - cmdCALTOOL)) {
+    case CalendarTool::kPrevious:
+      return ShowMonthBeside(-1);
+    case CalendarTool::kNext:
+      return ShowMonthBeside(1);
+    case CalendarTool::kToday:
+      return GoToToday();
+    case CalendarTool::kPenWidth:
+      return;
+    case CalendarTool::kText:
+      return CalendarInsertText();
+    case CalendarTool::kIcon:
+      return CalendarInsertChoose();
+    case CalendarTool::kUndo:
+      return Undo();
+    case CalendarTool::kRedo:
+      return Redo();
+  }
+}
+
+// A notch is a month, with Ctrl a year; an object that floats is scaled.
+void CalendarForm::OnWheel(int turn, bool ctrl) {
+  if (board_.floating()) {
+    picMAINBOARD_.OnWheel(turn, ctrl, false);
+    return;
+  }
+  wheel_turn_ -= turn;
+  const int steps = wheel_turn_ / WHEEL_DELTA;
+  wheel_turn_ %= WHEEL_DELTA;
+  if (steps != 0) ShowMonthBeside(ctrl ? steps * kMonthsOfAYear : steps);
+}
+
+LRESULT CalendarForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+  switch (message) {
+    case WM_MOUSEWHEEL:
+      OnWheel(GET_WHEEL_DELTA_WPARAM(wparam), (wparam & MK_CONTROL) != 0);
+      return 0;
+    case WM_TIMECHANGE:
+    case WM_POWERBROADCAST:
+      // The clock was set, or the computer slept past midnight.
+      OnNewDay();
+      break;
+    case WM_SETTINGCHANGE:
+      if (UserFirstWeekday() != calendar_.first_weekday()) OnLanguage();
+      break;
+    default:
+      break;
+  }
+  return BoardForm::OnMessage(message, wparam, lparam);
+}
+
+}  // namespace varnel

@@ -1,0 +1,95 @@
+// The calendar widget.
+#pragma once
+
+#include "widgets/boards/board_form.h"
+#include "widgets/boards/calendar_board.h"
+#include "widgets/boards/calendar_layout.h"
+#include "widgets/boards/calendar_link.h"
+#include "widgets/boards/calendar_painter_win.h"
+#include "win/folder_watch.h"
+
+namespace varnel {
+
+class CalendarForm : public BoardForm, private CalendarWidget {  // frmCALwg
+ public:
+  CalendarForm(Services& services, const FormEntry& entry, int index, CalendarLink& link);
+
+  // Shows the month's file, or a fresh grid where there is none.
+  void CalendarBoardLoad();
+  void GoToToday();
+  void CalendarPenColor(int index) { SetPen(index); }
+  void CalendarInsertText();
+  void CalendarInsertChoose();
+  void CalendarMergeFloat() { AfterChange(board_.MergeFloat()); }
+  void CalendarRefreshBoard();
+  // Brings the tools up to date.
+  void ShowIconsCal();
+
+ private:
+  void OnLoad() override;
+  void OnUnload() override;
+  void LayOutPanel(const Rect& panel) override;
+  void RefreshContent() override;
+  void PaintPanel(Surface& surface, const Rect& panel) override;
+  void DrawPanelButton(const ButtonPainting& painting) override;
+  void OnControl(int id, int code) override;
+  // The labels on the strip say it.
+  std::wstring StatusText() const override { return {}; }
+  std::wstring StripText() const override;
+  LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
+
+  BoardDocument& document() override { return calendar_; }
+  Image PictureOfBoard() override;
+  int TextWidth() const override;
+  std::vector<BoardAction> MakeActions() override;
+  void PaintBoard(Surface& surface, const Rect& part) override;
+  Size BoardSize() const override { return grid_.size; }
+  void OnPointer(Point at) override;
+
+  void InsertText(const std::wstring& text, int points, bool wrap) override;
+  void InsertIcon(const OfferedPicture& picture) override;
+  bool SaveMonth() override;
+  void FolderChanged() override;
+
+  Month ThisMonth() const { return MonthOf(services().clock.Now()); }
+  // Saves, and shows the month so many months on.
+  void ShowMonthBeside(int months);
+  void ShowMonth(Month month);
+  // After another month, or another form of it, was taken up.
+  void MonthShown();
+  // The day, the language's way of counting weeks, or the clock may have changed.
+  void OnNewDay();
+  void OnLanguage();
+  void OnWheel(int turn, bool ctrl);
+  MonthGrid GridOfMonth(Month month, int first_weekday, bool with_today) const;
+  Image PictureOfMonth(Month month, const MonthInk& ink);
+  Image PaintedGrid(const CalendarGrid& grid, const MonthGrid& month);
+  std::wstring DayName(const Date& date, std::wstring_view pattern) const;
+  std::wstring DayText(const Date& date) const;
+  void PlaceLabels(const Rect& panel);
+  void PlaceToday(const Rect& panel);
+  void PlaceStripLabels();
+  int TitleWidth() const;
+
+  CalendarLink& link_;
+  CalendarBoard calendar_;
+  double month_offset_ = 0;  // the months from today's to the one that is shown
+  Date today_;               // that the grid shows as today
+  int pointed_ = -1;         // the cell under the pointer
+  int wheel_turn_ = 0;       // not yet a whole step
+  CalendarLayout places_;
+  CalendarGrid grid_;
+  MonthGrid month_grid_;
+  Image ground_;  // the grid as it is shown; empty while it has to be painted anew
+  Image ink_;     // what is shown of the sheet
+  ThemedLabel lblSeptember2015_;
+  ThemedLabel lablDAYNO_;
+  ThemedLabel lablDAY_;
+  ThemedLabel lblDATETODAY_;
+  ThemedLabel lblSCREEN_;
+  ThemedLabel lblMOUSE_;
+  FolderWatch watch_;
+  Timer midnight_timer_;
+};
+
+}  // namespace varnel
