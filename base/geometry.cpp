@@ -44,10 +44,11 @@ Rect Inset(const Rect& rect, int amount) {
 }
 
 Rect Grown(const Rect& rect, int amount, std::span<const Rect> others) {
+  const Rect reach = Inset(rect, -2 * amount);  // farther neighbours cannot be met half-way
   Rect grown = Inset(rect, -amount);
   for (const Rect& other : others) {
-    const bool beside = other.top < grown.bottom && other.bottom > grown.top;
-    const bool in_line = other.left < grown.right && other.right > grown.left;
+    const bool beside = other.top < reach.bottom && other.bottom > reach.top;
+    const bool in_line = other.left < reach.right && other.right > reach.left;
     if (!beside || !in_line) continue;
     if (other.top >= rect.bottom) {
       grown.bottom = std::min(grown.bottom, (rect.bottom + other.top) / 2);

@@ -76,7 +76,9 @@ TEST(Geometry, TwipsAndPixelsAtEveryDpi) {
 TEST(Geometry, GrowsNotIntoNeighbours) {
   const Rect box{10, 10, 20, 20};
   const Rect beside[] = {box, {20, 10, 30, 20}, {10, 22, 20, 30}, {0, 0, 3, 40}};
-  EXPECT_EQ(Grown(box, 5, beside), (Rect{5, 5, 20, 21}));
+  EXPECT_EQ(Grown(box, 5, beside), (Rect{7, 5, 20, 21}));
+  const Rect close[] = {box, {23, 10, 33, 20}};
+  EXPECT_LE(Grown(box, 3, close).right, Grown(close[1], 3, close).left);
   const Rect around[] = {{0, 0, 8, 30}, {0, 0, 30, 9}};
   EXPECT_EQ(Grown(box, 5, around), (Rect{9, 10, 25, 25}));
   EXPECT_EQ(Grown(box, 5, {}), (Rect{5, 5, 25, 25}));
