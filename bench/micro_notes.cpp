@@ -1,4 +1,4 @@
-// Timings of the notes' engines: spelling and replacing in texts of a megabyte.
+// Timings of the notes' engines: spelling, replacing and formatted texts of a megabyte.
 #include <cstdint>
 #include <cstring>
 #include <random>
@@ -6,6 +6,8 @@
 #include "base/text.h"
 #include "bench/micro.h"
 #include "widgets/notes/find_text.h"
+#include "widgets/notes/rtf_reader.h"
+#include "widgets/notes/rtf_writer.h"
 #include "widgets/notes/spell_rules.h"
 #include "widgets/notes/text_words.h"
 #include "widgets/notes/word_list.h"
@@ -149,6 +151,35 @@ double ReplaceTenThousand() {
          });
 }
 
+// Formatted text as people have it: a change of format every few words, letters beyond ASCII in
+// one word of five.
+std::string MadeUpRtf() {
+  constexpr const char* kFormats[] = {"\\b ",    "\\b0 ",   "\\i ",   "\\i0 ",
+                                      "\\fs28 ", "\\fs24 ", "\\cf1 ", "\\cf0 "};
+  std::mt19937 random(13);
+  std::string rtf =
+      "{\\rtf1\\ansi\\ansicpg1252\\uc1\\deff0{\\fonttbl{\\f0\\fcharset0 Tahoma;}}"
+      "{\\colortbl ;\\red200\\green0\\blue0;}\\pard\\plain\\fs24 ";
+  while (rtf.size() < kMegabyte) {
+    if (random() % 6 == 0) rtf += kFormats[random() % std::size(kFormats)];
+    rtf += random() % 5 == 0 ? "caf\\'e9 \\u380?\\u243?\\u322?w " : "of plain words ";
+    if (random() % 12 == 0) rtf += "\\par\r\n";
+  }
+  return rtf + "\\par}";
+}
+
+double ReadFormatted() {
+  const std::string rtf = MadeUpRtf();
+  const double seconds = SecondsFor([&] { Keep(ReadRtf(rtf).document.text.size()); });
+  return static_cast<double>(rtf.size()) / 1e6 / seconds;
+}
+
+double WriteFormatted() {
+  const RtfDocument document = ReadRtf(MadeUpRtf()).document;
+  const auto size = static_cast<double>(WriteRtf(document).size());
+  return size / 1e6 / SecondsFor([&] { Keep(WriteRtf(document).size()); });
+}
+
 }  // namespace
 
 std::vector<Probe> NotesProbes() {
@@ -156,7 +187,9 @@ std::vector<Probe> NotesProbes() {
           {"the same, bare look-ups", "ms", CheckByBareTable},
           {"dictionary of 170,000 words read", "ms", LoadList},
           {"suggestions for a word", "ms", Suggest},
-          {"10,000 hits in 1 MB replaced", "ms", ReplaceTenThousand}};
+          {"10,000 hits in 1 MB replaced", "ms", ReplaceTenThousand},
+          {"formatted text read", "MB/s", ReadFormatted},
+          {"formatted text written", "MB/s", WriteFormatted}};
 }
 
 }  // namespace varnel::bench

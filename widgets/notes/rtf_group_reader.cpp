@@ -176,11 +176,12 @@ void RtfGroupReader::SwitchTo(RtfDestination destination) {
   if (old == RtfDestination::kObject && !is_result) return;
   if (old == RtfDestination::kShape && !is_result && destination != RtfDestination::kPicture)
     return;
-  if (destination == RtfDestination::kPicture || destination == RtfDestination::kObject ||
-      destination == RtfDestination::kWrapper) {
-    if (!group().in_wrapper)
-      group().first_picture = trace_ == nullptr ? 0 : trace_->pictures.size();
-    group().wraps_picture = !group().in_wrapper;
+  const bool wraps = destination == RtfDestination::kPicture ||
+                     destination == RtfDestination::kObject ||
+                     destination == RtfDestination::kWrapper;
+  if (wraps && !group().in_wrapper) {
+    group().first_picture = trace_ == nullptr ? 0 : trace_->pictures.size();
+    group().wraps_picture = true;
     group().in_wrapper = true;
   }
   switch (destination) {

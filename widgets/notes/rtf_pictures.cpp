@@ -1,5 +1,6 @@
 #include "widgets/notes/rtf_pictures.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "widgets/notes/rtf_writer.h"
@@ -54,9 +55,13 @@ std::optional<std::string> PutPicturesBack(std::string_view control_rtf,
     done = span.end;
   }
   rtf += control_rtf.substr(done);
-  // Text within the picture's own group would be gone.
+  // Text within the picture's own group would be gone; a group that is no picture of its own would
+  // hide one.
   const RtfReading after = ReadRtf(rtf, control);
-  const bool whole = after.fault == RtfFault::kNone && after.document.text == before.document.text;
+  const bool whole = after.fault == RtfFault::kNone &&
+                     after.document.text == before.document.text &&
+                     std::ranges::equal(after.document.pictures, pictures, {}, &RtfPicture::bytes,
+                                        &RtfPicture::bytes);
   return whole ? std::optional(std::move(rtf)) : std::nullopt;
 }
 
