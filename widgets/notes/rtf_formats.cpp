@@ -193,9 +193,10 @@ ParagraphFormat ResolvedFormat(const ParagraphState& state) {
 bool ApplyToPicture(const RtfWordUse& use, RtfPicture& picture, bool& known) {
   if (use.word == RtfWord::kPictureKind) {
     known = use.argument >= 0;
-    if (known) picture.kind = static_cast<PictureKind>(use.argument);
-    if (known && picture.kind == PictureKind::kWmf && use.has_value)
-      picture.metafile_mode = use.value;
+    if (!known) return true;
+    picture.kind = static_cast<PictureKind>(use.argument);
+    const bool has_mode = picture.kind == PictureKind::kWmf && use.has_value;
+    picture.metafile_mode = has_mode ? use.value : RtfPicture().metafile_mode;
     return true;
   }
   if (use.word != RtfWord::kPictureValue) return false;
