@@ -6,14 +6,13 @@
 #include "core/core_settings.h"
 #include "core/widget_index.h"
 #include "tests/rig/scene.h"
+#include "tests/rig/screen_dpi.h"
 #include "tests/support/boxes.h"
 
 namespace varnel {
 namespace {
 
 using namespace rig;
-
-using Look = Scene;
 
 void Resize(HWND form, Size size) {
   ::SetWindowPos(form, nullptr, 10, 10, size.width, size.height, SWP_NOZORDER);
@@ -59,29 +58,43 @@ void CheckPixels(HWND form, Size former, Size size) {
   EXPECT_TRUE(IsWhole(form)) << "something is left of what was there";
 }
 
-TEST_F(Look, WidgetsAreWholeAtEverySize) {
-  for (int i = 0; i < kWidgetCount; ++i) {
-    const Setting& flag = WidgetAt(i)->start_load;
-    root().settings().SetText(std::wstring(flag.section), std::wstring(flag.name), L"True");
-  }
-  ASSERT_TRUE(program().Start());
-  ASSERT_TRUE(WaitForForm(program(), L"frmVRNwg"));
-  for (int i = -1; i < kWidgetCount; ++i) {
-    const std::wstring_view name = i < 0 ? kManagerForm.form_name : WidgetAt(i)->form_name;
-    HWND form = FindForm(program(), name);
-    if (!form) continue;
-    ASSERT_TRUE(Activate(form));
-    Size former{393, 231};
-    for (const Size size : {Size{160, 107}, {500, 350}, {240, 160}}) {
-      SCOPED_TRACE(testing::Message()
-                   << Utf8FromWide(name) << " of " << size.width << " x " << size.height << " px");
-      Resize(form, size);
-      CheckControls(form);
-      // The clock's seconds go on between two looks.
-      if (i != 0) CheckPixels(form, former, size);
-      former = size;
+class Look : public Scene {
+ protected:
+  // Opens every widget and looks at it in three sizes, written for 96 dpi.
+  void LookAtAll(int dpi) {
+    for (int i = 0; i < kWidgetCount; ++i) {
+      const Setting& flag = WidgetAt(i)->start_load;
+      root().settings().SetText(std::wstring(flag.section), std::wstring(flag.name), L"True");
+    }
+    ASSERT_TRUE(program().Start());
+    ASSERT_TRUE(WaitForForm(program(), L"frmVRNwg"));
+    for (int i = -1; i < kWidgetCount; ++i) {
+      const std::wstring_view name = i < 0 ? kManagerForm.form_name : WidgetAt(i)->form_name;
+      HWND form = FindForm(program(), name);
+      if (!form) continue;
+      ASSERT_TRUE(Activate(form));
+      Size former{Scaled(393, dpi), Scaled(231, dpi)};
+      for (const Size at_96 : {Size{160, 107}, {500, 350}, {240, 160}}) {
+        const Size size{Scaled(at_96.width, dpi), Scaled(at_96.height, dpi)};
+        SCOPED_TRACE(testing::Message() << Utf8FromWide(name) << " of " << size.width << " x "
+                                        << size.height << " px");
+        Resize(form, size);
+        CheckControls(form);
+        // The clock's seconds go on between two looks.
+        if (i != 0) CheckPixels(form, former, size);
+        former = size;
+      }
     }
   }
+};
+
+TEST_F(Look, WidgetsAreWholeAtEverySize) {
+  LookAtAll(kDefaultDpi);
+}
+
+TEST_F(Look, WidgetsAreWholeAtTwiceTheResolution) {
+  const ScreenDpi dpi(192);
+  LookAtAll(192);
 }
 
 }  // namespace

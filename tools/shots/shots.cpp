@@ -13,6 +13,7 @@
 #include "tests/rig/http_server.h"
 #include "tests/rig/input.h"
 #include "tests/rig/picture.h"
+#include "tests/rig/screen_dpi.h"
 #include "tests/support/weather_samples.h"
 #include "theme/preset.h"
 #include "theme/preset_generator.h"
@@ -54,22 +55,6 @@ std::wstring Suffix(const Look& look) {
   return look.dpi == kDefaultDpi ? suffix : L"-" + std::to_wstring(look.dpi * 100 / kDefaultDpi);
 }
 
-// Programs started while it lives take the screen to have that many dots per inch.
-class ScreenDpi {
- public:
-  explicit ScreenDpi(int dpi) : desktop_(HKEY_CURRENT_USER, L"Control Panel\\Desktop") {
-    const DWORD value = static_cast<DWORD>(dpi);
-    desktop_.SetRaw(L"", L"LogPixels",
-                    {REG_DWORD, std::string(reinterpret_cast<const char*>(&value), sizeof value)});
-  }
-  ScreenDpi(const ScreenDpi&) = delete;
-  ScreenDpi& operator=(const ScreenDpi&) = delete;
-  ~ScreenDpi() { desktop_.RemoveValue(L"", L"LogPixels"); }
-
- private:
-  rig::Registry desktop_;
-};
-
 // The window as it has come to rest, as far as it lies on the screen.
 rig::Picture PictureAtRest(HWND window) {
   // What it was told to do is done, and painted, once it answers.
@@ -93,7 +78,7 @@ class Studio {
 
   void Take(const Subject& subject) {
     for (const Look& look : LooksOf(subject)) {
-      const ScreenDpi dpi(look.dpi);
+      const rig::ScreenDpi dpi(look.dpi);
       if (HWND form = Start(subject, look)) TakeOne(subject, look, form);
       program_.Kill();
       rig::ResetInput();
