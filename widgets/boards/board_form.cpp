@@ -279,13 +279,14 @@ void BoardForm::DropMenu(int button, const std::vector<MenuItem>& items) {
 
 // --- keys and other messages
 
+bool BoardForm::OnBoardKey(const MSG& message) {
+  if (message.message == WM_CHAR) return OnCharacter(static_cast<wchar_t>(message.wParam));
+  if (message.message != WM_KEYDOWN) return false;
+  return (board_.floating() && OnFloatKey(message.wParam)) || RunKey(message.wParam);
+}
+
 bool BoardForm::OnKey(const MSG& message) {
-  if (message.message == WM_CHAR && OnCharacter(static_cast<wchar_t>(message.wParam))) return true;
-  if (message.message == WM_KEYDOWN) {
-    if (board_.floating() && OnFloatKey(message.wParam)) return true;
-    if (RunKey(message.wParam)) return true;
-  }
-  return WidgetForm::OnKey(message);
+  return OnBoardKey(message) || WidgetForm::OnKey(message);
 }
 
 bool BoardForm::OnFloatKey(WPARAM key) {

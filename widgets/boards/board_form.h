@@ -70,6 +70,8 @@ class BoardForm : public WidgetForm, protected BoardSurfaceOwner {
   std::vector<MenuItem> MenuGroup() const override;
   bool RunOwnCommand(int id) override;
   void OnControl(int id, int code) override;
+  // What the board's own keys do; true when it was one of them.
+  bool OnBoardKey(const MSG& message);
   bool OnKey(const MSG& message) override;
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
   void OnBoardChanged() override;

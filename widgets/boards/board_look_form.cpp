@@ -184,9 +184,9 @@ void BoardForm::DrawPen(const ButtonPainting& painting, int pen) {
 
 // A line as thick as the pen, as far as the button has room.
 void BoardForm::DrawWidth(const ButtonPainting& painting) {
-  const Colour face = painting.colours.first;
-  const Colour theme = PanelTextStyle(1).colour;
-  const Colour ink = ContrastRatio(theme, face) >= 2 ? theme : InkOn(face);
+  TextStyle style = PanelTextStyle(Scaled(kGlyphHeight, dpi()));
+  style.ground = painting.colours.first;
+  const Colour ink = WritingOf(style).colour;
   const int thick = std::max(1, Scaled(std::min(board_.pen_width(), kMostLine), dpi()));
   const Rect line = Centred(painting.bounds, {Scaled(kLineLength, dpi()), thick});
   DrawRoundedBox(painting.surface.pixels(), painting.surface.size(), line, thick / 2.0,

@@ -18,7 +18,7 @@ namespace varnel {
 namespace {
 
 constexpr int kIconSide = 40;  // at 96 dpi
-constexpr int kAcross = 88;    // from one icon to the next
+constexpr int kAcross = 90;    // from one icon to the next
 constexpr int kDown = 68;
 
 // The picture as a bitmap for a list, on the list's ground.

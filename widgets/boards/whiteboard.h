@@ -9,6 +9,7 @@
 #include "base/document_file.h"
 #include "base/document_folder.h"
 #include "base/wall_clock.h"
+#include "widgets/boards/board_document.h"
 #include "widgets/boards/drawing_board.h"
 
 namespace varnel {
@@ -16,7 +17,7 @@ namespace varnel {
 // The most bytes that a board's file may have.
 inline constexpr std::size_t kMostBoardBytes = std::size_t{8192} * 8192 * 4 + 4096;
 
-class Whiteboard {
+class Whiteboard : public BoardDocument {
  public:
   Whiteboard(FileStore& files, RecycleBin& bin, const WallClock& clock, DrawingBoard& board);
 
@@ -30,14 +31,12 @@ class Whiteboard {
   std::optional<std::size_t> current() const;
   // "New Board" for one that has no file.
   std::wstring name() const;
-  // What went wrong last, in words for the user; empty when nothing did.
-  const std::wstring& trouble() const { return trouble_; }
-  void Tell(std::wstring trouble) { trouble_ = std::move(trouble); }
 
   // Saves what is unsaved: in the board's file, or under a new name where it has none. A board
   // whose file others have changed is saved under a new name beside it. False when it cannot be
   // saved; nothing is lost then.
   bool BoardSave();
+  bool Save() override { return BoardSave(); }
   // The next two save first, and leave all as it is when that fails. The first starts an empty
   // board of `size`.
   bool BoardNew(Size size);
@@ -51,11 +50,8 @@ class Whiteboard {
   // Reads the folder anew. A board that is shown as it was saved follows its file.
   void SideBarRefresh(Size size);
 
-  // Keeps a draft of what is unsaved when it is time to. `now` in milliseconds of a clock that is
-  // never set.
-  void Tend(std::uint64_t now);
-  // The same at once, whenever the last one was.
-  void KeepDraft(std::uint64_t now);
+  void Tend(std::uint64_t now) override;
+  void KeepDraft(std::uint64_t now) override;
 
  private:
   std::wstring PathOf(const std::wstring& title) const;
@@ -75,7 +71,6 @@ class Whiteboard {
   DocumentFolder folder_;
   std::optional<DocumentFile> file_;
   std::uint64_t noted_changes_ = 0;
-  std::wstring trouble_;
 };
 
 }  // namespace varnel

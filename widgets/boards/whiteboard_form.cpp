@@ -1,82 +1,138 @@
 #include "widgets/boards/whiteboard_form.h"
 
+#include <windows.h>
+#include <windowsx.h>
+
 #include <algorithm>
+#include <iterator>
 
 #include "base/bmp.h"
-#include "base/number_text.h"
-#include "base/resample.h"
 #include "resources/control_ids.h"
 #include "widgets/boards/board_folders.h"
 #include "widgets/boards/board_settings.h"
-#include "widgets/boards/text_picture_win.h"
-#include "win/clipboard.h"
 #include "win/file_dialogs.h"
 #include "win/message_box.h"
-#include "win/pictures.h"
+#include "win/system_rect.h"
 
 namespace varnel {
 namespace {
 
-constexpr int kRepaintMs = 60;
-constexpr int kDraftTickMs = 500;
 constexpr int kThumbnailMs = 10;
-constexpr int kMostPastedUnits = 10'000;
-constexpr int kPointsToAnInch = 72;
+
+constexpr BoardTraits kTraits{kBoardPen,
+                              kBoardPenWidth,
+                              kBoardTextSize,
+                              L"mnuWBOARDPENSUB",
+                              {{{L"mnuWBOARDPENTHIN", L"T&hin pen"},
+                                {L"mnuWBOARDPENTHICK", L"Thic&k pen"},
+                                {L"mnuWBOARDPENMARKER", L"&Marker"},
+                                {L"mnuWBOARDPENBROAD", L"Br&oad pen"}}},
+                              lblWhiteboard,
+                              lblTestfrmWBDwg,
+                              cmdBOARDTOOL + static_cast<int>(BoardTool::kPenWidth)};
 
 constexpr Message kDeleteQuestion{L"Delete a whiteboard", L"Are you sure you want to delete?",
                                   MessageKind::kQuestion};
 constexpr Message kReplaceQuestion{L"Rename a whiteboard",
                                    L"There is a board called \"%1\" already. Replace it?",
                                    MessageKind::kQuestion};
-constexpr Message kCloseQuestion{L"Whiteboard", L"%1. Close the whiteboard all the same?",
-                                 MessageKind::kQuestion};
 constexpr wchar_t kPictureFilter[] =
     L"All pictures (*.bmp;*.jpg;*.gif)|*.bmp;*.jpg;*.gif|"
     L"Bitmap image File picture (*.bmp)|*.bmp|"
     L"Graphics Interchange Format picture (*.gif)|*.gif|"
     L"Joint Photographic Experts Group picture (*.jpg)|*.jpg|All files (*.*)|*.*";
 
-std::wstring_view FaultWords(PictureFault fault) {
-  switch (fault) {
-    case PictureFault::kTooManyBytes:
-    case PictureFault::kTooLarge:
-      return L"is too large";
-    case PictureFault::kUnknownKind:
-      return L"is no picture that can be read";
-    case PictureFault::kNone:
-    case PictureFault::kDamaged:
-      break;
-  }
-  return L"is damaged";
-}
-
-std::wstring NameOf(const std::wstring& path) {
-  return path.substr(path.rfind(L'\\') + 1);
-}
-
 }  // namespace
 
 WhiteboardForm::WhiteboardForm(Services& services, const FormEntry& entry, int index,
                                BoardLink& link)
-    : WidgetForm(services, entry, index),
+    : BoardForm(services, entry, index, kTraits, Canvas::kWhiteBoard),
       link_(link),
       whiteboard_(services.files, bin_, services.clock, board_),
-      picMAINBOARD_(services.ui, board_, *this),
       lvwFILES_(services.ui, *this),
-      lblWhiteboard_(services.ui),
-      lblTestfrmWBDwg_(services.ui),
       watch_(services.ui, [this] { SideBarRefresh(); }),
-      tmrDRAW_(*this, kRepaintMs,
-               [this] {
-                 tmrDRAW_.Stop();
-                 WidgetRefresh();
-               }),
-      draft_timer_(*this, kDraftTickMs,
-                   [this] {
-                     whiteboard_.Tend(::GetTickCount64());
-                     if (!board_.BoardModified()) draft_timer_.Stop();
-                   }),
       thumbnail_timer_(*this, kThumbnailMs, [this] { MakeThumbnail(); }) {}
+
+std::vector<BoardAction> WhiteboardForm::FileActions() {
+  constexpr auto kCtrl = BoardAction::Held::kCtrl;
+  constexpr auto kPlain = BoardAction::Held::kNothing;
+  const auto has_file = [this] { return HasFile(); };
+  return {{{L"mnuWBOARDNEW", L"&New board", L"Ctrl+N"}, [this] { BoardNew(); }, 'N', kCtrl},
+          {{L"mnuWBOARDSAVE", L"&Save", L"Ctrl+S"},
+           [this] { BoardSave(); },
+           'S',
+           kCtrl,
+           [this] { return board_.BoardModified(); }},
+          {{L"mnuWBOARDRENAME", L"Rena&me", L"F2"},
+           [this] { WhiteboardRenameShow(); },
+           VK_F2,
+           kPlain,
+           has_file},
+          {{L"mnuWBOARDDELETE", L"&Delete...", L"Del"},
+           [this] { BoardDelete(); },
+           VK_DELETE,
+           kPlain,
+           has_file}};
+}
+
+std::vector<BoardAction> WhiteboardForm::MakeActions() {
+  constexpr auto kCtrl = BoardAction::Held::kCtrl;
+  constexpr auto kPlain = BoardAction::Held::kNothing;
+  std::vector<BoardAction> actions = FileActions();
+  std::ranges::move(
+      std::vector<BoardAction>{
+          {{L"mnuWBOARDUNDO", L"&Undo", L"Ctrl+Z"},
+           [this] { Undo(); },
+           'Z',
+           kCtrl,
+           [this] { return board_.CanUndo(); },
+           {},
+           {},
+           true},
+          {{L"mnuWBOARDREDO", L"Red&o", L"Ctrl+Y"},
+           [this] { Redo(); },
+           'Y',
+           kCtrl,
+           [this] { return board_.CanRedo(); }},
+          {{L"mnuWBOARDCLEAR", L"&Clear the board"}, [this] { Clear(); }},
+          {{L"mnuWBOARDINSTEXT", L"Insert &text...", L"Ctrl+T"},
+           [this] { BoardInsertObject(L"TEXT"); },
+           'T',
+           kCtrl,
+           {},
+           {},
+           {},
+           true},
+          {{L"mnuWBOARDINSPIC", L"Insert a p&icture...", L"Ctrl+I"},
+           [this] { BoardInsertObject(L"PICTURE"); },
+           'I',
+           kCtrl},
+          {{L"mnuWBOARDCOPY", L"Cop&y the board", L"Ctrl+C"}, [this] { Copy(); }, 'C', kCtrl},
+          {{L"mnuWBOARDPASTE", L"P&aste", L"Ctrl+V"}, [this] { Paste(); }, 'V', kCtrl},
+          {{L"mnuWBOARDPENS", L"&Pens"},
+           {},
+           0,
+           kPlain,
+           {},
+           {},
+           [this] { return PenItems(); },
+           true}},
+      std::back_inserter(actions));
+  std::ranges::move(WidthActions(), std::back_inserter(actions));
+  actions.push_back({{L"mnuWBOARDLIST", L"Show the &list", L"Ctrl+L"},
+                     [this] { ToggleList(); },
+                     'L',
+                     kCtrl,
+                     {},
+                     [this] { return list_wanted_; },
+                     {},
+                     true});
+  // Printing is still to come.
+  actions.push_back({{L"mnuWBOARDPRINT", L"Prin&t..."}, {}});
+  actions.push_back({{L"mnuWBOARDPROPS", L"Whiteboard p&roperties..."},
+                     [this] { services().program.OpenDialog(L"frmWBDpr"); }});
+  return actions;
+}
 
 std::wstring WhiteboardForm::Folder() const {
   return ReadFolder(services().settings, kWhiteboardFolder, services().program_folder);
@@ -168,17 +224,6 @@ void WhiteboardForm::PaintBoard(Surface& surface, const Rect& part) {
   PutImage(surface, {-part.left, -part.top}, board_.pixels());
 }
 
-void WhiteboardForm::OnBoardChanged() {
-  whiteboard_.Tend(::GetTickCount64());
-  draft_timer_.Start();
-  tmrDRAW_.Start();
-}
-
-void WhiteboardForm::AfterChange(const Rect& shown) {
-  picMAINBOARD_.Repaint(shown);
-  OnBoardChanged();
-}
-
 bool WhiteboardForm::SaveBoards() {
   board_.MouseUp();
   const bool saved = whiteboard_.BoardSave();
@@ -193,40 +238,6 @@ void WhiteboardForm::FolderChanged() {
   ShowBoard();
 }
 
-bool WhiteboardForm::MayClose() {
-  board_.MouseUp();
-  if (!whiteboard_.BoardSave()) {
-    whiteboard_.KeepDraft(::GetTickCount64());
-    return Ask(handle(), kCloseQuestion, {whiteboard_.trouble()});
-  }
-  return WidgetForm::MayClose();
-}
-
-void WhiteboardForm::SaveState(SaveReason reason) {
-  board_.MouseUp();
-  if (!whiteboard_.BoardSave()) whiteboard_.KeepDraft(::GetTickCount64());
-  services().settings.Write(kBoardPen, NumberText(board_.PenColorIndex()));
-  WidgetForm::SaveState(reason);
-}
-
-// --- pens
-
-void WhiteboardForm::WhiteboardPenColor(int index) {
-  picMAINBOARD_.Repaint(board_.SetPen(index));
-  RefreshContent();
-  for (int i = 0; i <= kPens; ++i) buttons().Repaint(cmdPEN + i);
-  for (std::size_t i = 0; i < kBoardTools; ++i) {
-    buttons().Repaint(cmdBOARDTOOL + static_cast<int>(i));
-  }
-}
-
-void WhiteboardForm::WhiteboardPenSize(int pixels) {
-  board_.SetPenWidth(pixels);
-  services().settings.Write(kBoardPenWidth, NumberText(board_.pen_width()));
-  RefreshContent();
-  buttons().Repaint(cmdBOARDTOOL);
-}
-
 // --- objects
 
 void WhiteboardForm::BoardInsertObject(std::wstring_view kind) {
@@ -237,78 +248,11 @@ void WhiteboardForm::BoardInsertObject(std::wstring_view kind) {
   }
   const std::wstring path =
       BrowseForFile(handle(), {L"Insert a Picture", kPictureFilter, 1, {}, {}});
-  if (!path.empty() && handle()) InsertPictureFile(path);
+  if (!path.empty() && handle()) FloatPictureFile(path);
 }
 
 void WhiteboardForm::InsertText(const std::wstring& text, int points) {
-  const bool eraser = board_.PenColorIndex() >= kEraser;
-  const Colour colour = eraser ? kBlack : PenAt(board_.PenColorIndex()).colour;
-  const Rect view = picMAINBOARD_.View();
-  const double height = static_cast<double>(points) * dpi() / kPointsToAnInch;
-  const std::wstring face = paint().theme.strTHEMEPANELFONTNAME;
-  const auto source = [=](double scale) {
-    const int em = std::max(1, static_cast<int>(height * scale + 0.5));
-    return TextPicture(text, {face, em, false}, colour, static_cast<int>(view.width() * scale));
-  };
-  if (board_.BoardInsertObject(FloatKind::kText, source, view)) {
-    ::SetForegroundWindow(handle());
-    ::SetFocus(picMAINBOARD_.handle());
-  }
-  BoardRefresh();
-  tmrDRAW_.Start();
-}
-
-void WhiteboardForm::InsertPictureFile(const std::wstring& path) {
-  const FileRead read = services().files.Read(path, kMostPictureBytes);
-  if (!read) {
-    TellTrouble(L"\"" + NameOf(path) + L"\" " + std::wstring(FileTrouble(read.result)));
-    return;
-  }
-  const DecodedPicture decoded = DecodePicture(read.bytes);
-  if (decoded.fault != PictureFault::kNone) {
-    TellTrouble(L"\"" + NameOf(path) + L"\" " + std::wstring(FaultWords(decoded.fault)));
-    return;
-  }
-  InsertPicture(decoded.image);
-}
-
-void WhiteboardForm::InsertPicture(const Image& straight) {
-  TellTrouble({});
-  const auto source = [picture = OnGround(straight, RGB(255, 255, 255))](double scale) {
-    if (scale == 1) return picture;
-    return Resampled(picture, {static_cast<int>(picture.width() * scale + 0.5),
-                               static_cast<int>(picture.height() * scale + 0.5)});
-  };
-  board_.BoardInsertObject(FloatKind::kPicture, source, picMAINBOARD_.View());
-  BoardRefresh();
-  tmrDRAW_.Start();
-}
-
-void WhiteboardForm::Copy() {
-  CopyContent(handle(), {{}, {}, board_.Picture()});
-}
-
-void WhiteboardForm::Paste() {
-  const ClipboardOffer offer = OfferOfClipboard();
-  if (offer.files) {
-    const auto paths = PastedFiles(handle());
-    if (!paths.empty()) InsertPictureFile(paths.front());
-  } else if (offer.picture) {
-    const Image picture = PastedPicture(handle());
-    if (picture.empty()) {
-      TellTrouble(L"The picture on the clipboard cannot be read");
-    } else {
-      InsertPicture(picture);
-    }
-  } else if (const std::wstring text = PastedText(handle(), kMostPastedUnits); !text.empty()) {
-    InsertText(text, static_cast<int>(ReadNumber(services().settings, kBoardTextSize, 1, 400)));
-  }
-}
-
-void WhiteboardForm::TellTrouble(std::wstring trouble) {
-  whiteboard_.Tell(std::move(trouble));
-  RefreshContent();
-  RepaintStatus();
+  FloatText(text, points, TextWidth());
 }
 
 // --- thumbnails
@@ -326,6 +270,72 @@ void WhiteboardForm::MakeThumbnail() {
   const Rect box = Inset(LayOutBoardRow({}, dpi()).picture, 1);
   thumbnails_.Put(*wish, board ? ThumbnailOf(*board, {box.width(), box.height()}) : Image());
   if (const auto row = boards.Find(wish->name)) lvwFILES_.RepaintRow(*row);
+}
+
+// --- commands
+
+void WhiteboardForm::ToggleList() {
+  list_wanted_ = !list_wanted_;
+  WriteFlag(services().settings, kBoardList, list_wanted_);
+  Form_Resize();
+  ShowBoard();
+}
+
+void WhiteboardForm::OnControl(int id, int code) {
+  BoardForm::OnControl(id, code);
+  const int tool = id - cmdBOARDTOOL;
+  if (code != BN_CLICKED || tool < 0 || tool >= static_cast<int>(kBoardTools)) return;
+  switch (static_cast<BoardTool>(tool)) {
+    case BoardTool::kPenWidth:
+      return;
+    case BoardTool::kText:
+      return BoardInsertObject(L"TEXT");
+    case BoardTool::kPicture:
+      return BoardInsertObject(L"PICTURE");
+    case BoardTool::kUndo:
+      return Undo();
+    case BoardTool::kRedo:
+      return Redo();
+    case BoardTool::kNew:
+      return BoardNew();
+    case BoardTool::kList:
+      return ToggleList();
+  }
+}
+
+bool WhiteboardForm::OnKey(const MSG& message) {
+  if (lvwFILES_.renaming()) return false;
+  if (OnBoardKey(message)) return true;
+  lvwFILES_.OnKey(message);
+  return WidgetForm::OnKey(message);
+}
+
+void WhiteboardForm::OnWheel(WPARAM wparam, LPARAM lparam, bool across) {
+  const Point at{GET_X_LPARAM(lparam), GET_Y_LPARAM(lparam)};
+  const int turn = GET_WHEEL_DELTA_WPARAM(wparam);
+  RECT list = {};
+  ::GetWindowRect(lvwFILES_.handle(), &list);
+  if (!places_.side_list.empty() && FromSystem(list).Contains(at)) {
+    lvwFILES_.ScrollBy(turn > 0 ? -1 : 1);
+  } else {
+    picMAINBOARD_.OnWheel(across ? -turn : turn, (wparam & MK_CONTROL) != 0,
+                          across || (wparam & MK_SHIFT) != 0);
+  }
+}
+
+LRESULT WhiteboardForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+  switch (message) {
+    case WM_MOUSEWHEEL:
+    case WM_MOUSEHWHEEL:
+      OnWheel(wparam, lparam, message == WM_MOUSEHWHEEL);
+      return 0;
+    case WM_NOTIFY: {
+      auto& header = *reinterpret_cast<NMHDR*>(lparam);
+      return header.idFrom == lvwFILES ? lvwFILES_.OnNotify(header) : 0;
+    }
+    default:
+      return BoardForm::OnMessage(message, wparam, lparam);
+  }
 }
 
 }  // namespace varnel
