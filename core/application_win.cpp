@@ -1,14 +1,14 @@
 #include "core/application_win.h"
 
-#include <exception>
 #include <utility>
 
 #include "base/path.h"
-#include "base/text.h"
 #include "core/core_settings.h"
 #include "core/start_options.h"
 #include "theme/preset_generator.h"
+#include "win/guard.h"
 #include "win/hourglass.h"
+#include "win/message_loop.h"
 #include "win/process.h"
 #include "win/single_instance.h"
 #include "win/web_page.h"
@@ -54,60 +54,49 @@ std::wstring Application::InstanceName(const CommandLine& command_line) {
   return command_line.settings_title + L" menus";
 }
 
-template <class Step>
-void Application::Guarded(const wchar_t* name, Step step) {
-  try {
-    step();
-  } catch (const std::exception& fault) {
-    ui_.log.Write(std::wstring(name) + L" failed: " + WideFromUtf8(fault.what()));
-  } catch (...) {
-    ui_.log.Write(std::wstring(name) + L" failed");
-  }
-}
-
 int Application::Run() {
   Main();
-  return RunMessageLoop();
+  return RunMessageLoop(ui_);
 }
 
 void Application::Main() {
   const HourglassPointer pointer;
   ui_.log.SetFile(services_.program_folder + L"debug.log");
-  Guarded(L"constants", [this] {
+  Guard(ui_.log, L"constants", [this] {
     pages_ = ReadWebAddresses(settings_);
     update_checker_.SetPages(pages_);
   });
   closing_ = false;
-  Guarded(L"fonts", [this] {
+  Guard(ui_.log, L"fonts", [this] {
     if (!LoadFontResource(ui_.instance, L"ICONWORKS")) ui_.log.Write(L"no symbol font");
   });
   for (const Family family : families_) {
-    Guarded(L"family", [&] { family(catalogue_); });
+    Guard(ui_.log, L"family", [&] { family(catalogue_); });
   }
-  Guarded(L"data folders", [this] {
+  Guard(ui_.log, L"data folders", [this] {
     for (const FolderSetting& folder : catalogue_.folders()) {
       PrepareFolder(settings_, files_, folder, services_.program_folder);
     }
   });
-  Guarded(L"theme folders", [this] {
+  Guard(ui_.log, L"theme folders", [this] {
     if (!EnsureThemeFolders(files_, services_.program_folder, colours_)) {
       ui_.log.Write(L"theme presets are missing; the next start writes them");
     }
   });
-  Guarded(L"manager", [this] {
+  Guard(ui_.log, L"manager", [this] {
     // The manager opens the widgets that were open last time.
     if (manager_.WidgetForm::Load()) manager_.StartUp();
   });
-  Guarded(L"menus", [this] {
+  Guard(ui_.log, L"menus", [this] {
     menus_.OnAlarmTick([this] { OnAlarmTick(); });
     menus_.Load(InstanceName(command_line_));
   });
-  Guarded(L"tray icon", [this] {
+  Guard(ui_.log, L"tray icon", [this] {
     tray_.Unload();
     tray_.Load();
   });
-  Guarded(L"update check", [this] { CheckForUpdate(0); });
-  Guarded(L"first window", [this] { ShowStartupWindow(); });
+  Guard(ui_.log, L"update check", [this] { CheckForUpdate(0); });
+  Guard(ui_.log, L"first window", [this] { ShowStartupWindow(); });
 }
 
 void Application::OnAlarmTick() {
@@ -155,7 +144,7 @@ void Application::SightChanged(int index) {
 void Application::OnSessionEnd() {
   session_ends_ = true;
   const auto save = [this](WidgetForm& form) {
-    Guarded(L"saving", [&] { form.SaveState(SaveReason::kSessionEnd); });
+    Guard(ui_.log, L"saving", [&] { form.SaveState(SaveReason::kSessionEnd); });
   };
   save(manager_);
   widgets_.ForEach(save);
@@ -165,11 +154,12 @@ void Application::ExitProgram() {
   // All are asked before any closes; at the session's end nobody is there to answer.
   if (closing_ || (!session_ends_ && !widgets_.AllMayClose())) return;
   closing_ = true;
-  Guarded(L"tray icon", [this] { tray_.Unload(); });
-  Guarded(L"manager", [this] { manager_.WidgetForm::Unload(); });
-  widgets_.ForEach([this](WidgetForm& widget) { Guarded(L"widget", [&] { widget.Unload(); }); });
-  dialogs_.ForEach([this](Dialog& dialog) { Guarded(L"dialog", [&] { dialog.Close(); }); });
-  Guarded(L"menus", [this] { menus_.Unload(); });
+  Guard(ui_.log, L"tray icon", [this] { tray_.Unload(); });
+  Guard(ui_.log, L"manager", [this] { manager_.WidgetForm::Unload(); });
+  widgets_.ForEach(
+      [this](WidgetForm& widget) { Guard(ui_.log, L"widget", [&] { widget.Unload(); }); });
+  dialogs_.ForEach([this](Dialog& dialog) { Guard(ui_.log, L"dialog", [&] { dialog.Close(); }); });
+  Guard(ui_.log, L"menus", [this] { menus_.Unload(); });
   ::PostQuitMessage(0);
 }
 

@@ -55,10 +55,6 @@ class Application : public Program {
   void RunCommand(int id) override;
 
  private:
-  // One step of starting or ending the program: what fails in it is logged and skipped.
-  template <class Step>
-  void Guarded(const wchar_t* name, Step step);
-
   void Main();
   void OnAlarmTick();
   void ShowStartupWindow();

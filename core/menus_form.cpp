@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "win/guard.h"
+
 namespace varnel {
 namespace {
 
@@ -41,7 +43,8 @@ void MenusForm::Post(std::function<void()> work) {
 }
 
 void MenusForm::RunPosted() {
-  for (const auto& work : std::exchange(posted_, {})) work();
+  // What fails keeps nothing back that was posted after it.
+  for (const auto& work : std::exchange(posted_, {})) Guard(ui().log, L"posted work", work);
 }
 
 UINT MenusForm::ShowManagerMessage() {

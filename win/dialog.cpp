@@ -1,8 +1,6 @@
 #include "win/dialog.h"
 
-#include <exception>
-
-#include "base/text.h"
+#include "win/guard.h"
 #include "win/window.h"
 #include "win/window_text.h"
 
@@ -63,30 +61,43 @@ INT_PTR CALLBACK Dialog::Procedure(HWND handle, UINT message, WPARAM wparam, LPA
   return dialog ? dialog->Guarded(message, wparam, lparam) : FALSE;
 }
 
-INT_PTR Dialog::Guarded(UINT message, WPARAM wparam, LPARAM lparam) noexcept {
-  try {
-    switch (message) {
-      case WM_INITDIALOG:
-        OnOpen();
-        return TRUE;
-      case DM_GETDEFID:
-        return AnswerDefaultButton();
-      case WM_COMMAND:
-        OnCommand(LOWORD(wparam), HIWORD(wparam));
-        return TRUE;
-      case WM_NCDESTROY:
-        ::SetWindowLongPtrW(handle_, DWLP_USER, 0);
-        handle_ = nullptr;
-        return FALSE;
-      default:
-        return OnMessage(message, wparam, lparam);
-    }
-  } catch (const std::exception& fault) {
-    ui_.log.Write(std::wstring(form_name_) + L" failed: " + WideFromUtf8(fault.what()));
-  } catch (...) {
-    ui_.log.Write(std::wstring(form_name_) + L" failed");
+Dialog* Dialog::FromHandle(HWND handle) {
+  if (::GetWindowLongPtrW(handle, DWLP_DLGPROC) != reinterpret_cast<LONG_PTR>(&Procedure)) {
+    return nullptr;
   }
-  return FALSE;
+  return reinterpret_cast<Dialog*>(::GetWindowLongPtrW(handle, DWLP_USER));
+}
+
+bool Dialog::Key(const MSG& message) noexcept {
+  bool dealt_with = true;
+  Guard(ui_.log, form_name_, [&] { dealt_with = OnKey(message); });
+  return dealt_with;
+}
+
+INT_PTR Dialog::Guarded(UINT message, WPARAM wparam, LPARAM lparam) noexcept {
+  INT_PTR result = FALSE;
+  Guard(
+      ui_.log, form_name_, [&] { result = Handle(message, wparam, lparam); }, message);
+  return result;
+}
+
+INT_PTR Dialog::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
+  switch (message) {
+    case WM_INITDIALOG:
+      OnOpen();
+      return TRUE;
+    case DM_GETDEFID:
+      return AnswerDefaultButton();
+    case WM_COMMAND:
+      OnCommand(LOWORD(wparam), HIWORD(wparam));
+      return TRUE;
+    case WM_NCDESTROY:
+      ::SetWindowLongPtrW(handle_, DWLP_USER, 0);
+      handle_ = nullptr;
+      return FALSE;
+    default:
+      return OnMessage(message, wparam, lparam);
+  }
 }
 
 }  // namespace varnel

@@ -23,6 +23,12 @@ class Dialog {
   HWND handle() const { return handle_; }
   bool open() const { return handle_ != nullptr; }
 
+  // The dialog object behind a handle made by this class, or null for any other window.
+  static Dialog* FromHandle(HWND handle);
+
+  // Gives OnKey a key message for the dialog or a control in it; true when it has been dealt with.
+  bool Key(const MSG& message) noexcept;
+
  protected:
   // Called once the controls exist, before they are seen.
   virtual void OnOpen() {}
@@ -33,6 +39,9 @@ class Dialog {
   virtual void OnCommand(int id, int code) = 0;
   // Any other message; true when it has been dealt with.
   virtual bool OnMessage(UINT, WPARAM, LPARAM) { return false; }
+  // Sees a key message before the system's own keyboard handling does; true when it has been dealt
+  // with.
+  virtual bool OnKey(const MSG&) { return false; }
 
   Ui& ui() const { return ui_; }
   HWND Control(int id) const { return ::GetDlgItem(handle_, id); }
@@ -45,6 +54,7 @@ class Dialog {
  private:
   static INT_PTR CALLBACK Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam);
   INT_PTR Guarded(UINT message, WPARAM wparam, LPARAM lparam) noexcept;
+  INT_PTR Handle(UINT message, WPARAM wparam, LPARAM lparam);
   bool AnswerDefaultButton() const;
 
   Ui& ui_;

@@ -1,17 +1,35 @@
 #include "win/painted_window.h"
 
 namespace varnel {
+namespace {
+
+// Begins painting and ends it whatever happens: a window whose painting is not ended is asked to
+// paint for ever.
+class Painting {
+ public:
+  explicit Painting(HWND window) : window_(window), dc_(::BeginPaint(window, &paint_)) {}
+  Painting(const Painting&) = delete;
+  Painting& operator=(const Painting&) = delete;
+  ~Painting() { ::EndPaint(window_, &paint_); }
+
+  HDC dc() const { return dc_; }
+
+ private:
+  HWND window_;
+  PAINTSTRUCT paint_ = {};
+  HDC dc_;
+};
+
+}  // namespace
 
 LRESULT PaintedWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
   switch (message) {
     case WM_PAINT: {
-      PAINTSTRUCT paint;
-      HDC dc = ::BeginPaint(handle(), &paint);
+      const Painting painting(handle());
       const Rect area = client();
       Surface surface({area.width(), area.height()});
       Paint(surface);
-      surface.CopyTo(dc, {0, 0});
-      ::EndPaint(handle(), &paint);
+      surface.CopyTo(painting.dc(), {0, 0});
       return 0;
     }
     case WM_ERASEBKGND:

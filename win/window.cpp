@@ -1,10 +1,8 @@
 #include "win/window.h"
 
 #include <algorithm>
-#include <exception>
 
-#include "base/number_text.h"
-#include "base/text.h"
+#include "win/guard.h"
 #include "win/system_rect.h"
 #include "win/timer.h"
 
@@ -78,31 +76,35 @@ LRESULT CALLBACK Window::Procedure(HWND handle, UINT message, WPARAM wparam, LPA
 }
 
 LRESULT Window::Guarded(UINT message, WPARAM wparam, LPARAM lparam) noexcept {
-  ++depth_;
-  struct Leave {
-    int& depth;
-    ~Leave() { --depth; }
-  } leave{depth_};
-  try {
-    if (message == WM_DPICHANGED || message == WM_DPICHANGED_AFTERPARENT) {
-      dpi_ = static_cast<int>(::GetDpiForWindow(handle_));
-    }
-    if (message == WM_TIMER) {
-      OnTimer(wparam);
-      return 0;
-    }
-    const LRESULT result = OnMessage(message, wparam, lparam);
-    if (message == WM_NCDESTROY) {
-      ::SetWindowLongPtrW(handle_, GWLP_USERDATA, 0);
-      handle_ = nullptr;
-    }
-    return result;
-  } catch (const std::exception& fault) {
-    ui_.log.Write(L"message " + NumberText(message) + L" failed: " + WideFromUtf8(fault.what()));
-  } catch (...) {
-    ui_.log.Write(L"message " + NumberText(message) + L" failed");
+  const Busy busy(*this);
+  LRESULT result = 0;
+  Guard(
+      ui_.log, L"message",
+      [&] {
+        if (message == WM_DPICHANGED || message == WM_DPICHANGED_AFTERPARENT) {
+          dpi_ = static_cast<int>(::GetDpiForWindow(handle_));
+        }
+        if (message == WM_TIMER) {
+          OnTimer(wparam);
+        } else {
+          result = OnMessage(message, wparam, lparam);
+        }
+      },
+      message);
+  if (message == WM_NCDESTROY) {
+    ::SetWindowLongPtrW(handle_, GWLP_USERDATA, 0);
+    handle_ = nullptr;
   }
-  return 0;
+  return result;
+}
+
+bool Window::Key(const MSG& message) noexcept {
+  const Busy busy(*this);
+  // A key whose handling failed is not handled once more, by the system.
+  bool dealt_with = true;
+  Guard(
+      ui_.log, L"key", [&] { dealt_with = OnKey(message); }, static_cast<unsigned>(message.wParam));
+  return dealt_with;
 }
 
 void Window::OnTimer(UINT_PTR id) {
@@ -126,21 +128,6 @@ void KeepOnTop(HWND window, bool on) {
   if (on == is_on_top) return;
   ::SetWindowPos(window, on ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-}
-
-int RunMessageLoop() {
-  MSG message;
-  while (::GetMessageW(&message, nullptr, 0, 0) > 0) {
-    if (message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST) {
-      HWND top = ::GetAncestor(message.hwnd, GA_ROOT);
-      Window* window = Window::FromHandle(top);
-      if (window && window->OnKey(message)) continue;
-      if (::IsDialogMessageW(top, &message)) continue;
-    }
-    ::TranslateMessage(&message);
-    ::DispatchMessageW(&message);
-  }
-  return static_cast<int>(message.wParam);
 }
 
 }  // namespace varnel

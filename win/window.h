@@ -46,9 +46,8 @@ class Window {
     Window& window_;
   };
 
-  // Sees a key message for this window or a control in it before anything else does; true when it
-  // has been dealt with.
-  virtual bool OnKey(const MSG&) { return false; }
+  // Gives OnKey a key message for this window or a control in it; true when it has been dealt with.
+  bool Key(const MSG& message) noexcept;
 
  protected:
   struct Creation {
@@ -65,6 +64,10 @@ class Window {
   // returns, so members have to be ready. False when the system refuses.
   [[nodiscard]] bool Create(const Creation& creation);
   void Destroy();
+
+  // Sees a key message before anything else does; true when it has been dealt with. It may throw,
+  // as OnMessage may.
+  virtual bool OnKey(const MSG&) { return false; }
 
   // Handles one message; what it does not know goes to the next base and at last to the system,
   // except for WM_CLOSE: a window goes when the program decides so. It
@@ -98,9 +101,5 @@ void PlaceWindow(HWND window, const Rect& place, UINT flags = 0);
 // Puts a window above all ordinary ones, or back among them, where it is and as it is; does
 // nothing where it is so already.
 void KeepOnTop(HWND window, bool on);
-
-// Runs messages until the program posts its quit message; gives that message's exit code. Keys go
-// first to the top-level window's OnKey, then to the system's keyboard handling for dialogs.
-int RunMessageLoop();
 
 }  // namespace varnel

@@ -165,6 +165,19 @@ void ThemeDialog::ShowPage(int page) {
   }
 }
 
+// Ctrl+Tab goes to the next page, with Shift to the one before.
+bool ThemeDialog::OnKey(const MSG& message) {
+  if (message.message != WM_KEYDOWN || message.wParam != VK_TAB || ::GetKeyState(VK_CONTROL) >= 0) {
+    return false;
+  }
+  constexpr int kCount = static_cast<int>(std::size(kPages));
+  const int step = ::GetKeyState(VK_SHIFT) < 0 ? kCount - 1 : 1;
+  ShowPage((TabCtrl_GetCurSel(Control(tabMAIN)) + step) % kCount);
+  // What had the focus may be on the page that went.
+  if (!::IsWindowVisible(::GetFocus())) ::SetFocus(Control(tabMAIN));
+  return true;
+}
+
 void ThemeDialog::Changed() {
   ShowOnTarget(editor_.theme());
   ShowValues();

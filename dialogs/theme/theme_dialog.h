@@ -23,6 +23,7 @@ class ThemeDialog : public Dialog {  // frmTHEME
   void OnReopen() override;
   void OnCommand(int id, int code) override;
   bool OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
+  bool OnKey(const MSG& message) override;
   LRESULT OnNotify(const NMHDR& notice);
   void Draw(const DRAWITEMSTRUCT& item);
 

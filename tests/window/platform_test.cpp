@@ -8,9 +8,10 @@
 #include "tests/window/window_aid.h"
 #include "win/disk_files.h"
 #include "win/local_time.h"
+#include "win/message_loop.h"
+#include "win/painted_window.h"
 #include "win/system_registry.h"
 #include "win/timer.h"
-#include "win/window.h"
 
 namespace varnel {
 namespace {
@@ -20,26 +21,34 @@ using test::TemporaryFolder;
 
 constexpr UINT kThrow = WM_APP + 1;
 
-class TestWindow : public Window {
+// Fails wherever it is told to.
+class TestWindow : public PaintedWindow {
  public:
-  explicit TestWindow(Ui& ui) : Window(ui) {
+  explicit TestWindow(Ui& ui) : PaintedWindow(ui) {
     Creation creation;
     creation.class_name = L"VarnelTest";
+    creation.place = {20, 20, 120, 120};
     EXPECT_TRUE(Create(creation));
   }
   using Window::Destroy;
 
   int after_throw = 0;
+  bool busy_at_key = false;
 
  private:
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override {
     if (message == kThrow) throw std::runtime_error("a handler that fails");
     if (message == kThrow + 1) return ++after_throw;
-    return Window::OnMessage(message, wparam, lparam);
+    return PaintedWindow::OnMessage(message, wparam, lparam);
   }
+  bool OnKey(const MSG&) override {
+    busy_at_key = busy();
+    throw std::runtime_error("a key that fails");
+  }
+  void Paint(Surface&) override { throw std::runtime_error("a painting that fails"); }
 };
 
-TEST(WindowBase, HandlerThatThrowsIsLoggedAndTheWindowLivesOn) {
+TEST(WindowBase, WhateverThrowsIsLoggedAndTheWindowLivesOn) {
   const std::wstring folder = TemporaryFolder();
   DiskFiles files;
   ASSERT_TRUE(files.CreateFolder(folder));
@@ -48,8 +57,23 @@ TEST(WindowBase, HandlerThatThrowsIsLoggedAndTheWindowLivesOn) {
   TestWindow window(ui);
   EXPECT_EQ(::SendMessageW(window.handle(), kThrow, 0, 0), 0);
   EXPECT_EQ(::SendMessageW(window.handle(), kThrow + 1, 0, 0), 1);
+
+  // Through the loop, as keys come; what is posted after them still arrives.
+  ::PostMessageW(window.handle(), WM_KEYDOWN, 'A', 0);
+  ::PostMessageW(window.handle(), kThrow + 1, 0, 0);
+  ::PostQuitMessage(7);
+  EXPECT_EQ(RunMessageLoop(ui), 7);
+  EXPECT_TRUE(window.busy_at_key) << "not the time to delete it";
+  EXPECT_EQ(window.after_throw, 2);
+
+  ::ShowWindow(window.handle(), SW_SHOWNOACTIVATE);
+  ::RedrawWindow(window.handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+  EXPECT_FALSE(::GetUpdateRect(window.handle(), nullptr, FALSE)) << "would be painted for ever";
+
   const FileRead log = files.Read(folder + L"\\debug.log", 10'000);
-  EXPECT_NE(log.bytes.find("a handler that fails"), std::string::npos);
+  for (const char* fault : {"a handler that fails", "a key that fails", "a painting that fails"}) {
+    EXPECT_NE(log.bytes.find(fault), std::string::npos) << fault;
+  }
   EXPECT_FALSE(window.busy());
   window.Destroy();
   EXPECT_EQ(window.handle(), nullptr);
