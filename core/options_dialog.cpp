@@ -1,7 +1,9 @@
 #include "core/options_dialog.h"
 
 #include "core/core_settings.h"
+#include "core/widget_index.h"
 #include "frame/frame_settings.h"
+#include "frame/on_top.h"
 #include "resources/control_ids.h"
 #include "win/ui.h"
 
@@ -34,12 +36,19 @@ void OptionsDialog::OnCommand(int id, int) {
 }
 
 void OptionsDialog::Store() {
+  // A choice for one widget lasts until there is another one for all.
+  if (Checked(chkONTOP) != ReadCheck(services_.settings, kOnTop)) {
+    ForgetOnTop(services_.settings, kManagerForm.form_name);
+    for (int i = 0; i < kWidgetCount; ++i) {
+      ForgetOnTop(services_.settings, WidgetAt(i)->form_name);
+    }
+  }
   for (const Option& option : kOptions) {
     WriteCheck(services_.settings, option.setting, Checked(option.control));
   }
   services_.program.RegisterRunAtLogon();
   for (const auto& [name, form] : services_.forms.all()) {
-    form->FollowOnTopSetting();
+    form->ApplyChrome();
     form->Form_Resize();
     form->WidgetRefresh();
   }

@@ -31,10 +31,8 @@ class LiveForm {
   // Its window's place, in pixels of the screen.
   virtual Rect Bounds() const = 0;
   virtual bool on_top() const = 0;
-  // Keeps this window above others or not, whatever the setting for all widgets says.
+  // Keeps this window above others or not, now and later, whatever the setting for all says.
   virtual void SetOnTop(bool on) = 0;
-  // Goes by the setting for all widgets again.
-  virtual void FollowOnTopSetting() = 0;
 };
 
 class FormRegistry {

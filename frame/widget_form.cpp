@@ -5,6 +5,7 @@
 #include "frame/command.h"
 #include "frame/frame_painter_win.h"
 #include "frame/frame_settings.h"
+#include "frame/on_top.h"
 #include "resources/control_ids.h"
 #include "theme/theme_store.h"
 #include "win/message_box.h"
@@ -116,7 +117,7 @@ void WidgetForm::WidgetRefresh() {
 }
 
 void WidgetForm::ApplyChrome() {
-  if (!own_on_top_) on_top_ = ReadFlag(services_.settings, kOnTop);
+  on_top_ = StaysOnTop(services_.settings, entry_.form_name);
   KeepOnTop(handle(), on_top_);
   paint_ = WidgetPaintOf(theme_, HighContrastWanted(), services_.colours);
   paint_.readable = ReadCheck(services_.settings, kMakeTextReadable);
@@ -130,13 +131,7 @@ void WidgetForm::OnLookChanged() {
 }
 
 void WidgetForm::SetOnTop(bool on) {
-  own_on_top_ = true;
-  on_top_ = on;
-  ApplyChrome();
-}
-
-void WidgetForm::FollowOnTopSetting() {
-  own_on_top_ = false;
+  ChooseOnTop(services_.settings, entry_.form_name, on);
   ApplyChrome();
 }
 

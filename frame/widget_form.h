@@ -48,7 +48,6 @@ class WidgetForm : public PaintedWindow, public LiveForm {
   Rect Bounds() const override { return screen_rect(); }
   bool on_top() const override { return on_top_; }
   void SetOnTop(bool on) override;
-  void FollowOnTopSetting() override;
 
  protected:
   // What a widget adds to the frame. OnLoad makes its controls; OnShown starts what ticks.
@@ -117,7 +116,6 @@ class WidgetForm : public PaintedWindow, public LiveForm {
   FrameLayout layout_;
   WindowMover mover_;
   bool on_top_ = false;
-  bool own_on_top_ = false;  // on_top_ was chosen for this window alone
   HWND last_focus_ = nullptr;
   TextButtons buttons_;
 };

@@ -16,7 +16,6 @@ class StillForm : public LiveForm {
   Rect Bounds() const override { return {}; }
   bool on_top() const override { return false; }
   void SetOnTop(bool) override {}
-  void FollowOnTopSetting() override {}
 
  private:
   ThemeRecord theme_;

@@ -159,6 +159,28 @@ TEST_F(Frame, OnTopOfOneWindowAlone) {
   EXPECT_FALSE(IsTopmost(manager_));
   Choose(clock_, L"mnuDCTOP");
   EXPECT_SOON(!IsTopmost(clock_));
+  Choose(clock_, L"mnuDCTOP");
+  EXPECT_SOON(IsTopmost(clock_));
+
+  ASSERT_EQ(LeaveByMenu(program()), 0u);
+  ASSERT_TRUE(program().Start());
+  clock_ = WaitForForm(program(), L"frmCLKwg");
+  manager_ = WaitForForm(program(), L"frmVRNwg");
+  EXPECT_SOON(IsTopmost(clock_) && !IsTopmost(manager_)) << "the choice lasts";
+  // Other options leave it; one for all replaces it.
+  const auto options_with = [&](int check_box) {
+    Choose(manager_, L"mnuDCGENSET");
+    HWND options = WaitForForm(program(), L"frmVRNpr");
+    EXPECT_TRUE(options && ClickOn(Control(options, check_box)));
+    EXPECT_TRUE(ClickOn(Control(options, IDOK)));
+    EXPECT_TRUE(WaitForNoForm(program(), L"frmVRNpr"));
+  };
+  options_with(chkREADABLE);
+  EXPECT_TRUE(IsTopmost(clock_));
+  for (const bool on : {true, false}) {
+    options_with(chkONTOP);
+    EXPECT_SOON(IsTopmost(clock_) == on && IsTopmost(manager_) == on);
+  }
 }
 
 TEST_F(Frame, OpacityIsKeptAboveTheFaintest) {
