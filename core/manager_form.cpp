@@ -116,7 +116,7 @@ void ManagerForm::WidgetSel(int mode) {
       host_.BringToFront();
       break;
     case 3:
-      host_.ArrangeAll();
+      host_.ArrangeAll(*this);
       break;
     case 5:
       services().program.RunCommand(CommandId(L"mnuDCWEB"));

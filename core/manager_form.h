@@ -20,9 +20,10 @@ class WidgetHost {
   virtual void ShowWidget(int index, bool shown) = 0;
   // kHidden for a widget that is not open.
   virtual Sight SightOfWidget(int index) const = 0;
-  // Brings the shown widgets before other windows / all open ones to the places they first had.
+  // Brings the shown widgets before other windows.
   virtual void BringToFront() = 0;
-  virtual void ArrangeAll() = 0;
+  // Puts `manager` and the widgets, as far as they are shown, side by side.
+  virtual void ArrangeAll(WidgetForm& manager) = 0;
 };
 
 class ManagerForm : public WidgetForm, private WidgetWindows {  // frmVRNwg

@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "frame/arrange.h"
+#include "frame/screens_win.h"
+
 namespace varnel {
 
 bool WidgetShelf::Available(int index) const {
@@ -59,8 +62,18 @@ void WidgetShelf::BringToFront() {
   });
 }
 
-void WidgetShelf::ArrangeAll() {
-  ForEach([](WidgetForm& widget) { widget.MoveToDefaultPlace(); });
+void WidgetShelf::ArrangeAll(WidgetForm& manager) {
+  std::vector<WidgetForm*> shown;
+  std::vector<Size> sizes;
+  const auto add = [&](WidgetForm& form) {
+    if (form.sight() != Sight::kShown) return;
+    shown.push_back(&form);
+    sizes.push_back(form.place().size);
+  };
+  add(manager);
+  ForEach(add);
+  const std::vector<Place> places = Arranged(sizes, CurrentScreens());
+  for (std::size_t i = 0; i < places.size(); ++i) shown[i]->MoveTo(places[i]);
 }
 
 void WidgetShelf::ForEach(const std::function<void(WidgetForm&)>& work) const {

@@ -23,7 +23,7 @@ class WidgetShelf : public WidgetHost {
   void ShowWidget(int index, bool shown) override;
   Sight SightOfWidget(int index) const override;
   void BringToFront() override;
-  void ArrangeAll() override;
+  void ArrangeAll(WidgetForm& manager) override;
 
   // Asks every open widget's form in turn, up to the first that is to stay; false then.
   bool AllMayClose();

@@ -278,10 +278,6 @@ void WidgetForm::SetSize(int width, int height) {
   mover_.SetSize({width, height});
 }
 
-void WidgetForm::MoveToDefaultPlace() {
-  mover_.Settle(DefaultPlace(index_, CurrentScreens()));
-}
-
 bool WidgetForm::OnKey(const MSG& message) {
   const bool down = message.message == WM_KEYDOWN;
   if (down || message.message == WM_SYSKEYDOWN) buttons_.ShowFocus(true);

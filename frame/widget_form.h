@@ -43,8 +43,10 @@ class WidgetForm : public PaintedWindow, public LiveForm {
   void WidgetRefresh() override;
   void ApplyChrome() override;
   void SetSize(int width, int height) override;
-  // Goes back to the place that the form had when it was first opened.
-  void MoveToDefaultPlace();
+  // The place as the user wished it.
+  const Place& place() const { return mover_.place(); }
+  // Goes to another place, and keeps it.
+  void MoveTo(const Place& place) { mover_.Settle(place); }
   Rect Bounds() const override { return screen_rect(); }
   bool on_top() const override { return on_top_; }
   void SetOnTop(bool on) override;

@@ -9,6 +9,7 @@
 
 #include "base/number_text.h"
 #include "core/widget_index.h"
+#include "frame/arrange.h"
 #include "frame/placement.h"
 #include "frame/sizes.h"
 #include "tests/support/boxes.h"
@@ -20,6 +21,7 @@ namespace varnel {
 namespace {
 
 using test::Inside;
+using test::Overlap;
 
 const Screens kOne{{{{0, 0, 1280, 770}, 96}}, 96};
 // The primary one in the middle, a sharper one on its left, one above it.
@@ -209,6 +211,73 @@ TEST(RestAfterDrag, OnTheMonitorThatShowsMostWithItsSize) {
   }
   SnappedPosition old;
   EXPECT_EQ(RestAfterDrag({104, 95, 504, 295}, meant, old, Screens{}).corner, (Point{1500, 1500}));
+}
+
+// Whether the window could stand elsewhere on the grid, a step away from edges and all others.
+bool HasRoomElsewhere(std::size_t window, const std::vector<Rect>& seen, const Screens& screens) {
+  const int gap = PixelsFromTwips(kGridStep, screens.system_dpi);
+  const Rect& area = screens.monitors.front().work_area;
+  const auto first_line = [&](int edge) {
+    return TwipsFromPixels(edge, screens.system_dpi) / kGridStep * kGridStep;
+  };
+  const Size size{seen[window].width(), seen[window].height()};
+  const auto is_free = [&](const Rect& rect) {
+    for (std::size_t i = 0; i < seen.size(); ++i) {
+      if (i != window && Overlap(rect, Inset(seen[i], -gap))) return false;
+    }
+    return Inside(rect, {area.left + gap, area.top + gap, area.right, area.bottom});
+  };
+  Rect rect;
+  for (int y = first_line(area.top); rect.top < area.bottom; y += kGridStep) {
+    rect = RectAt({area.left, PixelsFromTwips(y, screens.system_dpi)}, size);
+    for (int x = first_line(area.left); rect.left < area.right; x += kGridStep) {
+      rect = RectAt({PixelsFromTwips(x, screens.system_dpi), rect.top}, size);
+      if (is_free(rect)) return true;
+    }
+  }
+  return false;
+}
+
+TEST(Arranged, WindowsStandApartUnlessThereIsNoRoom) {
+  Dice dice(5);
+  int apart = 0;
+  for (int round = 0; round < 100; ++round) {
+    const Screens screens = dice.AnyScreens();
+    const Monitor& primary = screens.monitors.front();
+    std::vector<Size> sizes;
+    for (int count = dice.Any(1, 9); count > 0; --count) {
+      sizes.push_back({dice.Any(2400, 9000), dice.Any(1600, 6000)});
+    }
+    const std::vector<Place> places = Arranged(sizes, screens);
+    ASSERT_EQ(places.size(), sizes.size());
+    std::vector<Rect> seen;
+    for (std::size_t i = 0; i < sizes.size(); ++i) {
+      EXPECT_EQ(places[i].size, sizes[i]);
+      EXPECT_EQ(places[i].corner.x % kGridStep, 0);
+      EXPECT_EQ(places[i].corner.y % kGridStep, 0);
+      seen.push_back(PixelsFromPlace(FitPlace(places[i], screens), screens));
+      EXPECT_TRUE(Inside(seen.back(), primary.work_area)) << round;
+    }
+    for (std::size_t i = 0; i < seen.size(); ++i) {
+      for (std::size_t j = 0; j < i; ++j) {
+        const bool across = Overlap(seen[i], seen[j]);
+        apart += across ? 0 : 1;
+        EXPECT_FALSE(across && HasRoomElsewhere(i, seen, screens) &&
+                     HasRoomElsewhere(j, seen, screens))
+            << round;
+      }
+    }
+  }
+  EXPECT_GT(apart, 1000);
+}
+
+TEST(Arranged, NineOfTheFirstSizeFillAScreen) {
+  const std::vector<Size> sizes(9, DefaultSize());
+  std::vector<Rect> seen;
+  for (const Place& place : Arranged(sizes, kOne)) seen.push_back(PixelsFromPlace(place, kOne));
+  test::ExpectApart(seen, kOne.monitors.front().work_area);
+  EXPECT_EQ(seen[1], RectAt({420, 10}, {393, 231}));
+  EXPECT_TRUE(Arranged(sizes, Screens{}).empty());
 }
 
 TEST(DefaultPlace, TilesThePrimaryMonitor) {

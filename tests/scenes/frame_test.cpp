@@ -200,11 +200,13 @@ TEST_F(Frame, OpacityIsKeptAboveTheFaintest) {
 TEST_F(Frame, ManagerCommandsForAllWidgets) {
   Choose(manager_, L"mnuDCWIDGETS", 4);
   HWND stopwatch = WaitForForm(program(), L"frmSTWwg");
-  const Rect first = RectOf(stopwatch);
-  DragClockBy(50, 300);
+  DragClockBy(-300, 300);
+  Choose(clock_, L"mnuWIDGRESETA", 0);
   Choose(manager_, L"mnuVRNARRANGE");
-  EXPECT_SOON_EQ(RectOf(clock_).top, 10);
-  EXPECT_SOON_EQ(RectOf(stopwatch), first);
+  // The manager first, 393 pixels wide, the large clock beside it, and below the manager the other.
+  EXPECT_SOON_EQ(RectOf(manager_).left, 10);
+  EXPECT_SOON_EQ(RectOf(clock_), RectAt({420, 10}, {500, 350}));
+  EXPECT_SOON_EQ(RectOf(stopwatch), RectAt({10, 260}, {393, 231}));
   Choose(manager_, L"mnuVRNCLOSEALL");
   EXPECT_TRUE(WaitForNoForm(program(), L"frmSTWwg"));
   EXPECT_TRUE(WaitForNoForm(program(), L"frmCLKwg"));
