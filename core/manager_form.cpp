@@ -41,7 +41,12 @@ void ManagerForm::OnLoad() {
 
 void ManagerForm::LayOutPanel(const Rect& panel) {
   const ManagerLayout tiles = LayOutManager(panel, dpi());
-  for (int i = 0; i < kWidgetCount; ++i) buttons().Place(lblNUMBER + i, tiles.tiles[i]);
+  for (int i = 0; i < kWidgetCount; ++i) {
+    const Rect& tile = tiles.tiles[i];
+    buttons().Place(lblNUMBER + i, tile);
+    buttons().TellWord(lblNUMBER + i,
+                       LayOutTile({tile.width(), tile.height()}, dpi()).caption.empty());
+  }
 }
 
 void ManagerForm::DrawPanelButton(const ButtonPainting& painting) {

@@ -28,7 +28,7 @@ bool TextButtons::Add(int id, const std::wstring& word, wchar_t glyph, bool on_b
       0, L"BUTTON", word.c_str(), WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW, 0, 0, 0, 0,
       owner_.handle(), reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
   if (!handle) return false;
-  buttons_.push_back({id, handle, glyph, on_bar});
+  buttons_.push_back({id, handle, glyph, on_bar, glyph != 0});
   return true;
 }
 
@@ -41,7 +41,7 @@ void TextButtons::SetText(int id, std::wstring_view text) {
   const TextButton* button = Find(id);
   if (!button || WindowText(button->handle) == text) return;
   ::SetWindowTextW(button->handle, std::wstring(text).c_str());
-  if (id == hovered_) TellWord(*button);
+  if (id == hovered_) ShowTooltip(*button);
   Repaint(id);
 }
 
@@ -56,18 +56,24 @@ void TextButtons::Enable(int id, bool on) {
   if (const TextButton* button = Find(id)) ::EnableWindow(button->handle, on);
 }
 
+void TextButtons::TellWord(int id, bool on) {
+  const auto found = std::ranges::find(buttons_, id, &TextButton::id);
+  if (found != buttons_.end()) found->tells_word = on;
+}
+
 void TextButtons::OnMouseOver(HWND control) {
   const auto found = std::ranges::find(buttons_, control, &TextButton::handle);
   if (found == buttons_.end() || found->id == hovered_) return;
   Repaint(hovered_);
   hovered_ = found->id;
   Repaint(hovered_);
-  TellWord(*found);
+  ShowTooltip(*found);
   (found->on_bar ? tmrBARBTNS_ : tmrPANBTNS_).Start();
 }
 
-void TextButtons::TellWord(const TextButton& button) {
-  if (button.glyph) tooltip_.Attach(owner_.handle(), button.handle, WindowText(button.handle));
+void TextButtons::ShowTooltip(const TextButton& button) {
+  const std::wstring word = button.tells_word ? WindowText(button.handle) : L"";
+  tooltip_.Attach(owner_.handle(), button.handle, word);
 }
 
 void TextButtons::HoverTick(Timer& timer) {

@@ -21,6 +21,7 @@ struct TextButton {
   HWND handle = nullptr;
   wchar_t glyph = 0;    // drawn in place of the window text; 0 draws the text
   bool on_bar = false;  // on the title bar, else on the panel
+  bool tells_word = false;
 };
 
 // One button about to be drawn.
@@ -47,12 +48,13 @@ class TextButtons {
   void SetText(int id, std::wstring_view text);
   void Place(int id, const Rect& box);  // pixels of the form
   void Enable(int id, bool on);
+  // Whether a tooltip tells the button's word; at first where a glyph stands in place of it.
+  void TellWord(int id, bool on);
   const std::vector<TextButton>& all() const { return buttons_; }
 
   // The button under the mouse, or null.
   const TextButton* hovered() const { return hovered_ ? Find(hovered_) : nullptr; }
-  // The mouse is over `control` (any window). A button lights up until the mouse has left it; one
-  // that shows a glyph tells its word.
+  // The mouse is over `control` (any window). A button lights up until the mouse has left it.
   void OnMouseOver(HWND control);
   // While not allowed no button tells its word.
   void AllowTooltip(bool allowed) { tooltip_.Allow(allowed); }
@@ -69,8 +71,7 @@ class TextButtons {
   void Repaint(int id) const;
 
  private:
-  // In a tooltip, when the button shows a glyph.
-  void TellWord(const TextButton& button);
+  void ShowTooltip(const TextButton& button);
   void HoverTick(Timer& timer);
 
   Window& owner_;

@@ -238,10 +238,7 @@ void WidgetForm::ShowMenu(Point at) {
     if (item.id == CommandId(kTopCommand)) item.id = CommandId(TopCommand());
     items.push_back(std::move(item));
   }
-  buttons_.AllowTooltip(false);  // it would lie over the menu
-  const int chosen = ShowPopupMenu(handle(), at, items);
-  if (handle()) buttons_.AllowTooltip(true);
-  RunCommand(chosen);
+  RunCommand(ShowPopupMenu(handle(), at, items));
 }
 
 void WidgetForm::OnContextMenu(LPARAM position) {
@@ -309,6 +306,11 @@ LRESULT WidgetForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_CONTEXTMENU:
       OnContextMenu(lparam);
       return 0;
+    case WM_ENTERMENULOOP:
+    case WM_EXITMENULOOP:
+      // A tooltip would lie over the menu that its button opened.
+      buttons_.AllowTooltip(message == WM_EXITMENULOOP);
+      break;
     case WM_SETCURSOR:
       if (OnMouseOver(reinterpret_cast<HWND>(wparam))) return TRUE;
       break;

@@ -11,7 +11,8 @@ namespace varnel {
 // form's.
 class Tooltip {
  public:
-  // `text` appears when the mouse rests on `control`, which it has just come to.
+  // `text` appears when the mouse rests on `control`, which it has just come to; an empty one does
+  // not.
   void Attach(HWND form, HWND control, const std::wstring& text);
   // While not allowed none appears, and one that is shown goes.
   void Allow(bool allowed);

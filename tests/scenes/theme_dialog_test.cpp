@@ -108,7 +108,8 @@ TEST_F(ThemeDialogScene, ChangesShowAtOnceAndGoWhenClosed) {
   PickColour(btnCOLORPANEL, RGB(0, 0, 0));
   EXPECT_SOON(PictureOf(elapsed) != white);
   EXPECT_SOON(!IsShown(Part(icoREADPANEL)));
-  ShowTab(1);
+  Chord({VK_CONTROL, VK_SHIFT, VK_TAB});
+  EXPECT_SOON(IsShown(Part(cboBAR)) && !IsShown(Part(cboPANEL)));
   ASSERT_TRUE(Select(Part(cboBAR), L"Symbol"));
   Slide(hsbBARANGLE, 90);
 
@@ -229,6 +230,11 @@ TEST_F(ThemeDialogScene, OutlivesItsWidgetAndTurnsToAnother) {
 }
 
 TEST_F(ThemeDialogScene, AGlyphTellsItsWordWhenTheMouseRests) {
+  // A tile, which lights up, has its name on it.
+  HWND tile = Control(FindForm(program(), L"frmVRNwg"), lblNUMBER);
+  const Picture normal = StillPictureOf(tile);
+  MoveMouse(CentreOf(tile));
+  EXPECT_SOON(PictureOf(tile) != normal);
   EXPECT_TRUE(FindForms(program(), TOOLTIPS_CLASSW).empty());
   MoveMouse(CentreOf(Control(stopwatch_, lablTBARTOP)));
   HWND tip = nullptr;
@@ -239,6 +245,11 @@ TEST_F(ThemeDialogScene, AGlyphTellsItsWordWhenTheMouseRests) {
     return tip && IsShown(tip);
   }));
   EXPECT_EQ(Text(tip), L"Menu");
+  ASSERT_TRUE(ClickOn(Control(stopwatch_, lablTBARTOP)));
+  ASSERT_TRUE(WaitForMenus(program(), 1));
+  EXPECT_SOON(!IsShown(tip)) << "it would lie over the menu";
+  PressKey(VK_ESCAPE);
+  EXPECT_TRUE(WaitForMenus(program(), 0));
 }
 
 // Every command of the shared menu but the one that ends the program; those that open or close a
