@@ -136,6 +136,7 @@ Canvas::StrokeTile& Canvas::TileOfStroke(int across, int down) {
 
 void Canvas::DrawInTile(const Capsule& capsule, int across, int down) {
   const Rect part = Intersection(TileArea(across, down), capsule.bounds());
+  StrokeTile* tile = nullptr;
   for (int y = part.top; y < part.bottom; ++y) {
     const Capsule::RowReach reach = capsule.Reach(y);
     const int left = std::max(part.left, reach.any.left);
@@ -143,10 +144,10 @@ void Canvas::DrawInTile(const Capsule& capsule, int across, int down) {
     if (left >= right) continue;
     const int whole_left = std::clamp(reach.whole.left, left, right);
     const int whole_right = std::clamp(reach.whole.right, whole_left, right);
-    StrokeTile& tile = TileOfStroke(across, down);
-    DrawEdge(capsule, tile, y, left, whole_left);
-    FillRow(tile, y, whole_left, whole_right - whole_left);
-    DrawEdge(capsule, tile, y, whole_right, right);
+    if (!tile) tile = &TileOfStroke(across, down);
+    DrawEdge(capsule, *tile, y, left, whole_left);
+    FillRow(*tile, y, whole_left, whole_right - whole_left);
+    DrawEdge(capsule, *tile, y, whole_right, right);
   }
 }
 
@@ -156,15 +157,17 @@ std::size_t Canvas::StrokeTile::PlaceOf(int x, int y) const {
 
 void Canvas::DrawEdge(const Capsule& capsule, StrokeTile& tile, int y, int left, int right) {
   if (left == right) return;
-  const std::uint32_t* before = tile.before.data() + tile.PlaceOf(left, y);
-  std::uint8_t* covered = tile.covered.data() + tile.PlaceOf(left, y);
-  std::uint32_t* pixel = pixels_.Row(y).data() + left;
-  for (int x = left; x < right; ++x, ++before, ++covered, ++pixel) {
-    if (*covered == 255) continue;
-    const std::uint8_t coverage = capsule.CoverageAt(x, y);
-    if (coverage <= *covered) continue;
-    *covered = coverage;
-    *pixel = MixPixels(*before, pen_pixel_, coverage);
+  std::uint8_t coverage[kTile + Capsule::kLanes];
+  const std::size_t count = At(right - left);
+  const std::size_t groups = (count + Capsule::kLanes - 1) / Capsule::kLanes;
+  capsule.Cover(left, y, std::span(coverage).first(groups * Capsule::kLanes));
+  const std::uint32_t* const before = tile.before.data() + tile.PlaceOf(left, y);
+  std::uint8_t* const covered = tile.covered.data() + tile.PlaceOf(left, y);
+  std::uint32_t* const pixel = pixels_.Row(y).data() + left;
+  for (std::size_t i = 0; i < count; ++i) {
+    if (coverage[i] <= covered[i]) continue;
+    covered[i] = coverage[i];
+    pixel[i] = MixPixels(before[i], pen_pixel_, coverage[i]);
   }
 }
 

@@ -11,9 +11,19 @@ namespace {
 constexpr double kFarthest = 1e6;
 // Half a pixel's diagonal: no edge farther off than this crosses the pixel.
 constexpr float kHalfDiagonal = 0.7072F;
+// The least inner radius from which on it pays to tell what is covered wholly.
+constexpr float kWideInside = 1.5F;
+// The larger part of a normal of length 1 is never less.
+constexpr float kLeastOfMost = 0.7071F;
 
 double Clamped(double place) {
   return std::clamp(place, -kFarthest, kFarthest);
+}
+
+// Of what an int can hold; the library's own is a call.
+int Floor(float place) {
+  const int near = static_cast<int>(place);
+  return near - (static_cast<float>(near) > place ? 1 : 0);
 }
 
 double SaneWidth(double width) {
@@ -26,30 +36,18 @@ bool IsFinite(PointF point) {
 
 }  // namespace
 
-inline Capsule::Edge::Edge(float one, float other) {
-  const float most = std::max(std::fabs(one), std::fabs(other));
-  least = std::min(std::fabs(one), std::fabs(other));
-  reach = (most + least) / 2;
-  slope = 1 / most;
-  bend = slope / (2 * std::max(least, 1e-6F));
-}
-
-inline float Capsule::Edge::Share(float inside) const {
-  const float rest = reach - std::fabs(inside);
-  if (rest <= 0) return inside > 0 ? 1.0F : 0.0F;
-  if (rest >= least) return 0.5F + inside * slope;
-  const float corner = rest * rest * bend;
-  return inside > 0 ? 1 - corner : corner;
-}
-
 Capsule::Capsule(PointF from, PointF to, PenTip tip) {
   if (!IsFinite(from) || !IsFinite(to)) return;
   const double width = SaneWidth(tip.width);
   const double height = SaneWidth(tip.height);
-  from_ = {Clamped(from.x), Clamped(from.y)};
-  const double across = Clamped(to.x) - from_.x;
-  const double down = (Clamped(to.y) - from_.y) * width / height;
-  const double length = std::hypot(across, down);
+  from = {Clamped(from.x), Clamped(from.y)};
+  to = {Clamped(to.x), Clamped(to.y)};
+  base_ = {static_cast<int>(std::floor(from.x)), static_cast<int>(std::floor(from.y))};
+  to_centre_x_ = static_cast<float>(base_.x + 0.5 - from.x);
+  to_centre_y_ = static_cast<float>(base_.y + 0.5 - from.y);
+  const double across = to.x - from.x;
+  const double down = (to.y - from.y) * width / height;
+  const double length = std::sqrt(across * across + down * down);
   stretch_ = static_cast<float>(width / height);
   radius_ = static_cast<float>(width / 2);
   length_ = static_cast<float>(length);
@@ -57,28 +55,24 @@ Capsule::Capsule(PointF from, PointF to, PenTip tip) {
     along_x_ = static_cast<float>(across / length);
     along_y_ = static_cast<float>(down / length);
   }
-  const float normal_y = along_x_ * stretch_;
-  body_scale_ = 1 / std::hypot(along_y_, normal_y);
-  body_edge_ = Edge(along_y_ * body_scale_, normal_y * body_scale_);
   const float widest = std::max(1.0F, stretch_);
   end_left_out_ = 1 / (24 * std::max(radius_, 0.25F));
   const float margin = widest * (kHalfDiagonal + end_left_out_);
   outer_ = radius_ + margin;
   inner_ = radius_ - margin;
-  slender_ = inner_ < 0;
   if (std::fabs(along_y_) > 1e-4F) per_row_ = 1 / along_y_;
   const double beside = static_cast<double>(outer_);
   const double above = beside / static_cast<double>(stretch_);
-  bounds_ = {static_cast<int>(std::floor(std::min(from_.x, from_.x + across) - beside)),
-             static_cast<int>(std::floor(std::min(from_.y, Clamped(to.y)) - above)),
-             static_cast<int>(std::ceil(std::max(from_.x, from_.x + across) + beside)),
-             static_cast<int>(std::ceil(std::max(from_.y, Clamped(to.y)) + above))};
+  bounds_ = {static_cast<int>(std::floor(std::min(from.x, to.x) - beside)),
+             static_cast<int>(std::floor(std::min(from.y, to.y) - above)),
+             static_cast<int>(std::ceil(std::max(from.x, to.x) + beside)),
+             static_cast<int>(std::ceil(std::max(from.y, to.y) + above))};
 }
 
 // Where the line `row` enters and leaves the shape with another radius; in no order when it does
 // not meet it.
 inline Capsule::Extent Capsule::Within(float row, float radius) const {
-  Extent extent{1e9F, -1e9F};
+  Extent extent{4e6F, -4e6F};
   const auto include = [&](float left, float right) {
     extent = {std::min(extent.left, left), std::max(extent.right, right)};
   };
@@ -101,61 +95,125 @@ inline Capsule::Extent Capsule::Within(float row, float radius) const {
   return extent;
 }
 
+// The same for the body drawn on beyond its ends, which needs no roots; not along a row.
+inline Capsule::Extent Capsule::BodyWithin(float row, float radius) const {
+  const float middle = std::clamp(row * along_x_ * per_row_, -4e6F, 4e6F);
+  const float half = std::min(std::fabs(radius * per_row_), 4e6F);
+  return {middle - half, middle + half};
+}
+
+inline float Capsule::RowOf(int y) const {
+  return (static_cast<float>(y - base_.y) + to_centre_y_) * stretch_;
+}
+
+// The pixels whose centres lie in the extent.
+inline Capsule::Columns Capsule::ColumnsOf(const Extent& extent) const {
+  return {base_.x - Floor(to_centre_x_ - extent.left),
+          base_.x + Floor(extent.right - to_centre_x_) + 1};
+}
+
 Capsule::RowReach Capsule::Reach(int y) const {
   if (y < bounds_.top || y >= bounds_.bottom) return {};
-  const float row = static_cast<float>(y + 0.5 - from_.y) * stretch_;
-  const auto column = [this](float x) { return from_.x - 0.5 + static_cast<double>(x); };
+  const float row = RowOf(y);
   RowReach reach;
-  const Extent outer = Within(row, outer_);
-  if (outer.left > outer.right) return reach;
-  reach.any = {std::max(bounds_.left, static_cast<int>(std::floor(column(outer.left)))),
-               std::min(bounds_.right, static_cast<int>(std::ceil(column(outer.right))) + 1)};
+  reach.any = {bounds_.left, bounds_.right};
+  const bool wide = inner_ >= kWideInside;
+  if (wide || per_row_ != 0) {
+    const Columns outer = ColumnsOf(wide ? Within(row, outer_) : BodyWithin(row, outer_));
+    reach.any = {std::max(bounds_.left, outer.left), std::min(bounds_.right, outer.right)};
+  }
   reach.whole = {reach.any.right, reach.any.right};
-  if (inner_ <= 0) return reach;
+  if (!wide) return reach;
   const Extent inner = Within(row, inner_);
   if (inner.left > inner.right) return reach;
-  const Columns whole{static_cast<int>(std::ceil(column(inner.left))),
-                      static_cast<int>(std::floor(column(inner.right))) + 1};
+  const Columns whole = ColumnsOf(inner);
   if (whole.left < whole.right) reach.whole = whole;
   return reach;
 }
 
-inline float Capsule::NearBody(float across) const {
-  const float share = body_edge_.Share((radius_ - across) * body_scale_);
-  if (!slender_) return share;
-  return std::max(0.0F, share + body_edge_.Share((radius_ + across) * body_scale_) - 1);
+// Lanes are computed without a choice of ways, and by value, so that they can go side by side.
+static inline float Least(float one, float other) {
+  return one < other ? one : other;
+}
+static inline float Most(float one, float other) {
+  return one > other ? one : other;
 }
 
-inline float Capsule::NearEnd(float along, float across, float squared) const {
-  const float distance = std::sqrt(squared);
-  const float scale = 1 / std::max(distance, 1e-6F);
-  float normal_x = (along * along_x_ - across * along_y_) * scale;
-  float normal_y = (along * along_y_ + across * along_x_) * scale;
-  float inside = radius_ - distance, beyond = radius_ + distance, left_out = end_left_out_;
-  if (stretch_ != 1) {
-    normal_y *= stretch_;
-    const float length = std::sqrt(std::max(normal_x * normal_x + normal_y * normal_y, 1e-12F));
-    normal_x /= length;
-    normal_y /= length;
-    inside /= length;
-    beyond /= length;
-    left_out *= length;
+// How much of a pixel lies on the inner side of a straight edge, when its centre lies `inside` of
+// it; `most` and `least` are the larger and the smaller part of the edge's normal, which may have
+// any length, by which `inside` is then multiplied too. Seen along the edge a pixel is a trapezium:
+// level on both sides of its centre (`core`), then falling to nothing.
+static inline float EdgeShare(float most, float least, float inside) {
+  const float core = (most - least) * 0.5F;
+  const float off = std::fabs(inside);
+  const float level = Least(off, core);
+  const float falling = Least(Most(off - core, 0.0F), least);
+  const float half = ((level + falling) * least - 0.5F * falling * falling) / (most * least);
+  return 0.5F + std::copysign(half, inside);
+}
+
+template <bool kStretched, bool kSlender>
+inline void Capsule::CoverLanes(float first, float row, float* shares) const {
+  const float along_x = along_x_, along_y = along_y_, length = length_, radius = radius_;
+  const float to_centre = to_centre_x_, end_left_out = end_left_out_, stretch = stretch_;
+  for (int i = 0; i < kLanes; ++i) {
+    const float right = first + static_cast<float>(i) + to_centre;
+    const float along = right * along_x + row * along_y;
+    const float across = row * along_x - right * along_y;
+    const float beyond = along - Least(Most(along, 0.0F), length);
+    const float distance = Most(std::sqrt(across * across + beyond * beyond), 1e-3F);
+    const float one = std::fabs(beyond * along_x - across * along_y);
+    float other = std::fabs(beyond * along_y + across * along_x);
+    // Where the end begins its edge is still nearly that of the body.
+    float left_out = end_left_out * Least(std::fabs(beyond) * 4, 1.0F);
+    float normal = distance;
+    float least_most = distance * kLeastOfMost;
+    if constexpr (kStretched) {
+      other *= stretch;
+      normal = Most(std::sqrt(one * one + other * other), 1e-3F);
+      left_out *= normal / distance;
+      least_most = normal * kLeastOfMost;
+    }
+    const float most = Most(Most(one, other), least_most);
+    const float least = Most(Least(one, other), 1e-6F);
+    const float inside = (radius - distance) * distance - left_out * normal;
+    float share = EdgeShare(most, least, inside);
+    if constexpr (kSlender) {
+      const float far_inside = (radius + distance) * distance - left_out * normal;
+      share = Most(0.0F, share + EdgeShare(most, least, far_inside) - 1);
+    }
+    shares[i] = share * 255 + 0.5F;
   }
-  const Edge edge(normal_x, normal_y);
-  const float share = edge.Share(inside - left_out);
-  if (!slender_) return share;
-  return std::max(0.0F, share + edge.Share(beyond - left_out) - 1);
+}
+
+template <bool kStretched, bool kSlender>
+inline void Capsule::CoverRow(int x, int y, std::span<std::uint8_t> shares) const {
+  const float row = RowOf(y);
+  const std::size_t whole = shares.size() / kLanes * kLanes;
+  for (std::size_t done = 0; done < whole; done += kLanes) {
+    float lanes[kLanes];
+    CoverLanes<kStretched, kSlender>(static_cast<float>(x + static_cast<int>(done) - base_.x), row,
+                                     lanes);
+    for (int i = 0; i < kLanes; ++i) {
+      shares[done + static_cast<std::size_t>(i)] =
+          static_cast<std::uint8_t>(static_cast<int>(lanes[i]));
+    }
+  }
+}
+
+void Capsule::Cover(int x, int y, std::span<std::uint8_t> shares) const {
+  const bool slender = inner_ < 0;
+  if (stretch_ == 1) {
+    slender ? CoverRow<false, true>(x, y, shares) : CoverRow<false, false>(x, y, shares);
+  } else {
+    slender ? CoverRow<true, true>(x, y, shares) : CoverRow<true, false>(x, y, shares);
+  }
 }
 
 std::uint8_t Capsule::CoverageAt(int x, int y) const {
-  const float right = static_cast<float>(x + 0.5 - from_.x);
-  const float down = static_cast<float>(y + 0.5 - from_.y) * stretch_;
-  const float along = right * along_x_ + down * along_y_;
-  const float across = down * along_x_ - right * along_y_;
-  const float beyond = along < 0 ? along : along > length_ ? along - length_ : 0;
-  const float share = beyond == 0 ? NearBody(std::fabs(across))
-                                  : NearEnd(beyond, across, across * across + beyond * beyond);
-  return static_cast<std::uint8_t>(share * 255 + 0.5F);
+  std::uint8_t shares[kLanes];
+  Cover(x, y, shares);
+  return shares[0];
 }
 
 }  // namespace varnel

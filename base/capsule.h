@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 
 #include "base/geometry.h"
 
@@ -32,46 +33,44 @@ class Capsule {
     int left = 0;
     int right = 0;
   };
-  // A row's columns that may be covered, and those among them that are covered wholly for sure.
+  // A row's columns that may be covered, and, of wide pens, those among them that are covered
+  // wholly for sure.
   struct RowReach {
     Columns any;
     Columns whole;
   };
   RowReach Reach(int y) const;
 
-  // How much of a pixel is covered: 0 nothing to 255 all.
+  static constexpr int kLanes = 8;  // pixels that are computed together
+  // How much of each pixel of a row is covered, from {x, y} on: 0 nothing to 255 all. Only whole
+  // groups of kLanes are given.
+  void Cover(int x, int y, std::span<std::uint8_t> shares) const;
   std::uint8_t CoverageAt(int x, int y) const;
 
  private:
-  // A straight edge, by the larger and the smaller part of its normal. Seen along it a pixel is a
-  // trapezium: level on both sides of its centre, then falling to nothing.
-  struct Edge {
-    Edge(float one, float other);
-    // The share of a pixel that lies on the inner side, when its centre lies so far inside.
-    float Share(float inside) const;
-    float least, reach;
-    float slope, bend;  // one over the larger part; one over twice the product
-  };
-
   struct Extent {
     float left, right;
   };
   Extent Within(float row, float radius) const;
-  float NearBody(float across) const;
-  float NearEnd(float along, float across, float squared) const;
+  Extent BodyWithin(float row, float radius) const;
+  Columns ColumnsOf(const Extent& extent) const;
+  float RowOf(int y) const;
+  template <bool kStretched, bool kSlender>
+  void CoverLanes(float first, float row, float* shares) const;
+  template <bool kStretched, bool kSlender>
+  void CoverRow(int x, int y, std::span<std::uint8_t> shares) const;
 
-  // In a plane stretched upright so that the pen is a circle, measured from the first point.
-  PointF from_;
+  // In a plane stretched upright so that the pen is a circle, measured from the first point, which
+  // lies in the pixel `base_`, its centre at `to_centre_` from the point.
+  Point base_;
+  float to_centre_x_ = 0.5F, to_centre_y_ = 0.5F;
   float stretch_ = 1;
   float radius_ = 0;
   float along_x_ = 1, along_y_ = 0;  // the direction, of length 1
   float length_ = 0;
-  float body_scale_ = 1;  // pixels to a stretched length across the body
-  Edge body_edge_{0, 1};
   float end_left_out_ = 0;       // by an edge that is taken as straight
   float outer_ = 0, inner_ = 0;  // distances beyond which all pixels are free, or covered
   float per_row_ = 0;            // one over `along_y_`, 0 when that is hardly anything
-  bool slender_ = false;         // both edges may lie in one pixel
   Rect bounds_;
 };
 

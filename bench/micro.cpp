@@ -12,8 +12,10 @@ namespace {
 void Run(std::span<char*> words) {
   std::vector<Probe> probes = EngineProbes();
   std::ranges::move(NotesProbes(), std::back_inserter(probes));
+  std::ranges::move(BoardProbes(), std::back_inserter(probes));
 #ifdef _WIN32
   std::ranges::move(PlatformProbes(), std::back_inserter(probes));
+  std::ranges::move(BoardPlatformProbes(), std::back_inserter(probes));
 #endif
   for (const Probe& probe : probes) {
     const bool wanted = words.empty() || std::ranges::any_of(words, [&](const char* word) {

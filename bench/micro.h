@@ -56,7 +56,9 @@ struct Probe {
 
 std::vector<Probe> EngineProbes();
 std::vector<Probe> NotesProbes();
+std::vector<Probe> BoardProbes();
 // Those that need the platform; none in a native build.
 std::vector<Probe> PlatformProbes();
+std::vector<Probe> BoardPlatformProbes();
 
 }  // namespace varnel::bench
