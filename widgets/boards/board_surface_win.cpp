@@ -22,6 +22,17 @@ int Signed(int coordinate) {
   return static_cast<short>(coordinate);
 }
 
+// What the system keeps of the way of the mouse to that place of the screen, the newest first.
+// Looked for by the place alone, as the time of a message is not always that which is kept.
+std::vector<MOUSEMOVEPOINT> KeptPoints(POINT place) {
+  MOUSEMOVEPOINT newest = {place.x & 0xFFFF, place.y & 0xFFFF, 0, 0};
+  std::vector<MOUSEMOVEPOINT> kept(kMostPoints);
+  const int count = ::GetMouseMovePointsEx(sizeof newest, &newest, kept.data(), kMostPoints,
+                                           GMMP_USE_DISPLAY_POINTS);
+  kept.resize(static_cast<std::size_t>(std::max(count, 0)));
+  return kept;
+}
+
 }  // namespace
 
 BoardSurface::BoardSurface(Ui& ui, DrawingBoard& board, BoardSurfaceOwner& owner)
@@ -105,7 +116,6 @@ void BoardSurface::OnWheel(int turn, bool ctrl, bool across) {
 
 void BoardSurface::Repaint(const Rect& shown) {
   if (shown.empty()) return;
-  owner_.OnBoardRepaint(shown);
   const RECT area{shown.left - origin_.x, shown.top - origin_.y, shown.right - origin_.x,
                   shown.bottom - origin_.y};
   ::InvalidateRect(handle(), &area, FALSE);
@@ -148,8 +158,8 @@ void BoardSurface::OnDown(Point at, BoardButton button) {
   ::SetCapture(handle());
   POINT screen{at.x, at.y};
   ::ClientToScreen(handle(), &screen);
-  last_point_ = {static_cast<int>(screen.x), static_cast<int>(screen.y)};
-  last_time_ = static_cast<DWORD>(::GetMessageTime());
+  const auto kept = KeptPoints(screen);
+  last_ = kept.empty() ? MOUSEMOVEPOINT{} : kept.front();
   const bool merged = board_.floating();
   Repaint(board_.MouseDown(OnBoard(at), button));
   ::UpdateWindow(handle());
@@ -173,23 +183,17 @@ void BoardSurface::OnMove(Point at, bool held) {
 std::vector<Point> BoardSurface::PointsSince(Point at) {
   POINT corner{0, 0};
   ::ClientToScreen(handle(), &corner);
-  const Point now{at.x + static_cast<int>(corner.x), at.y + static_cast<int>(corner.y)};
-  MOUSEMOVEPOINT newest = {now.x & 0xFFFF, now.y & 0xFFFF, static_cast<DWORD>(::GetMessageTime()),
-                           0};
-  MOUSEMOVEPOINT kept[kMostPoints];
-  const int count =
-      ::GetMouseMovePointsEx(sizeof newest, &newest, kept, kMostPoints, GMMP_USE_DISPLAY_POINTS);
+  const auto kept = KeptPoints({at.x + corner.x, at.y + corner.y});
   std::vector<Point> points;
-  for (int i = 0; i < count; ++i) {
-    const Point point{Signed(kept[i].x), Signed(kept[i].y)};
-    const auto older = static_cast<std::int32_t>(kept[i].time - last_time_);
-    if (older < 0 || (older == 0 && point == last_point_)) break;
-    points.push_back({point.x - static_cast<int>(corner.x), point.y - static_cast<int>(corner.y)});
+  for (const MOUSEMOVEPOINT& point : kept) {
+    const auto later = static_cast<std::int32_t>(point.time - last_.time);
+    if (later < 0 || (later == 0 && point.x == last_.x && point.y == last_.y)) break;
+    points.push_back({Signed(point.x) - static_cast<int>(corner.x),
+                      Signed(point.y) - static_cast<int>(corner.y)});
   }
   std::ranges::reverse(points);
+  if (!kept.empty()) last_ = kept.front();
   if (points.empty() || points.back() != at) points.assign(1, at);
-  last_point_ = now;
-  last_time_ = newest.time;
   return points;
 }
 

@@ -21,8 +21,6 @@ class BoardSurfaceOwner {
   virtual Size BoardSize() const = 0;
   // A stroke has ended, or an object was merged.
   virtual void OnBoardChanged() = 0;
-  // What is shown there is about to be painted anew.
-  virtual void OnBoardRepaint(const Rect& /*shown*/) {}
   // The pointer is over that pixel of the board.
   virtual void OnPointer(Point /*at*/) {}
 };
@@ -75,11 +73,9 @@ class BoardSurface : public Window {
   ThumbBar bar_, across_bar_;
   Rect place_, bar_place_, across_place_;
   BoardSurfaceLook look_;
-  Point origin_;        // the board's pixel at the upper left
-  int wheel_turn_ = 0;  // not yet a whole step
-  // The last point of the mouse that was drawn to, in pixels of the screen, and when it was there.
-  Point last_point_;
-  DWORD last_time_ = 0;
+  Point origin_;              // the board's pixel at the upper left
+  int wheel_turn_ = 0;        // not yet a whole step
+  MOUSEMOVEPOINT last_ = {};  // of the mouse that was drawn to, as the system keeps it
 };
 
 }  // namespace varnel

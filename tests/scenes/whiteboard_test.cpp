@@ -1,0 +1,297 @@
+// The whiteboard, drawn on by hand, and its boards, whatever happens to them and to the program.
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "base/bmp.h"
+#include "base/canvas.h"
+#include "resources/control_ids.h"
+#include "tests/rig/scene.h"
+#include "widgets/boards/pens.h"
+
+namespace varnel {
+namespace {
+
+using namespace rig;
+
+constexpr std::uint32_t kWhitePixel = 0xFFFFFFFF;
+constexpr int kTolerance = 48;  // of red, for what lies on an edge
+
+std::uint32_t PixelOf(int pen) {
+  return OpaquePixel(PenAt(pen).colour);
+}
+
+// How many pixels have less ink than in `other`, by more than the edge of a line differs.
+int Missing(const Image& board, const Image& other) {
+  int count = 0;
+  for (int y = 0; y < other.height(); ++y) {
+    for (int x = 0; x < other.width(); ++x) {
+      const int red = static_cast<int>(board.At(x, y) >> 16 & 0xFF);
+      count += red - static_cast<int>(other.At(x, y) >> 16 & 0xFF) > kTolerance;
+    }
+  }
+  return count;
+}
+
+// Around everything that is not white.
+Rect InkOf(const Image& board) {
+  Rect ink;
+  for (int y = 0; y < board.height(); ++y) {
+    for (int x = 0; x < board.width(); ++x) {
+      if (board.At(x, y) != kWhitePixel) ink = Union(ink, {x, y, x + 1, y + 1});
+    }
+  }
+  return ink;
+}
+
+class WhiteboardScene : public Scene {
+ protected:
+  void Start() {
+    root().settings().SetText(L"frmVRNpr\\Details", L"Start-Load-Whiteboard", L"True");
+    ASSERT_TRUE(program().Start(L"/tray"));
+    form_ = WaitForForm(program(), L"frmWBDwg");
+    ASSERT_TRUE(form_);
+    ::SetWindowPos(form_, nullptr, 100, 100, 620, 420, SWP_NOZORDER);
+    ASSERT_TRUE(Activate(form_));
+    board_ = RectOf(Part(picMAINBOARD));
+  }
+  HWND Part(int id) const { return Control(form_, id); }
+  std::wstring Name() const { return Text(Part(lblWhiteboard)); }
+  int Rows() const { return static_cast<int>(Send(Part(lvwFILES), LVM_GETITEMCOUNT)); }
+  void ClickRow(int row) const {
+    const Rect list = RectOf(Part(lvwFILES));
+    Click({list.left + 20, list.top + 68 * row + 20});
+  }
+
+  // Points of the board as points of the screen.
+  void Draw(std::vector<Point> points, MouseButton button = MouseButton::kLeft) const {
+    for (Point& point : points) point = OnScreen(point);
+    Stroke(points, button);
+  }
+  Point OnScreen(Point point) const { return {board_.left + point.x, board_.top + point.y}; }
+
+  std::wstring Folder() { return root().folder() + L"\\wboard"; }
+  // The boards that are files, without those in the hidden folder.
+  std::vector<std::wstring> Files() {
+    std::vector<std::wstring> files = FilesBelow(Folder());
+    std::erase_if(files, [](const std::wstring& name) {
+      return name.find(L'\\') != std::wstring::npos || !name.ends_with(L".bmp");
+    });
+    return files;
+  }
+  Image Saved(const std::wstring& name) {
+    const auto bytes = FileBytes(Folder() + L"\\" + name);
+    return bytes ? ReadBmp(*bytes).value_or(Image()) : Image();
+  }
+  bool Put(const std::wstring& name, std::uint32_t pixel) {
+    return WriteBytes(Folder() + L"\\" + name, WriteBmp(Image(90, 60, pixel), BmpDepth::k24Bits));
+  }
+  // Saves and gives what is in the only file then.
+  Image Save() {
+    const auto before = Files();
+    const std::string former =
+        before.empty() ? "" : FileBytes(Folder() + L"\\" + before[0]).value();
+    Chord({VK_CONTROL, 'S'});
+    WaitUntil([&] {
+      const auto now = Files();
+      return !now.empty() && FileBytes(Folder() + L"\\" + now[0]).value_or("") != former;
+    });
+    return Files().empty() ? Image() : Saved(Files()[0]);
+  }
+
+  HWND form_ = nullptr;
+  Rect board_;
+};
+
+std::vector<Point> Curve() {
+  std::vector<Point> points;
+  for (int i = 0; i <= 40; ++i) {
+    points.push_back({30 + 8 * i, 120 - static_cast<int>(60 * std::sin(i * 0.16))});
+  }
+  return points;
+}
+
+Image Drawn(const Image& like, const std::vector<Point>& points, int pen, double width) {
+  Canvas canvas(Canvas::kWhiteBoard);
+  canvas.Load(Image(like.width(), like.height(), kWhitePixel));
+  canvas.BeginStroke(PixelOf(pen), {width, width});
+  for (std::size_t i = 1; i < points.size(); ++i) {
+    canvas.DrawSegment({points[i - 1].x + 0.5, points[i - 1].y + 0.5},
+                       {points[i].x + 0.5, points[i].y + 0.5});
+  }
+  canvas.EndStroke();
+  return canvas.pixels();
+}
+
+TEST_F(WhiteboardScene, WhatIsDrawnIsSavedErasedUndoneAndRedone) {
+  Start();
+  EXPECT_EQ(Name(), L"New Board");
+  Type(L"6]");
+  EXPECT_SOON_EQ(Text(Part(lblTestfrmWBDwg)), L"Marker blue pen");
+  Draw(Curve());
+  const Image first = Save();
+  ASSERT_EQ((Size{first.width(), first.height()}), (Size{board_.width(), board_.height()}));
+  const Image curve = Drawn(first, Curve(), 5, 6);
+  EXPECT_EQ(Missing(first, curve), 0);
+  // The desktop's server sends a pointer that was put somewhere through places that it has left
+  // already, which adds strokes along the curve.
+  EXPECT_LT(Missing(curve, first), 500);
+  EXPECT_EQ(InkOf(first), InkOf(curve));
+  EXPECT_SOON(Name().starts_with(L"pic_2"));
+  EXPECT_SOON_EQ(Rows(), 1);
+
+  Type(L"e]");
+  EXPECT_SOON_EQ(Text(Part(lblTestfrmWBDwg)), L"erase");
+  Draw({{150, 20}, {150, 200}, {160, 200}, {160, 20}}, MouseButton::kRight);
+  const Image erased = Save();
+  for (int y = 20; y < 200; ++y) ASSERT_EQ(erased.At(155, y), kWhitePixel) << y;
+  EXPECT_GT(Missing(erased, first), 50);
+  ASSERT_TRUE(ClickOn(Part(cmdBOARDTOOL + 3)));
+  EXPECT_EQ(Save(), first);
+  Chord({VK_CONTROL, 'Y'});
+  EXPECT_EQ(Save(), erased);
+  EXPECT_EQ(Files().size(), 1u);
+
+  // Leaving saves without asking; the pens are as they were at the next start.
+  Chord({VK_CONTROL, 'Z'});
+  ASSERT_EQ(LeaveByMenu(program()), 0u);
+  EXPECT_EQ(Saved(Files()[0]), first);
+  Start();
+  EXPECT_SOON_EQ(Text(Part(lblTestfrmWBDwg)), L"erase");
+  ClickRow(0);
+  EXPECT_SOON(Name().starts_with(L"pic_2"));
+}
+
+TEST_F(WhiteboardScene, TextAndPictureAreMergedWhereTheyArePut) {
+  Start();
+  Type(L"2");
+  Choose(form_, L"mnuWBOARDINSTEXT");
+  HWND dialog = WaitForForm(program(), L"frmWBDit");
+  SetText(Control(dialog, txtINSE), L"pond");
+  PressButton(dialog, cmdOKfrmWBDit);
+  ASSERT_TRUE(WaitForNoForm(program(), L"frmWBDit"));
+  // With the button held no line is drawn.
+  Draw({{100, 150}, {200, 50}, {250, 200}});
+  Image board = Save();
+  Rect ink = InkOf(board);
+  EXPECT_TRUE(!ink.empty() && ink.left > 60 && ink.right < 140 && ink.top > 130 && ink.bottom < 170)
+      << ink.left << ' ' << ink.top << ' ' << ink.right << ' ' << ink.bottom;
+  EXPECT_TRUE(std::ranges::count(board.All(), PixelOf(1)) > 5);
+
+  const std::wstring picture = root().folder() + L"\\green.bmp";
+  ASSERT_TRUE(WriteBytes(picture, WriteBmp(Image(40, 30, PixelOf(4)), BmpDepth::k24Bits)));
+  const auto insert = [&](const std::wstring& path) {
+    Choose(form_, L"mnuWBOARDINSPIC");
+    HWND open = WaitForDialog(program());
+    return AnswerFileDialog(open, path) && WaitUntil([&] { return !FindDialog(program()); });
+  };
+  ASSERT_TRUE(insert(picture));
+  ASSERT_TRUE(Activate(form_));
+  MoveMouse(OnScreen({220, 65}));
+  Chord({VK_SHIFT, VK_RIGHT});
+  PressKeys({VK_DOWN, VK_DOWN, VK_RETURN});
+  board = Save();
+  EXPECT_EQ(std::ranges::count(board.All(), PixelOf(4)), 40 * 30);
+  EXPECT_EQ(board.At(210, 52), PixelOf(4));
+  EXPECT_EQ(board.At(249, 81), PixelOf(4));
+
+  // What is dropped, or cannot be read, leaves nothing.
+  ASSERT_TRUE(insert(picture));
+  PressKey(VK_ESCAPE);
+  ASSERT_TRUE(WriteBytes(picture, "BM but no picture"));
+  ASSERT_TRUE(insert(picture));
+  Draw({{30, 30}, {31, 30}});
+  EXPECT_EQ(std::ranges::count(Save().All(), PixelOf(4)), 40 * 30);
+}
+
+TEST_F(WhiteboardScene, BoardsAreChosenRenamedDeletedAndFollowTheirFolder) {
+  ASSERT_TRUE(Put(L"a.bmp", PixelOf(1)) && Put(L"b.bmp", PixelOf(2)) && Put(L"c.bmp", PixelOf(3)));
+  Start();
+  EXPECT_SOON_EQ(Rows(), 3);
+  ClickRow(1);
+  EXPECT_SOON_EQ(Name(), L"b");
+  PressKey(VK_F2);
+  ASSERT_SOON(ChildOfClass(Part(lvwFILES), L"Edit") != nullptr);
+  Type(L"plan 1\n");
+  EXPECT_SOON_EQ(Name(), L"plan 1");
+  EXPECT_EQ(Files(), (std::vector<std::wstring>{L"a.bmp", L"c.bmp", L"plan 1.bmp"}));
+
+  // A clash asks first.
+  PressKey(VK_F2);
+  ASSERT_SOON(ChildOfClass(Part(lvwFILES), L"Edit") != nullptr);
+  Type(L"c\n");
+  HWND question = WaitForDialog(program());
+  ASSERT_TRUE(question);
+  ASSERT_TRUE(CloseDialog(question, IDNO));
+  EXPECT_EQ(Files().size(), 3u);
+  EXPECT_EQ(Name(), L"plan 1");
+
+  // Others change the board that is drawn on: both are kept.
+  Draw({{20, 20}, {60, 30}});
+  ASSERT_TRUE(Put(L"plan 1.bmp", PixelOf(6)));
+  ASSERT_TRUE(Put(L"another.bmp", PixelOf(6)));
+  EXPECT_SOON_EQ(Rows(), 4);
+  ASSERT_TRUE(ClickOn(Part(cmdBOARDTOOL + 5)));
+  EXPECT_SOON_EQ(Rows(), 5);
+  EXPECT_SOON_EQ(Name(), L"New Board");
+  EXPECT_EQ(Saved(L"plan 1.bmp").At(5, 5), PixelOf(6));
+
+  ClickRow(0);
+  EXPECT_SOON_EQ(Name(), L"a");
+  for (const int answer : {IDNO, IDYES}) {
+    PressKey(VK_DELETE);
+    question = WaitForDialog(program());
+    ASSERT_TRUE(question);
+    EXPECT_EQ(Text(question), L"Delete a whiteboard");
+    EXPECT_EQ(DialogText(question), L"Are you sure you want to delete?");
+    ASSERT_TRUE(CloseDialog(question, answer));
+    EXPECT_SOON_EQ(FileExists(Folder() + L"\\a.bmp"), answer == IDNO);
+  }
+  EXPECT_SOON_EQ(Name(), L"another");
+
+  // Another folder: what is unsaved is saved in the old one first.
+  Draw({{20, 40}, {60, 50}});
+  const Image before = Saved(L"another.bmp");
+  Choose(form_, L"mnuWBOARDPROPS");
+  HWND dialog = WaitForForm(program(), L"frmWBDpr");
+  SetText(Control(dialog, txtLOCATION), root().folder() + L"\\elsewhere");
+  PressButton(dialog, cmdOKfrmWBDpr);
+  EXPECT_SOON_EQ(Rows(), 0);
+  EXPECT_EQ(Name(), L"New Board");
+  EXPECT_NE(Saved(L"another.bmp"), before);
+  EXPECT_TRUE(FolderExists(root().folder() + L"\\elsewhere\\wboard"));
+}
+
+TEST_F(WhiteboardScene, KilledWhileDrawnOnAndSavedItComesBack) {
+  Start();
+  const auto draft = [this] {
+    return std::ranges::any_of(FilesBelow(Folder()),
+                               [](const std::wstring& name) { return name.ends_with(L".draft"); });
+  };
+  Draw(Curve());
+  ASSERT_SOON(draft());
+  program().Kill();
+  EXPECT_TRUE(Files().empty());
+  Start();
+  const Image back = Save();
+  EXPECT_EQ(Missing(back, Drawn(back, Curve(), 0, 2)), 0);
+  EXPECT_FALSE(draft());
+
+  for (int i = 0; i < 6; ++i) {
+    Draw({{20 + i, 200}, {300, 210 + i}, {20, 220}});
+    Chord({VK_CONTROL, 'S'});
+    ::Sleep(static_cast<DWORD>(7 * i));
+    program().Kill();
+    for (const std::wstring& name : Files()) EXPECT_FALSE(Saved(name).empty()) << "torn";
+    Start();
+    ClickRow(0);
+    ASSERT_SOON(Name().starts_with(L"pic_2"));
+  }
+}
+
+}  // namespace
+}  // namespace varnel
