@@ -11,6 +11,7 @@
 #include "widgets/boards/whiteboard_text_dialog.h"
 #include "widgets/calculator/calculator_form.h"
 #include "widgets/notes/notes_folder.h"
+#include "widgets/notes/notes_form.h"
 #include "widgets/notes/spell_service_win.h"
 #include "widgets/time/alarm_dialog.h"
 #include "widgets/time/alarm_service_win.h"
@@ -64,8 +65,10 @@ void AddBoards(Catalogue& catalogue) {
 }
 
 void AddNotes(Catalogue& catalogue) {
+  auto& notes = catalogue.AddService<NotesLink>();
   catalogue.AddFolder(kNotesFolder);
   catalogue.AddService<SpellService>();
+  catalogue.AddWidget<NotesForm>(3, notes);
 }
 
 constexpr Family kFamilies[] = {AddProgram, AddTime,   AddCalculator,

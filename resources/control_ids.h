@@ -201,3 +201,59 @@
 #define lblSelectedFolder 1780
 #define cmdOKfrmCALpr 1
 #define cmdCancelfrmCALpr 2
+
+// frmNOTwg, the notes; its list is lvwFILES
+#define rtbPAGEBOX 1800
+#define lblNotes 1801
+#define lblCHARS 1802
+#define lblLINESTAT 1803
+#define txtSEARCHNOTES 1804  // narrows the list
+#define lblZOOM 1805         // the zoom, or what there is to say of the last step
+// The tools: 0 new, 1 save, 2 find, 3 fonts, 4 paragraph, 5 picture, 6 text, 7 spelling, 8 list
+#define lablTOOLSINS 1810
+// its panel of fonts, pfrFONTS
+#define lstFONTNAMEFONTS 1830
+#define lstFONTSIZE 1831
+#define chkBOLD 1832
+#define chkITALIC 1833
+#define chkUNDERLINE 1834
+#define picCOLOR 1835
+#define optSCRIPT 1836     // 0 to 2: raised, normal, lowered
+#define btnREMSTYLES 1839  // clears the formats of what is selected
+#define btnSTYLEREMV 1840  // and of the whole note
+#define btnSTYLE 1841      // 0 to 6
+// its panel of paragraphs, pfrPGRAPH
+#define optALIGN 1850  // 0 to 3: left, right, centre, justified
+#define btnINDINC 1854
+#define btnINDDEC 1855
+#define chkBULLETS 1856
+#define cboRULES 1857
+#define cboLINCUST 1858
+#define cboPARBEFORE 1859
+#define cboPARAFTER 1860
+#define labPGRAPH 1861  // 0 to 2: captions of the last three
+// its panels that put in a document, pfrTEXT, and a picture, pfrPICTURE
+#define drvFOLDERS 1870
+#define dirFOLDERS 1871
+#define rtbPREV 1873
+#define btnTXTINS 1874
+#define drvPICTURES 1880
+#define dirPICTURES 1881
+#define flbLISTPICS 1882
+#define imgPREVIEW 1883
+#define btnINSPICTURE 1884
+
+// frmNOTpr, the notes' properties; its folder is txtLOCATION
+#define cboFONTNAMETEXT 1890
+#define cboFONTSIZETEXT 1891
+#define picCOLORBAR 1892
+#define cmdEdit 1893
+#define optDOCTYPE 1894  // 0 rich text, 1 plain text
+#define cmdBrowsefrmNOTpr 1896
+#define cmdOKfrmNOTpr 1
+#define cmdCancelfrmNOTpr 2
+
+// frmNOTvr, the earlier versions of a note
+#define lstVERSIONS 1897
+#define txtVERSION 1898
+#define cmdRESTORE 1

@@ -9,9 +9,13 @@
 namespace varnel {
 
 enum class MessageKind {
-  kInformation,  // OK alone
-  kQuestion,     // Yes and No, the latter chosen at first
+  kInformation,    // OK alone
+  kQuestion,       // Yes and No, the latter chosen at first
+  kPlainQuestion,  // Yes and No, without a picture
+  kSaveQuestion,   // Yes, No and Cancel: something is not saved
 };
+
+enum class Answer { kYes, kNo, kCancel };
 
 // The fixed texts of a message box. Where `text` has "%1" to "%9", what is inserted stands.
 struct Message {
@@ -26,5 +30,9 @@ struct Message {
 // owner may be gone afterwards: a box pumps messages.
 bool Ask(HWND owner, const Message& message,
          std::initializer_list<std::wstring_view> inserted = {});
+
+// The same for a box with three answers; closing it cancels. OK counts as yes.
+Answer AskForAnswer(HWND owner, const Message& message,
+                    std::initializer_list<std::wstring_view> inserted = {});
 
 }  // namespace varnel

@@ -154,6 +154,8 @@ bool RichEdit::Intercept(UINT message, WPARAM wparam) {
       return true;
     case WM_KEYDOWN:
       return OnKey(wparam);
+    case WM_MOUSEWHEEL:
+      return OnWheel(wparam);
     default:
       return false;
   }
@@ -169,6 +171,18 @@ bool RichEdit::OnKey(WPARAM key) {
   }
   if (control && !shift && (key == 'C' || key == VK_INSERT)) return Copy(false);
   return ((control && key == 'X') || (shift && !control && key == VK_DELETE)) && Copy(true);
+}
+
+bool RichEdit::OnWheel(WPARAM wparam) {
+  if (!events_.on_zoom || !(LOWORD(wparam) & MK_CONTROL)) return false;
+  wheel_turn_ += static_cast<short>(HIWORD(wparam));
+  if (const int notches = wheel_turn_ / WHEEL_DELTA; notches != 0) events_.on_zoom(notches);
+  wheel_turn_ %= WHEEL_DELTA;
+  return true;
+}
+
+bool RichEdit::WritesRaisedInTwips() {
+  return IsWine();
 }
 
 void RichEdit::Paste() {

@@ -40,7 +40,11 @@ class RichEdit {
     std::function<bool(bool cut)> on_copy;  // true when the owner has filled the clipboard
     std::function<void(std::vector<std::wstring> paths, int position)> on_files;
     RtfGate may_drop;
+    std::function<void(int notches)> on_zoom;  // the wheel was turned with Ctrl held
   };
+
+  // Whether this system's control writes raised letters (\up, \dn) in twips, not half points.
+  static bool WritesRaisedInTwips();
 
   explicit RichEdit(Events events) : events_(std::move(events)) {}
   RichEdit(const RichEdit&) = delete;
@@ -160,6 +164,7 @@ class RichEdit {
   void KeepUndoSafe();
   bool Intercept(UINT message, WPARAM wparam);
   bool OnKey(WPARAM key);
+  bool OnWheel(WPARAM wparam);
   void Paste();
   bool Copy(bool cut);
   void OnDrop(HDROP drop);
@@ -181,6 +186,7 @@ class RichEdit {
   int caret_ = 0;  // where it was seen last
   RichRange last_selection_;
   LONG pictures_seen_ = 0;
+  int wheel_turn_ = 0;  // not yet a whole notch
 };
 
 }  // namespace varnel

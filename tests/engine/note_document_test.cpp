@@ -102,7 +102,7 @@ TEST(NoteDocument, StatesOfANote) {
   EXPECT_FALSE(note.modified());
 
   NoteDocument last(std::numeric_limits<std::int32_t>::max());
-  last.Opened(L"n\\a.rtf");
+  last.Opened(L"n\\a.rtf", NoteType::kRtf);
   EXPECT_FALSE(last.StartNew(NoteType::kRtf));
   EXPECT_EQ(last.path(), L"n\\a.rtf");
 }

@@ -26,6 +26,9 @@ class Program {
   // the windows come later. False when it cannot be started or the one before is still there.
   bool Start(const std::wstring& more = L"");
 
+  // What it was given.
+  const Root& root() const { return root_; }
+
   // The process's number; 0 before the first start.
   DWORD id() const { return id_; }
   bool running() const;

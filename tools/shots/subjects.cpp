@@ -9,6 +9,7 @@
 #include "resources/control_ids.h"
 #include "tests/rig/controls.h"
 #include "tests/rig/dialogs.h"
+#include "tests/rig/files.h"
 #include "tests/rig/input.h"
 #include "tests/rig/menus.h"
 #include "tools/shots/sample_boards.h"
@@ -144,6 +145,41 @@ void FloatText(const Program& program, HWND whiteboard) {
 
 const std::vector<StoredText> kNoBoardList = {{L"frmWBDwg\\Details", L"Show-Side-Bar", L"False"}};
 
+// Writes a note: a heading, a paragraph, bullets.
+void WriteNote(const Program&, HWND form) {
+  HWND editor = Control(form, rtbPAGEBOX);
+  Click(CentreOf(editor));
+  Chord({VK_CONTROL, VK_MENU, '1'});
+  Type(L"Plum cake\n");
+  Chord({VK_CONTROL, VK_MENU, '7'});
+  Type(L"500 g plums, halved. 200 g flour, 120 g butter, 3 eggs, 100 g sugar and a little ");
+  Chord({VK_CONTROL, 'I'});
+  Type(L"cinnamon");
+  Chord({VK_CONTROL, 'I'});
+  Type(L".\n");
+  Chord({VK_CONTROL, VK_RETURN});
+  Type(L"Oven at 180 \u00B0C, 35 minutes.\nDough first, plums on top, skin side down.\n");
+  Type(L"Let it cool before it is cut.");
+}
+
+void WriteNotes(const Program& program, HWND form) {
+  const std::wstring folder = program.root().folder() + L"\\tavrin\\";
+  for (const wchar_t* name :
+       {L"Recipe plum cake.rtf", L"Ideas for June.rtf", L"Meeting, Tuesday.txt", L"Notes 4.txt"}) {
+    WriteBytes(folder + name, "{\\rtf1 A note}");
+  }
+  PressKey(VK_F5);
+  WriteNote(program, form);
+}
+
+// The same with one of the tool strip's panels open.
+Preparation NotePanel(WORD key) {
+  return [key](const Program& program, HWND form) {
+    WriteNotes(program, form);
+    PressKey(key);
+  };
+}
+
 void OpenMenu(const Program& program, HWND form) {
   Click({RectOf(form).left + 60, RectOf(form).top + 10}, MouseButton::kRight);
   WaitForMenus(program, 1);
@@ -275,6 +311,11 @@ std::vector<Subject> OtherSubjects() {
        Command(L"mnuWEATHERPROPS"),
        Part::kForm,
        L"frmWTHpr"},
+      {L"notes", kNotes, kDpis | kFewPresets, {}, WriteNotes},
+      {L"notes-fonts", kNotes, kDpis, {}, NotePanel(VK_F2)},
+      {L"notes-paragraph", kNotes, kDpis, {}, NotePanel(VK_F4)},
+      {L"notes-text", kNotes, kPlain, {}, NotePanel(VK_F9)},
+      {L"notes-picture", kNotes, kPlain, {}, NotePanel(VK_F11)},
       {L"options", kManager, kDpis, {}, Command(L"mnuDCGENSET"), Part::kForm, L"frmVRNpr"},
       {L"clock-properties", kClock, kDpis, {}, Command(L"mnuCLOCKPROPS"), Part::kForm, L"frmCLKpr"},
       {L"alarms", kClock, kDpis, kAlarms, Command(L"mnuCLOCKALARMSET"), Part::kForm, L"frmCLKas"},

@@ -101,8 +101,9 @@ bool NoteDocument::StartNew(NoteType type) {
   return true;
 }
 
-void NoteDocument::Opened(std::wstring_view path) {
+void NoteDocument::Opened(std::wstring_view path, NoteType type) {
   path_ = path;
+  type_ = type;
   modified_ = false;
 }
 

@@ -76,8 +76,8 @@ class NoteDocument {
   // nothing changed, once the counter has reached the greatest 32-bit number. A changed note is to
   // be saved before.
   bool StartNew(NoteType type);
-  // The new note now shows that file.
-  void Opened(std::wstring_view path);
+  // The new note now shows that file, and is to be saved as that type.
+  void Opened(std::wstring_view path, NoteType type);
   // The editor changed, by the user's hand or, while `loading`, by the program's.
   void Changed(bool loading) { modified_ = modified_ || !loading; }
   // Where a save goes: the path while it exists, else a generated one.

@@ -1,0 +1,209 @@
+// The notes: what is typed, formatted and chosen ends in files that say it.
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <algorithm>
+
+#include "base/text.h"
+#include "resources/control_ids.h"
+#include "tests/rig/scene.h"
+#include "widgets/notes/rtf_reader.h"
+
+namespace varnel {
+namespace {
+
+using namespace rig;
+
+class Notes : public Scene {
+ protected:
+  void Start() {
+    root().settings().SetText(L"frmVRNpr\\Details", L"Start-Load-Notes", L"True");
+    root().settings().SetText(L"frmNOTwg\\Window", L"Width", L"9000");
+    root().settings().SetText(L"frmNOTwg\\Window", L"Height", L"7000");
+    ASSERT_TRUE(program().Start(L"/tray"));
+    form_ = WaitForForm(program(), L"frmNOTwg");
+    ASSERT_TRUE(form_);
+    editor_ = Control(form_, rtbPAGEBOX);
+    ASSERT_TRUE(Activate(form_));
+    ASSERT_TRUE(ClickOn(editor_));
+  }
+  std::wstring Folder() { return root().folder() + L"\\tavrin\\"; }
+  std::vector<std::wstring> Files() {
+    auto files = FilesBelow(Folder());
+    std::erase_if(files, [](const auto& name) { return name.starts_with(L".varnel"); });
+    return files;
+  }
+  // The one note that has been saved.
+  std::wstring OnlyNote() {
+    EXPECT_SOON(Files().size() == 1);
+    return Files().size() == 1 ? Folder() + Files()[0] : std::wstring();
+  }
+  RtfDocument Saved(const std::wstring& path) {
+    const RtfReading reading = ReadRtf(FileBytes(path).value_or(""));
+    EXPECT_EQ(reading.fault, RtfFault::kNone);
+    return reading.document;
+  }
+  static const CharFormat& FormatAt(const RtfDocument& document, std::wstring_view word) {
+    const std::size_t at = document.text.find(word);
+    EXPECT_NE(at, std::wstring::npos) << Utf8FromWide(word);
+    const auto run = std::ranges::upper_bound(document.runs, at, {}, &RtfRun::begin);
+    return document.char_formats[std::prev(run)->format];
+  }
+  static const ParagraphFormat& ParagraphAt(const RtfDocument& document, std::wstring_view word) {
+    const std::size_t at = document.text.find(word);
+    EXPECT_NE(at, std::wstring::npos) << Utf8FromWide(word);
+    const auto paragraph =
+        std::ranges::upper_bound(document.paragraphs, at, {}, &RtfParagraph::begin);
+    return document.paragraph_formats[std::prev(paragraph)->format];
+  }
+  std::wstring Title() { return Text(Control(form_, lblNotes)); }
+  std::wstring Content() { return Text(editor_); }
+
+  HWND form_ = nullptr;
+  HWND editor_ = nullptr;
+};
+
+TEST_F(Notes, WhatIsTypedAndFormattedByKeysIsInTheFile) {
+  Start();
+  EXPECT_EQ(Title(), L"Tavrin 1");
+  EXPECT_EQ(Text(Control(form_, lblCHARS)), L"0 words (0 chars). ");
+  EXPECT_EQ(Text(Control(form_, lblLINESTAT)), L"1 of 1 line. ");
+  Chord({VK_CONTROL, VK_MENU, '1'});
+  Type(L"Title\n");
+  Chord({VK_CONTROL, VK_MENU, '7'});
+  Type(L"plain ");
+  Chord({VK_CONTROL, 'B'});
+  Type(L"heavy ");
+  Chord({VK_CONTROL, 'B'});
+  Chord({VK_CONTROL, 'I'});
+  Type(L"slanted ");
+  Chord({VK_CONTROL, 'I'});
+  Chord({VK_CONTROL, 'U'});
+  Type(L"lined ");
+  Chord({VK_CONTROL, 'U'});
+  Chord({VK_CONTROL, VK_OEM_PLUS});
+  Type(L"up ");
+  Chord({VK_CONTROL, VK_SHIFT, VK_OEM_PLUS});
+  Type(L"down ");
+  Chord({VK_CONTROL, VK_SPACE});
+  Type(L"cleared \u0142\u011f\u03c9\n");
+  Chord({VK_CONTROL, 'R'});
+  Type(L"right\n");
+  Chord({VK_CONTROL, 'E'});
+  Type(L"centre\n");
+  Chord({VK_CONTROL, 'J'});
+  Type(L"both\n");
+  Chord({VK_CONTROL, 'L'});
+  Chord({VK_CONTROL, VK_RETURN});
+  Type(L"bullet\n");
+  Chord({VK_CONTROL, VK_RETURN});
+  Chord({VK_CONTROL, 'M'});
+  Chord({VK_CONTROL, '3'});
+  Type(L"spaced");
+  EXPECT_SOON_EQ(Text(Control(form_, lblLINESTAT)), L"7 of 7 lines. ");
+  Chord({VK_CONTROL, 'S'});
+  const RtfDocument note = Saved(OnlyNote());
+  EXPECT_EQ(note.text,
+            L"Title\rplain heavy slanted lined up down cleared \u0142\u011f\u03c9\rright\rcentre\r"
+            L"both\rbullet\rspaced");
+  EXPECT_EQ(FormatAt(note, L"Title").half_points, 36);
+  EXPECT_TRUE(FormatAt(note, L"Title").bold);
+  EXPECT_EQ(FormatAt(note, L"plain").half_points, 24);
+  EXPECT_FALSE(FormatAt(note, L"plain").bold);
+  EXPECT_TRUE(FormatAt(note, L"heavy").bold);
+  EXPECT_TRUE(FormatAt(note, L"slanted").italic);
+  EXPECT_EQ(FormatAt(note, L"lined").underline, Underline::kSingle);
+  EXPECT_GT(FormatAt(note, L"up").raised, 0);
+  EXPECT_LT(FormatAt(note, L"down").raised, 0);
+  EXPECT_EQ(FormatAt(note, L"cleared").raised, 0);
+  EXPECT_EQ(note.fonts[FormatAt(note, L"cleared").font].name, L"Times New Roman");
+  EXPECT_EQ(ParagraphAt(note, L"right").alignment, Alignment::kRight);
+  EXPECT_EQ(ParagraphAt(note, L"centre").alignment, Alignment::kCentre);
+  EXPECT_EQ(ParagraphAt(note, L"both").alignment, Alignment::kJustified);
+  EXPECT_EQ(ParagraphAt(note, L"bullet").numbering, Numbering::kBullet);
+  const ParagraphFormat& spaced = ParagraphAt(note, L"spaced");
+  EXPECT_EQ(spaced.numbering, Numbering::kNone);
+  EXPECT_EQ(spaced.first + spaced.left, 720);
+  EXPECT_EQ(spaced.line_rule, LineRule::kMultiple);
+  EXPECT_EQ(spaced.line_spacing, 23);
+}
+
+TEST_F(Notes, ClosingAsksAndAKilledProgramLosesNothing) {
+  Start();
+  Type(L"first words");
+  Chord({VK_CONTROL, 'W'});
+  HWND question = WaitForDialog(program());
+  ASSERT_TRUE(question);
+  EXPECT_EQ(Text(question), L"There Are Unsaved Changes");
+  ASSERT_TRUE(CloseDialog(question, IDCANCEL));
+  EXPECT_EQ(Content(), L"first words");
+  // Exit asks as well, and Cancel stops it.
+  ASSERT_TRUE(ChooseShared(program(), L"mnuDCEXIT"));
+  question = WaitForDialog(program());
+  ASSERT_TRUE(question);
+  ASSERT_TRUE(CloseDialog(question, IDCANCEL));
+  EXPECT_TRUE(program().running());
+  // A draft is there a while after the last change; killed, the note comes back as changed.
+  const std::wstring draft = Folder() + L".varnel\\Tavrin 1.RTF.draft";
+  EXPECT_SOON(FileExists(draft));
+  program().Kill();
+  Start();
+  EXPECT_EQ(Content(), L"first words");
+  Type(L"X");
+  Chord({VK_CONTROL, 'W'});
+  question = WaitForDialog(program());
+  ASSERT_TRUE(question);
+  ASSERT_TRUE(CloseDialog(question, IDNO));
+  EXPECT_SOON_EQ(Content(), L"");
+  EXPECT_EQ(Title(), L"Tavrin 2");
+  EXPECT_TRUE(Files().empty());
+  EXPECT_SOON(!FileExists(draft));
+  // Saved by the session's end, without a question.
+  Type(L"second words");
+  EXPECT_TRUE(EndSession(program()));
+  EXPECT_EQ(program().WaitForExit().value_or(0), 0u);
+}
+
+TEST_F(Notes, TheListOpensSavesRenamesAndDeletes) {
+  Start();
+  Type(L"one");
+  Chord({VK_CONTROL, 'N'});  // saves what is changed without asking
+  Type(L"two");
+  Chord({VK_CONTROL, 'S'});
+  EXPECT_SOON(Files().size() == 2);
+  HWND list = Control(form_, lvwFILES);
+  const Rect rows = RectOf(list);
+  Click({rows.left + 20, rows.top + 10});
+  EXPECT_SOON_EQ(Content(), L"one");
+  PressKey(VK_DOWN);
+  EXPECT_SOON_EQ(Content(), L"two");
+  PressKey(VK_F2);
+  Type(L"Renamed\n");
+  EXPECT_SOON(FileExists(Folder() + L"Renamed.rtf"));
+  EXPECT_EQ(Title(), L"Renamed");
+  ASSERT_TRUE(ClickOn(editor_));
+  Chord({VK_CONTROL, VK_END});
+  Type(L" more");
+  Chord({VK_CONTROL, 'S'});
+  EXPECT_SOON_EQ(Saved(Folder() + L"Renamed.rtf").text, L"two more");
+  // Others add, change and remove files: the list and the note follow.
+  ASSERT_TRUE(WriteBytes(Folder() + L"Another.txt", "plain"));
+  EXPECT_SOON(Send(list, LVM_GETITEMCOUNT) == 3);
+  ASSERT_TRUE(WriteBytes(Folder() + L"Renamed.rtf", "{\\rtf1 from outside}"));
+  EXPECT_SOON_EQ(Content(), L"from outside");
+  Type(L"mine ");
+  ASSERT_TRUE(WriteBytes(Folder() + L"Renamed.rtf", "{\\rtf1 outside again}"));
+  Chord({VK_CONTROL, 'S'});
+  HWND question = WaitForDialog(program());
+  ASSERT_TRUE(question);
+  ASSERT_TRUE(CloseDialog(question, IDNO));
+  EXPECT_EQ(Saved(Folder() + L"Renamed.rtf").text, L"outside again") << "not unasked";
+  Choose(form_, L"mnuNOTESSAVE");
+  ASSERT_TRUE(CloseDialog(WaitForDialog(program()), IDYES));
+  EXPECT_SOON_EQ(Saved(Folder() + L"Renamed.rtf").text, L"mine from outside");
+}
+
+}  // namespace
+}  // namespace varnel

@@ -1,0 +1,332 @@
+#include "widgets/notes/notes_form.h"
+
+#include <algorithm>
+
+#include "base/path.h"
+#include "resources/control_ids.h"
+#include "widgets/notes/note_settings.h"
+#include "widgets/notes/notes_folder.h"
+#include "win/file_dialogs.h"
+#include "win/hourglass.h"
+#include "win/message_box.h"
+
+namespace varnel {
+namespace {
+
+constexpr int kDraftTickMs = 500;
+constexpr int kCountRestMs = 300;
+constexpr int kNoticeMs = 15'000;
+constexpr std::size_t kImportUnits = 2048;
+
+constexpr Message kUnsavedQuestion{L"There Are Unsaved Changes",
+                                   L"Do you wish to save before you close? You may lose important "
+                                   L"changes if you proceed without saving.",
+                                   MessageKind::kSaveQuestion};
+constexpr Message kDeleteQuestion{L"Delete a note", L"Are you sure you want to delete?",
+                                  MessageKind::kPlainQuestion};
+constexpr Message kReplaceQuestion{L"Rename a note",
+                                   L"There is a note called \"%1\" already. Replace it?",
+                                   MessageKind::kQuestion};
+constexpr Message kChangedQuestion{
+    L"Save a note",
+    L"Another program has changed \"%1\" since it was opened. Write over it? What it holds now is "
+    L"kept among its earlier versions.",
+    MessageKind::kQuestion};
+
+constexpr wchar_t kImportFilter[] =
+    L"All Documents (*.rtf; *.txt)|*.rtf;*.txt|Rich Text Paper (*.rtf)|*.rtf|"
+    L"Plain Text Note (*.txt)|*.txt|All files (*.*)|*.*";
+constexpr wchar_t kExportFilter[] = L"Rich Text Paper (*.rtf)|*.rtf|Plain Text Note (*.txt)";
+
+}  // namespace
+
+NotesForm::NotesForm(Services& services, const FormEntry& entry, int index, NotesLink& link)
+    : WidgetForm(services, entry, index),
+      link_(link),
+      editor_(services.files, EditorEvents()),
+      formats_(editor_, services.settings),
+      desk_(services.files, bin_, services.clock, editor_, link.counter),
+      lvwFILES_(services.ui, *this),
+      lblNotes_(services.ui),
+      lblCHARS_(services.ui),
+      lblLINESTAT_(services.ui),
+      lblZOOM_(services.ui),
+      watch_(services.ui, [this] { SideBarRefresh(); }),
+      draft_timer_(*this, kDraftTickMs,
+                   [this] {
+                     desk_.Tend(::GetTickCount64());
+                     if (!desk_.document().modified()) draft_timer_.Stop();
+                     ShowNotice();
+                   }),
+      count_timer_(*this, kCountRestMs,
+                   [this] {
+                     count_timer_.Stop();
+                     editor_.TakeText();
+                     ShowCounts();
+                   }),
+      notice_timer_(*this, kNoticeMs, [this] {
+        notice_timer_.Stop();
+        desk_.Tell({});
+        ShowNotice();
+      }) {}
+
+NoteEditor::Events NotesForm::EditorEvents() {
+  return {.on_edit = [this] { OnEdited(); },
+          .on_select = [this] { TextStatusRefresh(); },
+          .on_notice = [this](std::wstring notice) { Tell(notice); },
+          .on_documents =
+              [this](const std::vector<std::wstring>& paths) {
+                for (const std::wstring& path : paths) DocumentOpenFile(path);
+              },
+          .on_address = [this](const std::wstring& address) { OnAddress(address); },
+          .on_zoom = [this](int notches) { OnZoom(notches); }};
+}
+
+void NotesForm::OnLoad() {
+  lblNotes_.Load(handle(), lblNotes);
+  for (const int tool : {kToolNew, kToolSave, kToolList}) {
+    constexpr std::pair<const wchar_t*, wchar_t> kFaces[] = {
+        {L"New note", L'\xE214'}, {L"Save", L'\xE215'}, {L"List of notes", L'\xE256'}};
+    const auto& [word, glyph] = kFaces[tool == kToolList ? 2 : tool];
+    buttons().Add(lablTOOLSINS + tool, word, glyph, false);
+  }
+  LoadPanels();
+  lvwFILES_.Load(handle(), lvwFILES, L"Notes", SideListKind::kDocuments);
+  editor_.Load(handle(), rtbPAGEBOX, NoteBaseFormat(services().settings));
+  lblCHARS_.Load(handle(), lblCHARS);
+  lblLINESTAT_.Load(handle(), lblLINESTAT);
+  lblZOOM_.Load(handle(), lblZOOM);
+  OpenAtStart();
+  link_.widget = this;
+}
+
+// What a run of the program left unsaved is shown first of all.
+void NotesForm::OpenAtStart() {
+  desk_.Adopt(Folder());
+  const std::wstring elsewhere = services().settings.Read(kOpenNoteFolder);
+  if (!desk_.Recover(Folder()) && (elsewhere.empty() || !desk_.Recover(elsewhere))) {
+    DocumentNew();
+  } else {
+    draft_timer_.Start();
+  }
+  link_.counter = desk_.document().number();
+  ready_ = true;
+  watch_.Watch(Folder());
+  ShowList();
+  ShowNote();
+}
+
+void NotesForm::OnUnload() {
+  RememberPlace();
+  draft_timer_.Stop();
+  count_timer_.Stop();
+  notice_timer_.Stop();
+  watch_.Watch({});
+  services().settings.Write(kOpenNoteFolder, L"");
+  link_.widget = nullptr;
+}
+
+std::wstring NotesForm::Folder() const {
+  return ReadFolder(services().settings, kNotesFolder, services().program_folder);
+}
+
+// --- starting and opening
+
+void NotesForm::DocumentNew() {
+  const bool plain = ReadNumber(services().settings, kDocumentType, -1'000'000, 1'000'000) != 0;
+  plain ? DocumentNewTXT() : DocumentNewRTF();
+}
+
+void NotesForm::StartNote(NoteType type) {
+  RememberPlace();
+  desk_.DocumentNew(type);
+  ShowNote();
+}
+
+void NotesForm::DocumentOpen() {
+  const HourglassPointer pointer;
+  const FilesChosen chosen = BrowseForFiles(
+      handle(), {.title = L"Import a Document", .filter = kImportFilter}, kImportUnits);
+  if (!handle()) return;
+  for (const std::wstring& path : chosen.paths) DocumentOpenFile(path);
+  if (chosen.too_many) Tell(L"So many files cannot be imported at once");
+}
+
+void NotesForm::DocumentOpenFile(const std::wstring& path) {
+  const HourglassPointer pointer;
+  RememberPlace();
+  desk_.DocumentOpenFile(path);
+  ShowNote();
+  ReturnToPlace();
+}
+
+void NotesForm::NoteOpenSelected() {
+  const auto rows = lvwFILES_.Selected();
+  if (!rows.empty() && rows.front() < desk_.notes().count()) {
+    DocumentOpenFile(desk_.notes().Path(rows.front()));
+  }
+}
+
+void NotesForm::RememberPlace() {
+  if (!ready_ || !desk_.current()) return;
+  const RichRange selection = editor_.edit().Selection();
+  link_.places[desk_.document().path()] = {selection.from, selection.to,
+                                           editor_.edit().ScrollPosition()};
+}
+
+void NotesForm::ReturnToPlace() {
+  const auto place = link_.places.find(desk_.document().path());
+  if (place == link_.places.end()) return;
+  editor_.edit().Select({place->second.from, place->second.to});
+  editor_.edit().SetScrollPosition(place->second.scroll);
+}
+
+// --- saving and closing
+
+bool NotesForm::SaveReplacing(FileResult result, NoteType type, const std::wstring& path) {
+  if (result == FileResult::kChanged &&
+      Ask(handle(), kChangedQuestion, {desk_.document().title()}) && handle()) {
+    result = desk_.DocumentSaveFile(type, path, OthersChanges::kReplace);
+  }
+  ShowNote();
+  return result == FileResult::kDone;
+}
+
+bool NotesForm::DocumentSaveFile(NoteType type, const std::wstring& path) {
+  return SaveReplacing(desk_.DocumentSaveFile(type, path), type, path);
+}
+
+bool NotesForm::DocumentSaveMain(NoteType type, const std::wstring& path) {
+  return services().files.FileExists(path) ? DocumentSaveFile(type, path) : DocumentSaveAsNew();
+}
+
+bool NotesForm::DocumentSaveAsNew() {
+  const auto chosen =
+      BrowseForFileToSave(handle(), {.title = L"Export as a new file", .filter = kExportFilter});
+  if (!chosen || !handle()) return false;
+  const NoteExport meant = NoteExportOf(chosen->path, chosen->filter_index);
+  const bool saved = desk_.Export(meant) == FileResult::kDone;
+  ShowNote();
+  return saved;
+}
+
+bool NotesForm::MayClose() {
+  dropping_ = false;
+  if (!desk_.document().modified()) return true;
+  const Answer answer = AskForAnswer(handle(), kUnsavedQuestion);
+  if (!handle()) return false;
+  dropping_ = answer == Answer::kNo;
+  if (answer != Answer::kYes) return dropping_;
+  return DocumentSaveMain(desk_.document().type(), desk_.document().path());
+}
+
+Answer NotesForm::DocumentClose() {
+  if (!MayClose()) return Answer::kCancel;
+  const bool dropped = std::exchange(dropping_, false);
+  desk_.DropChanges();
+  DocumentNew();
+  return dropped ? Answer::kNo : Answer::kYes;
+}
+
+void NotesForm::SaveState(SaveReason reason) {
+  WidgetForm::SaveState(reason);
+  if (dropping_ && reason == SaveReason::kClose) {
+    desk_.DropChanges();
+  } else {
+    desk_.KeepDraft(::GetTickCount64());
+  }
+}
+
+void NotesForm::DocumentPrint() {
+  services().program.OpenDialog(L"frmNOTpp");
+}
+
+// --- the list
+
+void NotesForm::NoteDelete() {
+  const auto rows = lvwFILES_.Selected();
+  if (rows.empty() || !Ask(handle(), kDeleteQuestion) || !handle()) return;
+  const auto next = desk_.NoteDelete(rows.front());
+  ShowList();
+  lvwFILES_.SelectNone();
+  if (next) lvwFILES_.Select(*next);
+  ShowNotice();
+}
+
+void NotesForm::NOTERenameShow() {
+  auto rows = lvwFILES_.Selected();
+  if (rows.empty() && desk_.current()) rows.push_back(*desk_.current());
+  if (rows.empty()) {
+    Tell(L"Save the note first: then it has a name to change");
+  } else {
+    lvwFILES_.Rename(rows.front());
+  }
+}
+
+void NotesForm::OnRowRenamed(std::size_t row, const std::wstring& text) {
+  if (row >= desk_.notes().count()) return;
+  RenameResult result = desk_.Rename(row, text, NameClash::kAsk);
+  if (result == RenameResult::kClash && Ask(handle(), kReplaceQuestion, {text}) && handle()) {
+    result = desk_.Rename(row, text, NameClash::kReplace);
+  }
+  ShowNote();
+}
+
+void NotesForm::OnRowChosen(std::size_t row) {
+  if (row >= desk_.notes().count()) return;
+  // The note that is shown already keeps its caret and its steps to undo.
+  if (desk_.current() == row) return;
+  lvwFILES_.Select(row);
+  NoteOpenSelected();
+}
+
+void NotesForm::SideBarRefresh() {
+  const auto rows = lvwFILES_.Selected();
+  const bool known = !rows.empty() && rows.front() < desk_.notes().count();
+  const std::wstring selected = known ? desk_.notes().Name(rows.front()) : std::wstring();
+  if (desk_.SideBarRefresh()) ShowNote();
+  ShowList(selected);
+  ShowNotice();
+  if (desk_.document().modified()) draft_timer_.Start();
+}
+
+void NotesForm::FolderChanged() {
+  desk_.Adopt(Folder());
+  watch_.Watch(Folder());
+  ShowNote();
+}
+
+void NotesForm::RestoreVersion(const DocumentVersion& version) {
+  desk_.Restore(version);
+  ShowNote();
+}
+
+void NotesForm::NotePropsRefresh() {
+  editor_.SetBase(NoteBaseFormat(services().settings));
+  TextStatusRefresh();
+}
+
+// --- what the user does in the text
+
+void NotesForm::OnEdited() {
+  dropping_ = false;
+  const bool was_modified = desk_.document().modified();
+  desk_.NoteChange(::GetTickCount64());
+  if (!draft_timer_.enabled()) draft_timer_.Start();
+  if (!was_modified) {
+    buttons().Repaint(lablTOOLSINS + kToolSave);
+    if (!desk_.current()) {
+      const std::wstring& path = desk_.document().path();
+      const std::size_t cut = path.rfind(L'\\');
+      services().settings.Write(kOpenNoteFolder,
+                                cut == std::wstring::npos ? L"" : path.substr(0, cut));
+    }
+  }
+  if (editor_.text_is_old()) {
+    count_timer_.Stop();
+    count_timer_.Start();
+  }
+  ShowCounts();
+}
+
+}  // namespace varnel

@@ -1,0 +1,206 @@
+// The notes widget.
+#pragma once
+
+#include <array>
+#include <memory>
+#include <span>
+
+#include "frame/bar_label_win.h"
+#include "frame/side_list_win.h"
+#include "frame/widget_form.h"
+#include "widgets/notes/note_desk.h"
+#include "widgets/notes/note_editor_win.h"
+#include "widgets/notes/note_formats_win.h"
+#include "widgets/notes/note_panel_win.h"
+#include "widgets/notes/notes_layout.h"
+#include "widgets/notes/notes_link.h"
+#include "win/folder_watch.h"
+#include "win/message_box.h"
+#include "win/system_recycle_bin.h"
+
+namespace varnel {
+
+class NotesForm : public WidgetForm,  // frmNOTwg
+                  private SideListOwner,
+                  private NotePanelHost,
+                  private NotesWidget {
+ public:
+  NotesForm(Services& services, const FormEntry& entry, int index, NotesLink& link);
+
+  // --- documents
+  void DocumentNew();
+  void DocumentNewRTF() { StartNote(NoteType::kRtf); }
+  void DocumentNewTXT() { StartNote(NoteType::kTxt); }
+  void DocumentOpen();
+  void DocumentOpenFile(const std::wstring& path);
+  // False when the user cancelled or it could not be saved.
+  bool DocumentSaveMain(NoteType type, const std::wstring& path);
+  bool DocumentSaveFile(NoteType type, const std::wstring& path);
+  bool DocumentSaveAsNew();
+  Answer DocumentClose();
+  void DocumentPrint();
+  void NoteOpenSelected();
+  void NoteDelete();
+  void NOTERenameShow();
+  void SideBarRefresh();
+  void NotePropsRefresh() override;
+
+  // --- the text
+  void TextStatusRefresh();
+  void TextUndo() { editor_.edit().Undo(); }
+  void TextRedo() { editor_.edit().Redo(); }
+  void TextCut();
+  void TextCopy();
+  void TextPaste() { editor_.Paste(); }
+  void TextPastePlain() { editor_.PastePlain(); }
+  void TextDelete() { editor_.edit().Replace(L""); }
+  void TextSelectAll() { editor_.edit().SelectAll(); }
+  void TextBoldSet() { Format(&NoteFormats::TextBoldSet); }
+  void TextItalicSet() { Format(&NoteFormats::TextItalicSet); }
+  void TextUnderlineSet() { Format(&NoteFormats::TextUnderlineSet); }
+  void TextBullets() { Format(&NoteFormats::TextBullets); }
+  void TextIndentIncr() { Format(&NoteFormats::TextIndentIncr); }
+  void TextIndentDecr() { Format(&NoteFormats::TextIndentDecr); }
+  void TextFormatClear() { Format(&NoteFormats::TextFormatClear); }
+  void TextAlignmentSet(int option) { Format(&NoteFormats::TextAlignmentSet, option); }
+  void TextFontScriptSet(int index) { Format(&NoteFormats::TextFontScriptSet, index); }
+  void QuickStyleSet(int index) { Format(&NoteFormats::QuickStyleSet, index); }
+  void NamedSpacingSet(int named);
+
+  bool MayClose() override;
+  void SaveState(SaveReason reason) override;
+
+ private:
+  struct Action;
+  template <class Run>
+  struct KeyAction;
+  enum class Scope { kAnywhere, kEditor, kList };  // where the focus has to be
+
+  void OnLoad() override;
+  void OnUnload() override;
+  void LayOutPanel(const Rect& panel) override;
+  void RefreshContent() override;
+  void PaintPanel(Surface& surface, const Rect& panel) override;
+  void DrawPanelButton(const ButtonPainting& painting) override;
+  void OnControl(int id, int code) override;
+  std::vector<MenuItem> MenuGroup() const override;
+  bool RunOwnCommand(int id) override;
+  bool OnKey(const MSG& message) override;
+  LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
+
+  std::wstring RowText(std::size_t row) const override;
+  void PaintRow(Surface& surface, const SideRow& row) override;
+  void OnRowChosen(std::size_t row) override;
+  void OnRowRenamed(std::size_t row, const std::wstring& text) override;
+
+  HWND PanelParent() const override { return handle(); }
+  int PanelDpi() const override { return dpi(); }
+  TextButtons& PanelButtons() override { return buttons(); }
+  TextStyle PanelText() const override;
+  HFONT PanelFont() override;
+  NoteEditor& Editor() override { return editor_; }
+  NoteFormats& Formats() override { return formats_; }
+  Services& PanelServices() const override { return services(); }
+  void Tell(const std::wstring& notice) override;
+  void AfterCommand() override;
+
+  void FolderChanged() override;
+  std::vector<DocumentVersion> NoteVersions() const override { return desk_.Versions(); }
+  void RestoreVersion(const DocumentVersion& version) override;
+
+  NoteEditor::Events EditorEvents();
+  std::wstring Folder() const;
+  void StartNote(NoteType type);
+  void OnEdited();
+  void OnAddress(const std::wstring& address);
+  void OnZoom(int notches);
+  void RememberPlace();
+  void ReturnToPlace();
+  // After another note was taken up.
+  void ShowNote();
+  void ShowList(std::wstring_view selected = {});
+  void ShowNotice();
+  void ShowCounts();
+  void OpenAtStart();
+  bool SaveReplacing(FileResult result, NoteType type, const std::wstring& path);
+
+  // --- the tool strip and its panels
+  static constexpr int kNoPanel = -1;
+  void LoadPanels();
+  NotePanel* OpenPanel() const;
+  void OnTool(int tool);
+  void ClosePanel();
+  void ShowPanel(int tool);
+  void PlaceTools(const Rect& panel);
+  void PlacePanel(const Rect& panel);
+  void PlaceList(const Rect& panel);
+  void PlaceStrip();
+  bool ToolIsOn(int tool) const;
+  Colour PaperColour() const;
+
+  // --- commands
+  static std::span<const Action> NoteActions();
+  static std::span<const Action> TextActions();
+  std::vector<MenuItem> ItemsOf(std::span<const Action> actions) const;
+  void ShowEditorMenu(LPARAM position);
+  bool InScope(Scope scope) const;
+  template <class Keys, class Run>
+  bool RunFrom(const Keys& keys, WORD key, int held, Run run);
+  bool RunPlainKey(WORD key, int held);
+  bool RunNumberedKey(WORD key, int held);
+  bool RunKey(WORD key);
+  template <class Command, class... Arguments>
+  void Format(Command command, Arguments... arguments) {
+    (formats_.*command)(arguments...);
+    Formatted();
+  }
+  void Formatted();
+  void Save() { DocumentSaveFile(desk_.document().type(), desk_.document().path()); }
+  void Export() { DocumentSaveAsNew(); }
+  void CloseNote() { DocumentClose(); }
+  void RefreshAll();
+  void Properties();
+  void ShowVersions();
+  void ShowCountsInStrip();
+  void ToggleList();
+  void ToggleOnTop() { SetOnTop(!on_top()); }
+  void DoNothing() {}
+  bool HasRow() const { return !lvwFILES_.Selected().empty(); }
+  bool HasVersions() const { return !desk_.Versions().empty(); }
+  bool CanPrint() const;
+  bool ListWanted() const { return list_wanted_; }
+  bool OnTop() const { return on_top(); }
+  bool CanUndo() const { return editor_.edit().CanUndo(); }
+  bool CanRedo() const { return editor_.edit().CanRedo(); }
+  bool HasSelection() const { return !editor_.edit().Selection().empty(); }
+  bool Rich() const { return editor_.rich(); }
+  bool Bold() const { return formats_.characters().bold.value_or(false); }
+  bool Italic() const { return formats_.characters().italic.value_or(false); }
+  bool Underlined() const { return formats_.characters().underline.value_or(false); }
+  bool Bulleted() const;
+
+  NotesLink& link_;
+  SystemRecycleBin bin_;
+  NoteEditor editor_;
+  NoteFormats formats_;
+  NoteDesk desk_;
+  bool dropping_ = false;  // the user wants the changes to go with the form
+  bool list_wanted_ = true;
+  bool ready_ = false;                                         // the first note is there
+  std::array<std::unique_ptr<NotePanel>, kToolCount> panels_;  // by the tool that opens them
+  int open_panel_ = kNoPanel;                                  // a tool
+  NotesLayout places_;
+  UniqueFont panel_font_;
+  int panel_font_dpi_ = 0;
+  SideList lvwFILES_;
+  BarLabel lblNotes_;
+  ThemedLabel lblCHARS_;
+  ThemedLabel lblLINESTAT_;
+  ThemedLabel lblZOOM_;
+  FolderWatch watch_;
+  Timer draft_timer_;
+  Timer count_timer_;
+  Timer notice_timer_;
+};
+
+}  // namespace varnel

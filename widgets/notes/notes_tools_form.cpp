@@ -1,0 +1,183 @@
+// The part of the notes' form that works its tools and their panels, and runs the commands of the
+// text.
+#include <algorithm>
+
+#include "resources/control_ids.h"
+#include "widgets/notes/note_spacing.h"
+#include "widgets/notes/notes_form.h"
+#include "win/web_page.h"
+
+namespace varnel {
+namespace {
+
+constexpr int kZoomStep = 10;
+constexpr int kLeastZoom = 20;
+constexpr int kMostZoom = 500;
+
+}  // namespace
+
+LRESULT NotesForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+  switch (message) {
+    case WM_NOTIFY: {
+      auto& header = *reinterpret_cast<NMHDR*>(lparam);
+      if (header.idFrom == lvwFILES) return lvwFILES_.OnNotify(header);
+      if (header.idFrom == rtbPAGEBOX) return editor_.edit().OnNotify(header);
+      return 0;
+    }
+    case WM_CONTEXTMENU:
+      if (reinterpret_cast<HWND>(wparam) != editor_.handle()) break;
+      ShowEditorMenu(lparam);
+      return 0;
+    case WM_SETFOCUS:
+      WidgetForm::OnMessage(message, wparam, lparam);
+      if (::GetFocus() == handle()) ::SetFocus(editor_.handle());
+      return 0;
+    default:
+      break;
+  }
+  return WidgetForm::OnMessage(message, wparam, lparam);
+}
+
+// --- tools and their panels
+
+void NotesForm::OnControl(int id, int code) {
+  if (id == rtbPAGEBOX) {
+    editor_.edit().OnCommand(code);
+    return;
+  }
+  const int tool = id - lablTOOLSINS;
+  if (tool >= 0 && tool < kToolCount) {
+    if (code == BN_CLICKED) OnTool(tool);
+    return;
+  }
+  if (NotePanel* open = OpenPanel()) open->OnControl(id, code);
+}
+
+NotePanel* NotesForm::OpenPanel() const {
+  return open_panel_ == kNoPanel ? nullptr : panels_[static_cast<std::size_t>(open_panel_)].get();
+}
+
+void NotesForm::OnTool(int tool) {
+  if (tool == kToolNew) {
+    DocumentNew();
+  } else if (tool == kToolSave) {
+    Save();
+  } else if (tool == kToolList) {
+    ToggleList();
+  } else if (tool == open_panel_) {
+    ClosePanel();
+  } else {
+    ShowPanel(tool);
+  }
+}
+
+void NotesForm::ShowPanel(int tool) {
+  NotePanel* panel = panels_[static_cast<std::size_t>(tool)].get();
+  if (!panel || (!editor_.rich() && !panel->ForPlainText())) return;
+  if (tool != open_panel_) {
+    open_panel_ = tool;
+    panel->OnOpened();
+    Form_Resize();
+    panel->Refresh();
+    for (int i = 0; i < kToolCount; ++i) buttons().Repaint(lablTOOLSINS + i);
+  }
+  if (places_.open_panel.empty()) {
+    Tell(L"There is no room for the tools: the widget has to be larger");
+  } else {
+    panel->TakeFocus();
+  }
+}
+
+void NotesForm::ClosePanel() {
+  const NotePanel* panel = OpenPanel();
+  if (!panel) return;
+  const bool had_focus = panel->Has(::GetFocus());
+  open_panel_ = kNoPanel;
+  Form_Resize();
+  for (int i = 0; i < kToolCount; ++i) buttons().Repaint(lablTOOLSINS + i);
+  if (had_focus) ::SetFocus(editor_.handle());
+}
+
+void NotesForm::ToggleList() {
+  list_wanted_ = !list_wanted_;
+  buttons().Repaint(lablTOOLSINS + kToolList);
+  Form_Resize();
+}
+
+void NotesForm::AfterCommand() {
+  Formatted();
+  ::SetFocus(editor_.handle());
+}
+
+// --- the commands of the text
+
+// A command of formats was done.
+void NotesForm::Formatted() {
+  if (!editor_.rich()) return;
+  OnEdited();
+  TextStatusRefresh();
+}
+
+void NotesForm::NamedSpacingSet(int named) {
+  const NamedSpacing& spacing = kNamedSpacings.at(static_cast<std::size_t>(named));
+  const RichParagraph now = formats_.paragraph();
+  formats_.TextLineSpacingSet(spacing.rule, spacing.line, now.space_before.value_or(0) / 50.0,
+                              now.space_after.value_or(0) / 50.0);
+  Formatted();
+}
+
+void NotesForm::TextCut() {
+  ::SendMessageW(editor_.handle(), WM_CUT, 0, 0);
+}
+
+void NotesForm::TextCopy() {
+  ::SendMessageW(editor_.handle(), WM_COPY, 0, 0);
+}
+
+bool NotesForm::Bulleted() const {
+  return formats_.paragraph().numbering == RichNumbering::kBullets;
+}
+
+bool NotesForm::CanPrint() const {
+  return services().program.HasDialog(L"frmNOTpp");
+}
+
+void NotesForm::RefreshAll() {
+  SideBarRefresh();
+  ::InvalidateRect(editor_.handle(), nullptr, TRUE);
+}
+
+// --- the rest
+
+void NotesForm::Properties() {
+  services().program.OpenDialog(L"frmNOTpr");
+}
+
+void NotesForm::ShowVersions() {
+  services().program.OpenDialog(L"frmNOTvr");
+}
+
+void NotesForm::ShowCountsInStrip() {
+  editor_.TakeText();
+  desk_.Tell({});
+  ShowCounts();
+  ShowNotice();
+}
+
+void NotesForm::OnAddress(const std::wstring& address) {
+  OpenWebPage(handle(), address);
+}
+
+void NotesForm::OnZoom(int notches) {
+  RichEdit& edit = editor_.edit();
+  edit.SetZoom(std::clamp(edit.Zoom() + notches * kZoomStep, kLeastZoom, kMostZoom));
+  ShowNotice();
+}
+
+std::wstring NotesForm::RowText(std::size_t row) const {
+  return row < desk_.notes().count() ? desk_.notes().Title(row) : std::wstring();
+}
+
+void NotesForm::LoadPanels() {}
+
+}  // namespace varnel
