@@ -10,6 +10,7 @@
 #include "widgets/boards/whiteboard_form.h"
 #include "widgets/boards/whiteboard_text_dialog.h"
 #include "widgets/calculator/calculator_form.h"
+#include "widgets/notes/notes_dialog.h"
 #include "widgets/notes/notes_folder.h"
 #include "widgets/notes/notes_form.h"
 #include "widgets/notes/spell_service_win.h"
@@ -69,6 +70,7 @@ void AddNotes(Catalogue& catalogue) {
   catalogue.AddFolder(kNotesFolder);
   catalogue.AddService<SpellService>();
   catalogue.AddWidget<NotesForm>(3, notes);
+  catalogue.AddDialog<NotesDialog>(L"frmNOTpr", notes);
 }
 
 constexpr Family kFamilies[] = {AddProgram, AddTime,   AddCalculator,

@@ -10,6 +10,8 @@
 #include "resources/control_ids.h"
 #include "tests/rig/scene.h"
 #include "widgets/notes/rtf_reader.h"
+#include "win/com.h"
+#include "win/pictures.h"
 
 namespace varnel {
 namespace {
@@ -32,7 +34,9 @@ class Notes : public Scene {
   std::wstring Folder() { return root().folder() + L"\\tavrin\\"; }
   std::vector<std::wstring> Files() {
     auto files = FilesBelow(Folder());
-    std::erase_if(files, [](const auto& name) { return name.starts_with(L".varnel"); });
+    std::erase_if(files, [](const auto& name) {
+      return name.starts_with(L".varnel") || name.ends_with(L".new");
+    });
     return files;
   }
   // The one note that has been saved.
@@ -58,9 +62,44 @@ class Notes : public Scene {
         std::ranges::upper_bound(document.paragraphs, at, {}, &RtfParagraph::begin);
     return document.paragraph_formats[std::prev(paragraph)->format];
   }
+  static void TypeEveryFormat() {
+    Chord({VK_CONTROL, VK_MENU, '1'});
+    Type(L"Title\n");
+    Chord({VK_CONTROL, VK_MENU, '7'});
+    Type(L"plain ");
+    Chord({VK_CONTROL, 'B'});
+    Type(L"heavy ");
+    Chord({VK_CONTROL, 'B'});
+    Chord({VK_CONTROL, 'I'});
+    Type(L"slanted ");
+    Chord({VK_CONTROL, 'I'});
+    Chord({VK_CONTROL, 'U'});
+    Type(L"lined ");
+    Chord({VK_CONTROL, 'U'});
+    Chord({VK_CONTROL, VK_OEM_PLUS});
+    Type(L"up ");
+    Chord({VK_CONTROL, VK_SHIFT, VK_OEM_PLUS});
+    Type(L"down ");
+    Chord({VK_CONTROL, VK_SPACE});
+    Type(L"cleared \u0142\u011f\u03c9\n");
+    Chord({VK_CONTROL, 'R'});
+    Type(L"right\n");
+    Chord({VK_CONTROL, 'E'});
+    Type(L"centre\n");
+    Chord({VK_CONTROL, 'J'});
+    Type(L"both\n");
+    Chord({VK_CONTROL, 'L'});
+    Chord({VK_CONTROL, VK_RETURN});
+    Type(L"bullet\n");
+    Chord({VK_CONTROL, VK_RETURN});
+    Chord({VK_CONTROL, 'M'});
+    Chord({VK_CONTROL, '3'});
+    Type(L"spaced");
+  }
   std::wstring Title() { return Text(Control(form_, lblNotes)); }
   std::wstring Content() { return Text(editor_); }
 
+  ComApartment apartment_;
   HWND form_ = nullptr;
   HWND editor_ = nullptr;
 };
@@ -70,38 +109,7 @@ TEST_F(Notes, WhatIsTypedAndFormattedByKeysIsInTheFile) {
   EXPECT_EQ(Title(), L"Tavrin 1");
   EXPECT_EQ(Text(Control(form_, lblCHARS)), L"0 words (0 chars). ");
   EXPECT_EQ(Text(Control(form_, lblLINESTAT)), L"1 of 1 line. ");
-  Chord({VK_CONTROL, VK_MENU, '1'});
-  Type(L"Title\n");
-  Chord({VK_CONTROL, VK_MENU, '7'});
-  Type(L"plain ");
-  Chord({VK_CONTROL, 'B'});
-  Type(L"heavy ");
-  Chord({VK_CONTROL, 'B'});
-  Chord({VK_CONTROL, 'I'});
-  Type(L"slanted ");
-  Chord({VK_CONTROL, 'I'});
-  Chord({VK_CONTROL, 'U'});
-  Type(L"lined ");
-  Chord({VK_CONTROL, 'U'});
-  Chord({VK_CONTROL, VK_OEM_PLUS});
-  Type(L"up ");
-  Chord({VK_CONTROL, VK_SHIFT, VK_OEM_PLUS});
-  Type(L"down ");
-  Chord({VK_CONTROL, VK_SPACE});
-  Type(L"cleared \u0142\u011f\u03c9\n");
-  Chord({VK_CONTROL, 'R'});
-  Type(L"right\n");
-  Chord({VK_CONTROL, 'E'});
-  Type(L"centre\n");
-  Chord({VK_CONTROL, 'J'});
-  Type(L"both\n");
-  Chord({VK_CONTROL, 'L'});
-  Chord({VK_CONTROL, VK_RETURN});
-  Type(L"bullet\n");
-  Chord({VK_CONTROL, VK_RETURN});
-  Chord({VK_CONTROL, 'M'});
-  Chord({VK_CONTROL, '3'});
-  Type(L"spaced");
+  TypeEveryFormat();
   EXPECT_SOON_EQ(Text(Control(form_, lblLINESTAT)), L"7 of 7 lines. ");
   Chord({VK_CONTROL, 'S'});
   const RtfDocument note = Saved(OnlyNote());
@@ -128,6 +136,77 @@ TEST_F(Notes, WhatIsTypedAndFormattedByKeysIsInTheFile) {
   EXPECT_EQ(spaced.first + spaced.left, 720);
   EXPECT_EQ(spaced.line_rule, LineRule::kMultiple);
   EXPECT_EQ(spaced.line_spacing, 23);
+}
+
+TEST_F(Notes, PanelsFormatAndPutIn) {
+  const std::wstring pictures = root().folder() + L"\\samples\\";
+  // Two pixels, which no codec may change.
+  constexpr char kBmp[] =
+      "BM\x3E\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\2\0\0\0\1\0\0\0\1\0\x18\0\0\0\0\0\x08\0\0\0"
+      "\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\x01\x02\x03\xFD\xFE\xFF\0\0";
+  ASSERT_TRUE(WriteBytes(pictures + L"dots.bmp", {kBmp, 62}));
+  ASSERT_TRUE(WriteBytes(pictures + L"part.rtf", "{\\rtf1 {\\b put} in}"));
+  for (const wchar_t* name : {L"Text-Folder-Loc", L"Picture-Folder-Loc"}) {
+    root().settings().SetText(L"frmNOTwg\\Details", name, pictures);
+  }
+  Start();
+  PressKey(VK_F2);
+  EXPECT_SOON(IsShown(Control(form_, lstFONTSIZE)));
+  ASSERT_TRUE(Select(Control(form_, lstFONTSIZE), L"20"));
+  ASSERT_TRUE(ClickOn(Control(form_, chkBOLD)));
+  EXPECT_SOON(FocusedWindow() == editor_);
+  Type(L"big ");
+  PressKey(VK_F4);
+  EXPECT_SOON(IsShown(Control(form_, cboRULES)) && !IsShown(Control(form_, chkBOLD)));
+  ASSERT_TRUE(Select(Control(form_, cboRULES), L"1.15 Spacing"));
+  ASSERT_TRUE(ClickOn(Control(form_, optALIGN + 2)));
+  EXPECT_SOON_EQ(Selected(Control(form_, cboRULES)), 5);
+  EXPECT_EQ(Text(Control(form_, cboLINCUST)), L"1.1") << "as it reads back";
+  PressKey(VK_F11);
+  EXPECT_SOON(IsShown(Control(form_, btnINSPICTURE)));
+  ASSERT_TRUE(ClickOn(Control(form_, btnINSPICTURE)));
+  EXPECT_SOON(FocusedWindow() == editor_);
+  PressKey(VK_F9);
+  EXPECT_SOON(IsShown(Control(form_, btnTXTINS)));
+  ASSERT_TRUE(ClickOn(Control(form_, btnTXTINS)));
+  Choose(form_, L"mnuNOTESSAVE");
+  const std::wstring path = OnlyNote();
+  const RtfDocument note = Saved(path);
+  EXPECT_EQ(note.text, std::wstring(L"big ") + kObject + L"put in");
+  EXPECT_EQ(FormatAt(note, L"big").half_points, 40);
+  EXPECT_TRUE(FormatAt(note, L"big").bold);
+  EXPECT_TRUE(FormatAt(note, L"put").bold);
+  EXPECT_EQ(ParagraphAt(note, L"big").alignment, Alignment::kCentre);
+  ASSERT_EQ(note.pictures.size(), 1u);
+  const Image pixels = DecodePicture(note.pictures[0].bytes).image;
+  ASSERT_EQ(pixels.width(), 2);
+  EXPECT_EQ(pixels.At(0, 0), 0xFF030201u);
+  EXPECT_EQ(pixels.At(1, 0), 0xFFFFFEFDu);
+  // Opened, edited and saved again, everything is still there.
+  Chord({VK_CONTROL, 'N'});
+  EXPECT_SOON_EQ(Title(), L"Tavrin 2");
+  const Rect rows = RectOf(Control(form_, lvwFILES));
+  Click({rows.left + 20, rows.top + 10});
+  EXPECT_SOON(Content().starts_with(L"big"));
+  ASSERT_TRUE(ClickOn(editor_));
+  Chord({VK_CONTROL, VK_END});
+  Type(L"!");
+  Choose(form_, L"mnuNOTESSAVE");
+  EXPECT_SOON(Saved(path).text.ends_with(L"!"));
+  const RtfDocument again = Saved(path);
+  ASSERT_EQ(again.pictures.size(), 1u);
+  EXPECT_EQ(again.pictures[0].bytes, note.pictures[0].bytes);
+  EXPECT_EQ(ParagraphAt(again, L"big").line_spacing, 23);
+}
+
+TEST_F(Notes, PlainTextHasNoFormats) {
+  Start();
+  PressKey(VK_F2);
+  EXPECT_SOON(IsShown(Control(form_, chkBOLD)));
+  Choose(form_, L"mnuNOTESNEWTEXT");
+  EXPECT_SOON_EQ(Title(), L"Notes 2");
+  EXPECT_SOON(!IsShown(Control(form_, chkBOLD)));
+  EXPECT_FALSE(IsEnabled(Control(form_, lablTOOLSINS + 3)));
 }
 
 TEST_F(Notes, ClosingAsksAndAKilledProgramLosesNothing) {

@@ -310,11 +310,23 @@ bool NoteEditor::InsertRtf(std::string_view rtf) {
   if (!rich()) return InsertText(safe.document.text);
   {
     const Loading loading(*this);
+    const RichParagraph paragraph = edit_.SelectionParagraph();
     const int begin = edit_.Selection().from;
     const int former = edit_.Length() - (edit_.Selection().to - begin);
     edit_.PutRtf(WriteRtf(safe.document, safe.placeholder), RichEdit::Scope::kSelection);
-    const int end = begin + edit_.Length() - former;
+    int end = begin + edit_.Length() - former;
+    // The control ends what is put in by a line end of its own.
+    if (end - begin > static_cast<int>(safe.document.text.size())) {
+      edit_.Select({end - 1, end});
+      edit_.Replace(L"");
+      --end;
+    }
     FinishRtf(safe, begin);
+    if (safe.document.paragraphs.size() == 1) {
+      // Words put into a paragraph leave it as it is.
+      edit_.Select({begin, begin});
+      edit_.SetParagraph(paragraph);
+    }
     edit_.Select({end, end});
   }
   OnChange();
@@ -328,6 +340,10 @@ bool NoteEditor::InsertText(const std::wstring& text) {
   std::erase(units, L'\0');
   edit_.Replace(units);
   return true;
+}
+
+void NoteEditor::InsertFile(const std::string& bytes) {
+  if (!InsertRtf(bytes)) InsertText(ReadText(bytes, SystemPage()).text);
 }
 
 bool NoteEditor::InsertPicture(std::optional<RtfPicture> picture) {

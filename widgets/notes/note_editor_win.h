@@ -55,6 +55,8 @@ class NoteEditor : public NoteContent {
   // where that cannot be.
   bool InsertRtf(std::string_view rtf);
   bool InsertText(const std::wstring& text);
+  // Formatted text, or plain text in whatever encoding.
+  void InsertFile(const std::string& bytes);
   bool InsertPicture(std::optional<RtfPicture> picture);
   void Paste();
   void PastePlain();

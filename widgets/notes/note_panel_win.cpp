@@ -96,7 +96,7 @@ std::wstring NotePanel::BoxText(int id, int code) const {
 
 void NotePanel::ShowInBox(int id, const std::wstring& text) const {
   HWND box = Control(id);
-  if (WindowText(box) == text && !text.empty()) return;
+  if ((WindowText(box) == text && !text.empty()) || ::IsChild(box, ::GetFocus())) return;
   const LRESULT found = text.empty()
                             ? CB_ERR
                             : ::SendMessageW(box, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),

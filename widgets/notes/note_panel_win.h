@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -29,8 +30,9 @@ class NotePanelHost {
   virtual Services& PanelServices() const = 0;
   // Says something in the strip.
   virtual void Tell(const std::wstring& notice) = 0;
-  // A command has changed formats: everything that shows them is brought up to date, and the
-  // keyboard goes back to the text.
+  // A command has changed formats: everything that shows them is brought up to date. The second
+  // gives the keyboard back to the text, too.
+  virtual void Formatted() = 0;
   virtual void AfterCommand() = 0;
 };
 
@@ -75,7 +77,8 @@ class NotePanel {
   void AddLabel(int id, const wchar_t* text, const PanelCell& cell);
   // In a box with a list, what is chosen or typed.
   std::wstring BoxText(int id, int code) const;
-  // Chooses the entry, or shows the text; nothing for an empty one.
+  // Chooses the entry, or shows the text; nothing for an empty one. A box in which the user is
+  // typing is left alone.
   void ShowInBox(int id, const std::wstring& text) const;
 
  private:

@@ -102,6 +102,7 @@ class NotesForm : public WidgetForm,  // frmNOTwg
   NoteFormats& Formats() override { return formats_; }
   Services& PanelServices() const override { return services(); }
   void Tell(const std::wstring& notice) override;
+  void Formatted() override;
   void AfterCommand() override;
 
   void FolderChanged() override;
@@ -154,7 +155,6 @@ class NotesForm : public WidgetForm,  // frmNOTwg
     (formats_.*command)(arguments...);
     Formatted();
   }
-  void Formatted();
   void Save() { DocumentSaveFile(desk_.document().type(), desk_.document().path()); }
   void Export() { DocumentSaveAsNew(); }
   void CloseNote() { DocumentClose(); }

@@ -3,8 +3,11 @@
 #include <algorithm>
 
 #include "resources/control_ids.h"
+#include "widgets/notes/fonts_panel_win.h"
+#include "widgets/notes/insert_panel_win.h"
 #include "widgets/notes/note_spacing.h"
 #include "widgets/notes/notes_form.h"
+#include "widgets/notes/paragraph_panel_win.h"
 #include "win/web_page.h"
 
 namespace varnel {
@@ -178,6 +181,17 @@ std::wstring NotesForm::RowText(std::size_t row) const {
   return row < desk_.notes().count() ? desk_.notes().Title(row) : std::wstring();
 }
 
-void NotesForm::LoadPanels() {}
+void NotesForm::LoadPanels() {
+  NotePanelHost& host = *this;
+  const auto add = [this](int tool, wchar_t glyph, std::unique_ptr<NotePanel> panel) {
+    buttons().Add(lablTOOLSINS + tool, panel->name(), glyph, false);
+    panel->Load();
+    panels_[static_cast<std::size_t>(tool)] = std::move(panel);
+  };
+  add(kToolFonts, L'\xE24D', std::make_unique<FontsPanel>(host));
+  add(kToolParagraph, L'\xE244', std::make_unique<ParagraphPanel>(host));
+  add(kToolText, L'\xE21A', std::make_unique<TextPanel>(host));
+  add(kToolPicture, L'\xE234', std::make_unique<PicturePanel>(host));
+}
 
 }  // namespace varnel
