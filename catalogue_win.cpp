@@ -68,8 +68,8 @@ void AddBoards(Catalogue& catalogue) {
 void AddNotes(Catalogue& catalogue) {
   auto& notes = catalogue.AddService<NotesLink>();
   catalogue.AddFolder(kNotesFolder);
-  catalogue.AddService<SpellService>();
-  catalogue.AddWidget<NotesForm>(3, notes);
+  auto& spelling = catalogue.AddService<SpellService>();
+  catalogue.AddWidget<NotesForm>(3, notes, spelling);
   catalogue.AddDialog<NotesDialog>(L"frmNOTpr", notes);
 }
 

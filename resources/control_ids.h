@@ -211,6 +211,32 @@
 #define lblZOOM 1805         // the zoom, or what there is to say of the last step
 // The tools: 0 new, 1 save, 2 find, 3 fonts, 4 paragraph, 5 picture, 6 text, 7 spelling, 8 list
 #define lablTOOLSINS 1810
+// its panel that finds and replaces, pfrFIND
+#define cboFINDWHAT 1900
+#define cboREPLACEWITH 1901
+#define chkMATCHCASE 1902
+#define chkWHOLEWORDS 1903
+#define btnFINDNEXT 1904
+#define btnFINDPREVIOUS 1905
+#define btnREPLACE 1906
+#define btnREPLACEALL 1907
+// its panel that checks the spelling, pfrSPELL
+#define lstSUGGESTIONS 1910
+#define txtSUGG 1911
+#define btnCHANGE 1912
+#define btnCHANGEALL 1913
+#define btnIGNORE 1914
+#define btnIGNORENOTE 1915
+#define btnINCLUDE 1916
+#define btnSPELLRCHK 1917
+#define optDICTUSA 1918
+#define optDICTUK 1919
+#define chkCUSTNOS 1920
+#define chkCUSTUPCASE 1921
+#define chkCUSTCHARS 1922
+#define lstOWNWORDS 1923
+#define btnOWNWORDS 1924
+#define btnREMOVEWORD 1925
 // its panel of fonts, pfrFONTS
 #define lstFONTNAMEFONTS 1830
 #define lstFONTSIZE 1831

@@ -26,11 +26,6 @@ class SystemPairs final : public DoubleByteReader {
   }
 };
 
-RtfOrigin Origin() {
-  static const SystemPairs pairs;
-  return {SystemCodePage(), &pairs};
-}
-
 std::wstring_view FaultNotice(RtfFault fault) {
   switch (fault) {
     case RtfFault::kNone:
@@ -48,6 +43,11 @@ std::wstring_view FaultNotice(RtfFault fault) {
 }
 
 }  // namespace
+
+RtfOrigin SystemRtfOrigin() {
+  static const SystemPairs pairs;
+  return {SystemCodePage(), &pairs};
+}
 
 NoteEditor::NoteEditor(const FileStore& files, Events events)
     : files_(files), events_(std::move(events)), edit_(ControlEvents()) {}
@@ -144,7 +144,7 @@ NoteContent::Shown NoteEditor::Show(NoteType type, const std::string& bytes) {
   type_ = type;
   form_ = {};
   if (type == NoteType::kRtf) {
-    const SafeRtfResult result = TakePicturesOut(bytes, Origin());
+    const SafeRtfResult result = TakePicturesOut(bytes, SystemRtfOrigin());
     if (result.fault == RtfFault::kNone) {
       {
         const Loading loading(*this);
@@ -195,14 +195,14 @@ std::optional<std::string> NoteEditor::Bytes(NoteType type) {
       whole->find("\\ri") != std::string::npos) {
     indents = Indents();
   }
-  return MendRtf(*whole, {text, indents, RichEdit::WritesRaisedInTwips()}, Origin());
+  return MendRtf(*whole, {text, indents, RichEdit::WritesRaisedInTwips()}, SystemRtfOrigin());
 }
 
 std::optional<std::string> NoteEditor::Whole(std::string rtf,
                                              std::span<const RichPicture> pictures) const {
   if (pictures.empty()) return rtf;
   const auto kept = pictures_.Of(pictures);
-  return kept ? PutPicturesBack(rtf, *kept, Origin()) : std::nullopt;
+  return kept ? PutPicturesBack(rtf, *kept, SystemRtfOrigin()) : std::nullopt;
 }
 
 // As the control holds them; some versions write others.
@@ -296,7 +296,7 @@ int NoteEditor::PageWidth() const {
 }
 
 bool NoteEditor::InsertRtf(std::string_view rtf) {
-  SafeRtfResult result = TakePicturesOut(rtf, Origin());
+  SafeRtfResult result = TakePicturesOut(rtf, SystemRtfOrigin());
   if (result.fault != RtfFault::kNone) return false;
   SafeRtf& safe = result.safe;
   // The ground of another program's text would stand out from this one's paper.

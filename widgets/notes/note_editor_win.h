@@ -18,6 +18,9 @@
 
 namespace varnel {
 
+// What the reader of formatted text needs to know of this system.
+RtfOrigin SystemRtfOrigin();
+
 class NoteEditor : public NoteContent {
  public:
   struct Events {

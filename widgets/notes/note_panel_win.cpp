@@ -40,6 +40,20 @@ void NotePanel::AddLabel(int id, const wchar_t* text, const PanelCell& cell) {
   labels_.push_back(std::move(label));
 }
 
+void NotePanel::AddWindow(int id, HWND window, const PanelCell& cell) {
+  ::ShowWindow(window, SW_HIDE);
+  parts_.push_back({id, window, false});
+  cells_.push_back(cell);
+}
+
+void NotePanel::DrawFace(const ButtonPainting& painting, const wchar_t* face) {
+  TextStyle style = host_.PanelText();
+  style.align = Align::kCentre;
+  style.ground = painting.colours.first;
+  style.faint = !painting.enabled;
+  PaintText(host_.PanelServices().ui, painting.surface, painting.bounds, face, style);
+}
+
 void NotePanel::Place(const Rect& box) {
   const int dpi = host_.PanelDpi();
   const std::vector<Rect> places = FlowPanel({box.width(), box.height()}, dpi, cells_);

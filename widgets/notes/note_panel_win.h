@@ -55,6 +55,12 @@ class NotePanel {
   virtual void OnOpened() {}
   // The selection or its format has changed while the panel is open.
   virtual void Refresh() {}
+  // Another note is shown; `path` is its name for as long as it is shown.
+  virtual void OnNoteShown(const std::wstring& /*path*/) {}
+  // Writes what the panel keeps beyond the form.
+  virtual void SaveState() {}
+  // Sees a key message for one of its controls first; true when it has been dealt with.
+  virtual bool OnKey(const MSG&) { return false; }
   // True when the control is one of the panel's.
   virtual bool OnControl(int id, int code) = 0;
   // Whether its button stands for what is on.
@@ -66,7 +72,7 @@ class NotePanel {
   // Gives the keyboard to the first control that is shown.
   void TakeFocus() const;
   // The control belongs to the panel.
-  bool Has(HWND control) const;
+  virtual bool Has(HWND control) const;
 
  protected:
   NotePanelHost& host() const { return host_; }
@@ -75,6 +81,10 @@ class NotePanel {
   // A drop-down list, or a box to type in with a list (CBS_DROPDOWN).
   void AddCombo(int id, DWORD style, const wchar_t* word, const PanelCell& cell);
   void AddLabel(int id, const wchar_t* text, const PanelCell& cell);
+  // A control that the panel has made itself.
+  void AddWindow(int id, HWND window, const PanelCell& cell);
+  // Writes on a button whose word is for its tooltip alone.
+  void DrawFace(const ButtonPainting& painting, const wchar_t* face);
   // In a box with a list, what is chosen or typed.
   std::wstring BoxText(int id, int code) const;
   // Chooses the entry, or shows the text; nothing for an empty one. A box in which the user is

@@ -40,12 +40,15 @@ constexpr wchar_t kExportFilter[] = L"Rich Text Paper (*.rtf)|*.rtf|Plain Text N
 
 }  // namespace
 
-NotesForm::NotesForm(Services& services, const FormEntry& entry, int index, NotesLink& link)
+NotesForm::NotesForm(Services& services, const FormEntry& entry, int index, NotesLink& link,
+                     SpellService& spelling)
     : WidgetForm(services, entry, index),
       link_(link),
       editor_(services.files, EditorEvents()),
+      edited_(editor_),
       formats_(editor_, services.settings),
       desk_(services.files, bin_, services.clock, editor_, link.counter),
+      spelling_(spelling),
       lvwFILES_(services.ui, *this),
       lblNotes_(services.ui),
       lblCHARS_(services.ui),
@@ -230,6 +233,9 @@ Answer NotesForm::DocumentClose() {
 
 void NotesForm::SaveState(SaveReason reason) {
   WidgetForm::SaveState(reason);
+  for (const auto& panel : panels_) {
+    if (panel) panel->SaveState();
+  }
   if (dropping_ && reason == SaveReason::kClose) {
     desk_.DropChanges();
   } else {

@@ -8,12 +8,15 @@
 #include "frame/bar_label_win.h"
 #include "frame/side_list_win.h"
 #include "frame/widget_form.h"
+#include "widgets/notes/editor_note_win.h"
+#include "widgets/notes/find_panel_win.h"
 #include "widgets/notes/note_desk.h"
 #include "widgets/notes/note_editor_win.h"
 #include "widgets/notes/note_formats_win.h"
 #include "widgets/notes/note_panel_win.h"
 #include "widgets/notes/notes_layout.h"
 #include "widgets/notes/notes_link.h"
+#include "widgets/notes/spell_service_win.h"
 #include "win/folder_watch.h"
 #include "win/message_box.h"
 #include "win/system_recycle_bin.h"
@@ -25,7 +28,8 @@ class NotesForm : public WidgetForm,  // frmNOTwg
                   private NotePanelHost,
                   private NotesWidget {
  public:
-  NotesForm(Services& services, const FormEntry& entry, int index, NotesLink& link);
+  NotesForm(Services& services, const FormEntry& entry, int index, NotesLink& link,
+            SpellService& spelling);
 
   // --- documents
   void DocumentNew();
@@ -47,8 +51,8 @@ class NotesForm : public WidgetForm,  // frmNOTwg
 
   // --- the text
   void TextStatusRefresh();
-  void TextUndo() { editor_.edit().Undo(); }
-  void TextRedo() { editor_.edit().Redo(); }
+  void TextUndo();
+  void TextRedo();
   void TextCut();
   void TextCopy();
   void TextPaste() { editor_.Paste(); }
@@ -128,6 +132,10 @@ class NotesForm : public WidgetForm,  // frmNOTwg
   // --- the tool strip and its panels
   static constexpr int kNoPanel = -1;
   void LoadPanels();
+  void TellPanels();
+  void OpenFind();
+  void FindNext();
+  void FindPrevious();
   NotePanel* OpenPanel() const;
   void OnTool(int tool);
   void ClosePanel();
@@ -170,8 +178,8 @@ class NotesForm : public WidgetForm,  // frmNOTwg
   bool CanPrint() const;
   bool ListWanted() const { return list_wanted_; }
   bool OnTop() const { return on_top(); }
-  bool CanUndo() const { return editor_.edit().CanUndo(); }
-  bool CanRedo() const { return editor_.edit().CanRedo(); }
+  bool CanUndo() const { return editor_.edit().CanUndo() || edited_.CanUndo(); }
+  bool CanRedo() const { return editor_.edit().CanRedo() || edited_.CanRedo(); }
   bool HasSelection() const { return !editor_.edit().Selection().empty(); }
   bool Rich() const { return editor_.rich(); }
   bool Bold() const { return formats_.characters().bold.value_or(false); }
@@ -182,13 +190,17 @@ class NotesForm : public WidgetForm,  // frmNOTwg
   NotesLink& link_;
   SystemRecycleBin bin_;
   NoteEditor editor_;
+  EditorNote edited_;  // as the panels change it
   NoteFormats formats_;
   NoteDesk desk_;
   bool dropping_ = false;  // the user wants the changes to go with the form
   bool list_wanted_ = true;
   bool ready_ = false;                                         // the first note is there
   std::array<std::unique_ptr<NotePanel>, kToolCount> panels_;  // by the tool that opens them
-  int open_panel_ = kNoPanel;                                  // a tool
+  FindPanel* pfrFIND_ = nullptr;                               // among the panels
+  SpellService& spelling_;
+  std::int32_t told_note_ = -1;  // the number of the note that the panels know of
+  int open_panel_ = kNoPanel;    // a tool
   NotesLayout places_;
   UniqueFont panel_font_;
   int panel_font_dpi_ = 0;

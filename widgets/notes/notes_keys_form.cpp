@@ -40,6 +40,13 @@ bool NotesForm::RunPlainKey(WORD key, int held) {
       {0, VK_F12, kAny, &Form::Export},
       {0, VK_DELETE, Scope::kList, &Form::NoteDelete},
       {0, VK_F2, Scope::kList, &Form::NOTERenameShow},
+      {kCtrl, 'F', kAny, &Form::OpenFind},
+      {kCtrl, 'G', kAny, &Form::OpenFind},
+      {kCtrl, 'H', kAny, &Form::OpenFind},
+      {0, VK_F3, kAny, &Form::FindNext},
+      {kShift, VK_F3, kAny, &Form::FindPrevious},
+      {kCtrl, 'Z', kText, &Form::TextUndo},
+      {kCtrl, 'Y', kText, &Form::TextRedo},
       {kCtrl, 'A', kText, &Form::TextSelectAll},
       {kCtrl, 'B', kText, &Form::TextBoldSet},
       {kCtrl, 'I', kText, &Form::TextItalicSet},
@@ -68,9 +75,6 @@ bool NotesForm::RunNumberedKey(WORD key, int held) {
       {0, VK_F9, kAny, &Form::OnTool, kToolText},
       {0, VK_F11, kAny, &Form::OnTool, kToolPicture},
       {kCtrl | kShift, 'K', kAny, &Form::OnTool, kToolSpelling},
-      {kCtrl, 'F', kAny, &Form::ShowPanel, kToolFind},
-      {kCtrl, 'G', kAny, &Form::ShowPanel, kToolFind},
-      {kCtrl, 'H', kAny, &Form::ShowPanel, kToolFind},
       {kCtrl, 'L', kText, &Form::TextAlignmentSet, 0},
       {kCtrl, 'R', kText, &Form::TextAlignmentSet, 1},
       {kCtrl, 'E', kText, &Form::TextAlignmentSet, 2},
@@ -127,6 +131,8 @@ bool NotesForm::RunKey(WORD key) {
 bool NotesForm::OnKey(const MSG& message) {
   if (lvwFILES_.renaming()) return false;
   if (message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN) {
+    NotePanel* open = OpenPanel();
+    if (open && open->Has(message.hwnd) && open->OnKey(message)) return true;
     if (RunKey(static_cast<WORD>(message.wParam))) return true;
     if (message.wParam == VK_ESCAPE && OpenPanel()) {
       ClosePanel();

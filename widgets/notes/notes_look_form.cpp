@@ -136,6 +136,7 @@ void NotesForm::ShowNote() {
   link_.counter = std::max(link_.counter, desk_.document().number());
   const NoteDocument& document = desk_.document();
   lblNotes_.SetText(document.title());
+  TellPanels();
   const bool rich = document.type() == NoteType::kRtf;
   for (const int tool : {kToolFonts, kToolParagraph, kToolPicture, kToolText}) {
     buttons().Enable(lablTOOLSINS + tool, rich);

@@ -8,6 +8,7 @@
 #include "widgets/notes/note_spacing.h"
 #include "widgets/notes/notes_form.h"
 #include "widgets/notes/paragraph_panel_win.h"
+#include "widgets/notes/spell_panel_win.h"
 #include "win/web_page.h"
 
 namespace varnel {
@@ -190,6 +191,10 @@ void NotesForm::LoadPanels() {
   };
   add(kToolFonts, L'\xE24D', std::make_unique<FontsPanel>(host));
   add(kToolParagraph, L'\xE244', std::make_unique<ParagraphPanel>(host));
+  auto find = std::make_unique<FindPanel>(host, edited_);
+  pfrFIND_ = find.get();
+  add(kToolFind, L'\xE219', std::move(find));
+  add(kToolSpelling, L'\xE24C', std::make_unique<SpellPanel>(host, edited_, spelling_.checker()));
   add(kToolText, L'\xE21A', std::make_unique<TextPanel>(host));
   add(kToolPicture, L'\xE234', std::make_unique<PicturePanel>(host));
 }
