@@ -172,6 +172,23 @@ void WriteNotes(const Program& program, HWND form) {
   WriteNote(program, form);
 }
 
+void FindInNote(const Program& program, HWND form) {
+  WriteNotes(program, form);
+  Chord({VK_CONTROL, VK_HOME});
+  Chord({VK_CONTROL, 'F'});
+  Type(L"plum\n");
+  WaitUntil([form] { return SelectedUnits(Control(form, rtbPAGEBOX)) != std::pair(0, 0); }, 3000);
+}
+
+void SpellNote(const Program& program, HWND form) {
+  WriteNotes(program, form);
+  Type(L"Serve it wramly.");
+  Chord({VK_CONTROL, VK_HOME});
+  PressKey(VK_F7);
+  PressKey(VK_RETURN);
+  WaitUntil([form] { return !Text(Control(form, txtSUGG)).empty(); }, 3000);
+}
+
 // The same with one of the tool strip's panels open.
 Preparation NotePanel(WORD key) {
   return [key](const Program& program, HWND form) {
@@ -312,6 +329,8 @@ std::vector<Subject> OtherSubjects() {
        Part::kForm,
        L"frmWTHpr"},
       {L"notes", kNotes, kDpis | kFewPresets, {}, WriteNotes},
+      {L"notes-find", kNotes, kDpis | kFewPresets, {}, FindInNote},
+      {L"notes-spelling", kNotes, kDpis | kFewPresets, {}, SpellNote},
       {L"notes-fonts", kNotes, kDpis, {}, NotePanel(VK_F2)},
       {L"notes-paragraph", kNotes, kDpis, {}, NotePanel(VK_F4)},
       {L"notes-text", kNotes, kPlain, {}, NotePanel(VK_F9)},
