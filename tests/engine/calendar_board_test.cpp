@@ -178,9 +178,9 @@ TEST_F(CalendarMonths, HolidaysComeFromTheFolder) {
   files_.files[kFolder + L"\\holidays.txt"] = "01-01 New Year\n";
   Calendar run(files_);
   EXPECT_EQ(run.calendar.holidays().NameOf({2024, 1, 1}), L"New Year");
-  files_.files[kFolder + L"\\holidays.txt"] = "01-06 Epiphany\n";
+  files_.files[kFolder + L"\\holidays.txt"] = "01-06 The Epiphany\n";
   run.calendar.Refresh();
-  EXPECT_EQ(run.calendar.holidays().NameOf({2024, 1, 6}), L"Epiphany");
+  EXPECT_EQ(run.calendar.holidays().NameOf({2024, 1, 6}), L"The Epiphany");
 }
 
 // Every day keeps its ink when the week begins with another day, or the grid stays as it was.

@@ -31,6 +31,8 @@ void CalendarBoard::Adopt(const std::wstring& folder, Month month, int first_wee
   folder_ = AddTrailingSeparator(folder);
   month_ = month;
   first_weekday_ = first_weekday;
+  holidays_ = Holidays();
+  holiday_stamp_ = kNoFile;
   ReadHolidays();
   TakeUpDrafts();
 }
@@ -128,19 +130,28 @@ bool CalendarBoard::Show(Month month) {
   return true;
 }
 
-void CalendarBoard::Refresh() {
-  ReadHolidays();
-  if (board_.BoardModified() || board_.floating() || board_.drawing()) return;
+bool CalendarBoard::Refresh() {
+  const bool new_holidays = ReadHolidays();
+  if (board_.BoardModified() || board_.floating() || board_.drawing()) return new_holidays;
   const bool renamed = MonthFile(files_, folder_, month_, words_) != file_->path();
-  if (renamed || file_->Check() == FileResult::kChanged ||
-      (file_->has_file() && file_->Check() == FileResult::kMissing)) {
-    Load();
+  const FileResult now = file_->Check();
+  if (!renamed && now != FileResult::kChanged &&
+      (now != FileResult::kMissing || !file_->has_file())) {
+    return new_holidays;
   }
+  Load();
+  return true;
 }
 
-void CalendarBoard::ReadHolidays() {
-  const FileRead read = files_.Read(folder_ + std::wstring(kHolidayFile), kMostHolidayBytes);
+bool CalendarBoard::ReadHolidays() {
+  const std::wstring path = folder_ + std::wstring(kHolidayFile);
+  const FileStamp stamp = files_.Stamp(path);
+  if (std::exchange(holiday_stamp_, stamp) == stamp) return false;
+  const FileRead read = files_.Read(path, kMostHolidayBytes);
   holidays_ = read ? Holidays(read.bytes) : Holidays();
+  // One that is locked for now is read the next time.
+  if (read.result == FileResult::kLocked) holiday_stamp_ = kNoFile;
+  return true;
 }
 
 // --- saving

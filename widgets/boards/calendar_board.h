@@ -45,8 +45,9 @@ class CalendarBoard : public BoardDocument {
   // Shows the month's file as it now is, or an empty month where there is none that can be read.
   // What is unsaved is lost.
   void Load();
-  // Reads the folder anew: a month without unsaved changes follows its file.
-  void Refresh();
+  // Reads the folder anew: a month without unsaved changes follows its file. True when there is
+  // something new to be seen.
+  bool Refresh();
   // From the next month on that is shown.
   void SetFirstWeekday(int weekday) { first_weekday_ = weekday; }
 
@@ -61,7 +62,8 @@ class CalendarBoard : public BoardDocument {
   void TakeUpDrafts();
   void TakeUpDraft(const FoundDraft& draft, Month month, bool counts);
   FileResult SaveOver(DocumentFile& file, const std::string& bytes);
-  void ReadHolidays();
+  // True when they are others than before.
+  bool ReadHolidays();
 
   FileStore& files_;
   const TimeFormatter& words_;
@@ -72,6 +74,7 @@ class CalendarBoard : public BoardDocument {
   int first_weekday_ = 0;  // as the user wants it
   int shown_weekday_ = 0;
   Holidays holidays_;
+  FileStamp holiday_stamp_;  // of their file
   std::optional<DocumentFile> file_;
   std::uint64_t noted_changes_ = 0;
 };

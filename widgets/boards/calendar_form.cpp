@@ -59,8 +59,7 @@ CalendarForm::CalendarForm(Services& services, const FormEntry& entry, int index
       lblMOUSE_(services.ui),
       watch_(services.ui,
              [this] {
-               calendar_.Refresh();
-               MonthShown();
+               if (calendar_.Refresh()) MonthShown();
              }),
       midnight_timer_(*this, kOneDayMs, [this] { OnNewDay(); }) {}
 
@@ -117,7 +116,7 @@ std::vector<BoardAction> CalendarForm::MakeActions() {
   std::ranges::move(WidthActions(), std::back_inserter(actions));
   // Printing is still to come.
   actions.push_back({{L"mnuCALPRINT", L"Print..."}, {}, 0, kPlain, {}, {}, {}, true});
-  actions.push_back({{L"mnuCALPROPS", L"Calendar properties..."},
+  actions.push_back({{L"mnuCALPROPS", L"Ca&lendar properties..."},
                      [this] { services().program.OpenDialog(L"frmCALpr"); }});
   return actions;
 }
@@ -239,7 +238,8 @@ std::wstring CalendarForm::DayText(const Date& date) const {
 }
 
 void CalendarForm::OnPointer(Point at) {
-  if (std::exchange(pointed_, grid_.CellAt(at)) != pointed_) RefreshContent();
+  const int cell = grid_.CellAt(at);
+  if (std::exchange(pointed_, cell) != cell) PlaceStripLabels();
 }
 
 // --- objects
