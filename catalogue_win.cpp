@@ -14,6 +14,7 @@
 #include "widgets/notes/notes_folder.h"
 #include "widgets/notes/notes_form.h"
 #include "widgets/notes/spell_service_win.h"
+#include "widgets/notes/versions_dialog.h"
 #include "widgets/time/alarm_dialog.h"
 #include "widgets/time/alarm_service_win.h"
 #include "widgets/time/clock_dialog.h"
@@ -71,6 +72,7 @@ void AddNotes(Catalogue& catalogue) {
   auto& spelling = catalogue.AddService<SpellService>();
   catalogue.AddWidget<NotesForm>(3, notes, spelling);
   catalogue.AddDialog<NotesDialog>(L"frmNOTpr", notes);
+  catalogue.AddDialog<VersionsDialog>(L"frmNOTvr", notes);
 }
 
 constexpr Family kFamilies[] = {AddProgram, AddTime,   AddCalculator,

@@ -209,6 +209,35 @@ TEST_F(Notes, PlainTextHasNoFormats) {
   EXPECT_FALSE(IsEnabled(Control(form_, lablTOOLSINS + 3)));
 }
 
+TEST_F(Notes, AreFoundAndGoBackToAnEarlierVersion) {
+  ASSERT_TRUE(WriteBytes(Folder() + L"Cake.rtf", "{\\rtf1 plums and flour}"));
+  ASSERT_TRUE(WriteBytes(Folder() + L"Shopping.txt", "flour"));
+  ASSERT_TRUE(WriteBytes(Folder() + L"Other.txt", "nothing"));
+  Start();
+  HWND list = Control(form_, lvwFILES);
+  EXPECT_SOON(Send(list, LVM_GETITEMCOUNT) == 3);
+  ASSERT_TRUE(ClickOn(Control(form_, txtSEARCHNOTES)));
+  Type(L"FLOUR");
+  EXPECT_SOON(Send(list, LVM_GETITEMCOUNT) == 2);
+  Type(L" plum");
+  EXPECT_SOON(Send(list, LVM_GETITEMCOUNT) == 1);
+  const Rect rows = RectOf(list);
+  Click({rows.left + 20, rows.top + 10});
+  EXPECT_SOON_EQ(Content(), L"plums and flour");
+  ASSERT_TRUE(ClickOn(editor_));
+  Chord({VK_CONTROL, 'A'});
+  Type(L"new text");
+  Choose(form_, L"mnuNOTESSAVE");
+  EXPECT_SOON(Saved(Folder() + L"Cake.rtf").text == L"new text");
+  Choose(form_, L"mnuNOTESVERSIONS");
+  HWND versions = WaitForForm(program(), L"frmNOTvr");
+  ASSERT_TRUE(versions);
+  EXPECT_EQ(Text(Control(versions, txtVERSION)), L"plums and flour");
+  Send(Control(versions, cmdRESTORE), BM_CLICK);
+  EXPECT_SOON_EQ(Content(), L"plums and flour");
+  EXPECT_SOON(Saved(Folder() + L"Cake.rtf").text == L"plums and flour");
+}
+
 TEST_F(Notes, ClosingAsksAndAKilledProgramLosesNothing) {
   Start();
   Type(L"first words");

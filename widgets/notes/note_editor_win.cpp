@@ -49,6 +49,11 @@ RtfOrigin SystemRtfOrigin() {
   return {SystemCodePage(), &pairs};
 }
 
+const SystemEncoding& SystemTextEncoding() {
+  static const SystemPage page;
+  return page;
+}
+
 NoteEditor::NoteEditor(const FileStore& files, Events events)
     : files_(files), events_(std::move(events)), edit_(ControlEvents()) {}
 
@@ -160,12 +165,12 @@ NoteContent::Shown NoteEditor::Show(NoteType type, const std::string& bytes) {
     }
     // Its very bytes are kept where it is no more than a text.
     if (result.fault != RtfFault::kNotRtf) type_ = NoteType::kTxt;
-    const TextFile file = ReadText(bytes, SystemPage());
+    const TextFile file = ReadText(bytes, SystemTextEncoding());
     form_ = file.form;
     ShowText(file.text);
     return {type_, std::wstring(FaultNotice(result.fault))};
   }
-  const TextFile file = ReadText(bytes, SystemPage());
+  const TextFile file = ReadText(bytes, SystemTextEncoding());
   form_ = file.form;
   ShowText(file.text);
   return {type, file.exact ? L"" : L"Some characters of this file cannot be kept when it is saved"};
@@ -184,7 +189,7 @@ std::wstring NoteEditor::PlainText() const {
 
 std::optional<std::string> NoteEditor::Bytes(NoteType type) {
   if (type == NoteType::kTxt) {
-    return WriteText(PlainText(), rich() ? TextForm{} : form_, SystemPage());
+    return WriteText(PlainText(), rich() ? TextForm{} : form_, SystemTextEncoding());
   }
   const std::vector<RichPicture> pictures = edit_.Pictures();
   const auto whole = Whole(edit_.Rtf(), pictures);
@@ -343,7 +348,7 @@ bool NoteEditor::InsertText(const std::wstring& text) {
 }
 
 void NoteEditor::InsertFile(const std::string& bytes) {
-  if (!InsertRtf(bytes)) InsertText(ReadText(bytes, SystemPage()).text);
+  if (!InsertRtf(bytes)) InsertText(ReadText(bytes, SystemTextEncoding()).text);
 }
 
 bool NoteEditor::InsertPicture(std::optional<RtfPicture> picture) {

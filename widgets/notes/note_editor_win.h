@@ -21,6 +21,9 @@ namespace varnel {
 // What the reader of formatted text needs to know of this system.
 RtfOrigin SystemRtfOrigin();
 
+// The system's own encoding of plain text.
+const SystemEncoding& SystemTextEncoding();
+
 class NoteEditor : public NoteContent {
  public:
   struct Events {

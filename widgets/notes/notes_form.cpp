@@ -6,6 +6,7 @@
 #include "resources/control_ids.h"
 #include "widgets/notes/note_settings.h"
 #include "widgets/notes/notes_folder.h"
+#include "win/edit_box.h"
 #include "win/file_dialogs.h"
 #include "win/hourglass.h"
 #include "win/message_box.h"
@@ -16,6 +17,8 @@ namespace {
 constexpr int kDraftTickMs = 500;
 constexpr int kCountRestMs = 300;
 constexpr int kNoticeMs = 15'000;
+constexpr int kSearchTickMs = 10;
+constexpr int kMostQuery = 200;
 constexpr std::size_t kImportUnits = 2048;
 
 constexpr Message kUnsavedQuestion{L"There Are Unsaved Changes",
@@ -49,6 +52,7 @@ NotesForm::NotesForm(Services& services, const FormEntry& entry, int index, Note
       formats_(editor_, services.settings),
       desk_(services.files, bin_, services.clock, editor_, link.counter),
       spelling_(spelling),
+      search_(services.files, SystemTextEncoding()),
       lvwFILES_(services.ui, *this),
       lblNotes_(services.ui),
       lblCHARS_(services.ui),
@@ -67,11 +71,13 @@ NotesForm::NotesForm(Services& services, const FormEntry& entry, int index, Note
                      editor_.TakeText();
                      ShowCounts();
                    }),
-      notice_timer_(*this, kNoticeMs, [this] {
-        notice_timer_.Stop();
-        desk_.Tell({});
-        ShowNotice();
-      }) {}
+      notice_timer_(*this, kNoticeMs,
+                    [this] {
+                      notice_timer_.Stop();
+                      desk_.Tell({});
+                      ShowNotice();
+                    }),
+      search_timer_(*this, kSearchTickMs, [this] { GoOnSearching(); }) {}
 
 NoteEditor::Events NotesForm::EditorEvents() {
   return {.on_edit = [this] { OnEdited(); },
@@ -94,6 +100,8 @@ void NotesForm::OnLoad() {
     buttons().Add(lablTOOLSINS + tool, word, glyph, false);
   }
   LoadPanels();
+  search_box_ = CreateEditBox(handle(), txtSEARCHNOTES, WS_TABSTOP, kMostQuery);
+  ::SendMessageW(search_box_, EM_SETCUEBANNER, TRUE, reinterpret_cast<LPARAM>(L"Search"));
   lvwFILES_.Load(handle(), lvwFILES, L"Notes", SideListKind::kDocuments);
   editor_.Load(handle(), rtbPAGEBOX, NoteBaseFormat(services().settings));
   lblCHARS_.Load(handle(), lblCHARS);
@@ -124,6 +132,7 @@ void NotesForm::OnUnload() {
   draft_timer_.Stop();
   count_timer_.Stop();
   notice_timer_.Stop();
+  search_timer_.Stop();
   watch_.Watch({});
   services().settings.Write(kOpenNoteFolder, L"");
   link_.widget = nullptr;
@@ -164,10 +173,7 @@ void NotesForm::DocumentOpenFile(const std::wstring& path) {
 }
 
 void NotesForm::NoteOpenSelected() {
-  const auto rows = lvwFILES_.Selected();
-  if (!rows.empty() && rows.front() < desk_.notes().count()) {
-    DocumentOpenFile(desk_.notes().Path(rows.front()));
-  }
+  if (const auto note = SelectedNote()) DocumentOpenFile(desk_.notes().Path(*note));
 }
 
 void NotesForm::RememberPlace() {
@@ -250,47 +256,50 @@ void NotesForm::DocumentPrint() {
 // --- the list
 
 void NotesForm::NoteDelete() {
-  const auto rows = lvwFILES_.Selected();
-  if (rows.empty() || !Ask(handle(), kDeleteQuestion) || !handle()) return;
-  const auto next = desk_.NoteDelete(rows.front());
-  ShowList();
-  lvwFILES_.SelectNone();
-  if (next) lvwFILES_.Select(*next);
+  const auto note = SelectedNote();
+  if (!note || !Ask(handle(), kDeleteQuestion) || !handle()) return;
+  const auto next = desk_.NoteDelete(*note);
+  StartSearch();
+  ShowList(next ? desk_.notes().Name(*next) : std::wstring());
   ShowNotice();
 }
 
 void NotesForm::NOTERenameShow() {
-  auto rows = lvwFILES_.Selected();
-  if (rows.empty() && desk_.current()) rows.push_back(*desk_.current());
-  if (rows.empty()) {
-    Tell(L"Save the note first: then it has a name to change");
+  auto note = SelectedNote();
+  if (!note) note = desk_.current();
+  const auto row = note ? RowOfNote(*note) : std::nullopt;
+  if (row) {
+    lvwFILES_.Rename(*row);
   } else {
-    lvwFILES_.Rename(rows.front());
+    Tell(L"Save the note first: then it has a name to change");
   }
 }
 
 void NotesForm::OnRowRenamed(std::size_t row, const std::wstring& text) {
-  if (row >= desk_.notes().count()) return;
-  RenameResult result = desk_.Rename(row, text, NameClash::kAsk);
+  const auto note = NoteOfRow(row);
+  if (!note) return;
+  RenameResult result = desk_.Rename(*note, text, NameClash::kAsk);
   if (result == RenameResult::kClash && Ask(handle(), kReplaceQuestion, {text}) && handle()) {
-    result = desk_.Rename(row, text, NameClash::kReplace);
+    result = desk_.Rename(*note, text, NameClash::kReplace);
   }
+  StartSearch();
   ShowNote();
 }
 
 void NotesForm::OnRowChosen(std::size_t row) {
-  if (row >= desk_.notes().count()) return;
+  const auto note = NoteOfRow(row);
   // The note that is shown already keeps its caret and its steps to undo.
-  if (desk_.current() == row) return;
+  if (!note || desk_.current() == note) return;
   lvwFILES_.Select(row);
   NoteOpenSelected();
 }
 
 void NotesForm::SideBarRefresh() {
-  const auto rows = lvwFILES_.Selected();
-  const bool known = !rows.empty() && rows.front() < desk_.notes().count();
-  const std::wstring selected = known ? desk_.notes().Name(rows.front()) : std::wstring();
-  if (desk_.SideBarRefresh()) ShowNote();
+  const auto note = SelectedNote();
+  const std::wstring selected = note ? desk_.notes().Name(*note) : std::wstring();
+  const bool shown_anew = desk_.SideBarRefresh();
+  StartSearch();
+  if (shown_anew) ShowNote();
   ShowList(selected);
   ShowNotice();
   if (desk_.document().modified()) draft_timer_.Start();
@@ -298,6 +307,7 @@ void NotesForm::SideBarRefresh() {
 
 void NotesForm::FolderChanged() {
   desk_.Adopt(Folder());
+  StartSearch();
   watch_.Watch(Folder());
   ShowNote();
 }

@@ -14,6 +14,7 @@
 #include "widgets/notes/note_editor_win.h"
 #include "widgets/notes/note_formats_win.h"
 #include "widgets/notes/note_panel_win.h"
+#include "widgets/notes/note_search.h"
 #include "widgets/notes/notes_layout.h"
 #include "widgets/notes/notes_link.h"
 #include "widgets/notes/spell_service_win.h"
@@ -125,6 +126,13 @@ class NotesForm : public WidgetForm,  // frmNOTwg
   void ShowNote();
   void ShowList(std::wstring_view selected = {});
   void ShowNotice();
+  // The list shows all notes, or those found: its rows and the notes' numbers in their folder.
+  std::size_t RowCount() const;
+  std::optional<std::size_t> NoteOfRow(std::size_t row) const;
+  std::optional<std::size_t> RowOfNote(std::size_t note) const;
+  std::optional<std::size_t> SelectedNote() const;
+  void StartSearch();
+  void GoOnSearching();
   void ShowCounts();
   void OpenAtStart();
   bool SaveReplacing(FileResult result, NoteType type, const std::wstring& path);
@@ -173,7 +181,7 @@ class NotesForm : public WidgetForm,  // frmNOTwg
   void ToggleList();
   void ToggleOnTop() { SetOnTop(!on_top()); }
   void DoNothing() {}
-  bool HasRow() const { return !lvwFILES_.Selected().empty(); }
+  bool HasRow() const { return SelectedNote().has_value(); }
   bool HasVersions() const { return !desk_.Versions().empty(); }
   bool CanPrint() const;
   bool ListWanted() const { return list_wanted_; }
@@ -202,6 +210,8 @@ class NotesForm : public WidgetForm,  // frmNOTwg
   std::int32_t told_note_ = -1;  // the number of the note that the panels know of
   int open_panel_ = kNoPanel;    // a tool
   NotesLayout places_;
+  NoteSearch search_;
+  HWND search_box_ = nullptr;
   UniqueFont panel_font_;
   int panel_font_dpi_ = 0;
   SideList lvwFILES_;
@@ -213,6 +223,7 @@ class NotesForm : public WidgetForm,  // frmNOTwg
   Timer draft_timer_;
   Timer count_timer_;
   Timer notice_timer_;
+  Timer search_timer_;
 };
 
 }  // namespace varnel

@@ -9,6 +9,7 @@
 #include "theme/contrast.h"
 #include "widgets/notes/note_spacing.h"
 #include "widgets/notes/notes_form.h"
+#include "win/edit_box.h"
 #include "win/font_measure.h"
 
 namespace varnel {
@@ -89,7 +90,15 @@ void NotesForm::PlaceList(const Rect& panel) {
       ButtonColours(paint(), ButtonLook::kNormal, services().colours).first;
   look.row_height = Scaled(kRowHeight, dpi());
   // What cannot be seen must not have the focus.
-  if (places_.list.empty() && lvwFILES_.HasFocus()) ::SetFocus(editor_.handle());
+  const bool search_lost = places_.search.empty() && ::GetFocus() == search_box_;
+  if (search_lost || (places_.list.empty() && lvwFILES_.HasFocus())) ::SetFocus(editor_.handle());
+  const Rect box = Within(panel, places_.search);
+  PlaceEditBox(
+      search_box_,
+      Inset({box.left + Scaled(4, dpi()), box.top + Scaled(3, dpi()), box.right, box.bottom},
+            Scaled(2, dpi())),
+      panel_font_.get());
+  ::ShowWindow(search_box_, places_.search.empty() ? SW_HIDE : SW_SHOWNA);
   lvwFILES_.Place(places_.list.empty() ? Rect{} : Within(panel, places_.list), look);
 }
 
@@ -157,8 +166,9 @@ void NotesForm::ShowList(std::wstring_view selected) {
   if (!ready_) return;
   const DocumentFolder& notes = desk_.notes();
   const auto kept = selected.empty() ? std::nullopt : notes.Find(selected);
-  const auto row = kept ? kept : desk_.current();
-  lvwFILES_.ShowRows(notes.count(), row.value_or(0));
+  const auto note = kept ? kept : desk_.current();
+  const auto row = note ? RowOfNote(*note) : std::nullopt;
+  lvwFILES_.ShowRows(RowCount(), row.value_or(0));
   if (row && lvwFILES_.Selected() == std::vector{*row}) return;
   lvwFILES_.SelectNone();
   if (row) lvwFILES_.Select(*row);
@@ -220,6 +230,7 @@ void NotesForm::PaintPanel(Surface& surface, const Rect& panel) {
                    OpaquePixel(colours.first), OpaquePixel(colours.second));
   };
   box(places_.document, {PaperColour(), chrome().border}, kPaperCorner);
+  box(places_.search, {PaperColour(), chrome().border}, kPaperCorner);
   if (OpenPanel()) {
     box(places_.open_panel, CardColours(paint(), services().colours), kCorner);
     if (!places_.open_panel.empty()) OpenPanel()->Paint(surface);
@@ -237,8 +248,8 @@ void NotesForm::PaintRow(Surface& surface, const SideRow& row) {
   DrawRoundedBox(surface.pixels(), surface.size(), box, kCorner * unit, OpaquePixel(face),
                  OpaquePixel(row.current ? chrome().border : card.second));
   style.side_room = Scaled(kRowSide, dpi());
-  const std::wstring name =
-      row.index < desk_.notes().count() ? desk_.notes().Name(row.index) : std::wstring();
+  const auto note = NoteOfRow(row.index);
+  const std::wstring name = note ? desk_.notes().Name(*note) : std::wstring();
   TextStyle glyph = style;
   glyph.font = {kIconFontName, Scaled(kGlyph, dpi()), false};
   const bool rich = NoteListItemOf(1, {}, name).icon == 1;

@@ -49,6 +49,10 @@ void NotesForm::OnControl(int id, int code) {
     editor_.edit().OnCommand(code);
     return;
   }
+  if (id == txtSEARCHNOTES) {
+    if (code == EN_CHANGE) StartSearch();
+    return;
+  }
   const int tool = id - lablTOOLSINS;
   if (tool >= 0 && tool < kToolCount) {
     if (code == BN_CLICKED) OnTool(tool);
@@ -176,10 +180,6 @@ void NotesForm::OnZoom(int notches) {
   RichEdit& edit = editor_.edit();
   edit.SetZoom(std::clamp(edit.Zoom() + notches * kZoomStep, kLeastZoom, kMostZoom));
   ShowNotice();
-}
-
-std::wstring NotesForm::RowText(std::size_t row) const {
-  return row < desk_.notes().count() ? desk_.notes().Title(row) : std::wstring();
 }
 
 void NotesForm::LoadPanels() {
