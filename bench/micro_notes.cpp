@@ -6,6 +6,7 @@
 #include "base/text.h"
 #include "bench/micro.h"
 #include "widgets/notes/find_text.h"
+#include "widgets/notes/rtf_edits.h"
 #include "widgets/notes/rtf_reader.h"
 #include "widgets/notes/rtf_writer.h"
 #include "widgets/notes/spell_rules.h"
@@ -138,12 +139,14 @@ double Suggest() {
          });
 }
 
+constexpr std::wstring_view kHay =
+    L"A hundred letters hold one needle, so that there are about ten thousand of them in a "
+    L"megabyte "
+    L"here. ";
+
 double ReplaceTenThousand() {
   std::wstring text;
-  while (text.size() < kMegabyte)
-    text +=
-        L"A hundred letters hold one needle, so that there are about ten thousand of them in a "
-        L"megabyte here. ";
+  while (text.size() < kMegabyte) text += kHay;
   const TextFinder finder(L"Needle", 0);
   return 1e3 * SecondsFor([&] {
            const Replacements all = ReplaceAll(text, finder, L"needles and pins", 0);
@@ -180,6 +183,25 @@ double WriteFormatted() {
   return size / 1e6 / SecondsFor([&] { Keep(WriteRtf(document).size()); });
 }
 
+// What replacing adds to putting a formatted note into the editor again, against reading it once:
+// each needle has a bold letter.
+double ReplaceInFormatted() {
+  std::string hay = Utf8FromWide(kHay);
+  hay.replace(hay.find("needle"), 6, "ne{\\b e}dle");
+  std::string rtf = "{\\rtf1\\ansi{\\fonttbl{\\f0 Tahoma;}}\\f0\\fs24 ";
+  for (std::size_t i = 0; i < kMegabyte / kHay.size(); ++i) rtf += hay + (i % 4 ? "" : "\\par ");
+  rtf += "}";
+  const TextFinder finder(L"Needle", 0);
+  const double read = SecondsFor([&] { Keep(ReadRtf(rtf).document.text.size()); });
+  const double replaced = SecondsFor([&] {
+    RtfDocument document = ReadRtf(rtf).document;
+    const Replacements all = ReplaceAll(document.text, finder, L"needles and pins", 0);
+    ApplyEdits(document, all.edits);
+    Keep(WriteRtf(document).size());
+  });
+  return replaced / read;
+}
+
 }  // namespace
 
 std::vector<Probe> NotesProbes() {
@@ -188,6 +210,7 @@ std::vector<Probe> NotesProbes() {
           {"dictionary of 170,000 words read", "ms", LoadList},
           {"suggestions for a word", "ms", Suggest},
           {"10,000 hits in 1 MB replaced", "ms", ReplaceTenThousand},
+          {"the same in formatted text, against reading it", "x", ReplaceInFormatted},
           {"formatted text read", "MB/s", ReadFormatted},
           {"formatted text written", "MB/s", WriteFormatted}};
 }
