@@ -39,6 +39,7 @@ class Editor : public test::Hosted {
                   .on_paste = [this] { ++pastes_; },
                   .on_copy = {},
                   .on_files = [this](auto paths, int) { files_ = paths; },
+                  .on_zoom = {},
                   .may_drop = {}}};
 };
 

@@ -217,7 +217,7 @@ std::vector<ParagraphIndents> NoteEditor::Indents() {
   const Point scroll = edit_.ScrollPosition();
   const std::wstring text = edit_.Units({0, edit_.Length()});
   std::vector<ParagraphIndents> indents;
-  for (std::size_t begin = 0; begin != std::wstring::npos + 1;) {
+  for (std::size_t begin = 0;;) {
     const int at = static_cast<int>(begin);
     edit_.Select({at, at});
     const RichParagraph format = edit_.SelectionParagraph();
