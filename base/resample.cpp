@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <utility>
 #include <vector>
 
@@ -96,48 +97,76 @@ class Resampler {
       right_ = std::max(right_, taps.first + static_cast<int>(taps.weights.size()));
     }
     sums_.resize(static_cast<std::size_t>(right_ - left_));
-    blank_.resize(static_cast<std::size_t>(kept.height()), kUnknown);
+    inked_.resize(static_cast<std::size_t>(kept.height()));
   }
 
   void ShowRow(const Taps& rows, std::uint32_t* out) {
-    std::ranges::fill(sums_, Sums{});
-    bool blank = true;
+    Span inked;
     for (std::size_t i = 0; i < rows.weights.size(); ++i) {
-      const int y = rows.first + static_cast<int>(i);
-      if (rows.weights[i] == 0 || IsBlank(y)) continue;
-      blank = false;
-      const std::uint32_t* const row = kept_.Row(y).data() + left_;
-      for (std::size_t x = 0; x < sums_.size(); ++x) AddWeighted(sums_[x], row[x], rows.weights[i]);
+      if (rows.weights[i] != 0) inked = Around(inked, InkedPart(rows.first + static_cast<int>(i)));
     }
-    if (blank) {
+    if (inked.empty()) {
       std::fill_n(out, columns_.size(), 0U);
       return;
     }
-    for (Sums& sums : sums_) {
-      for (int& sum : sums) sum = (sum + (1 << (kKeptShift - 1))) >> kKeptShift;
+    std::fill(sums_.begin() + inked.from, sums_.begin() + inked.to, Sums{});
+    for (std::size_t i = 0; i < rows.weights.size(); ++i) {
+      AddRow(rows.first + static_cast<int>(i), rows.weights[i]);
     }
-    for (const Taps& taps : columns_) *out++ = Across(taps);
+    for (int x = inked.from; x < inked.to; ++x) {
+      for (int& sum : sums_[static_cast<std::size_t>(x)]) {
+        sum = (sum + (1 << (kKeptShift - 1))) >> kKeptShift;
+      }
+    }
+    for (const Taps& taps : columns_) *out++ = Across(taps, inked);
   }
 
  private:
-  enum Blank : char { kUnknown, kBlank, kInked };
+  // Columns that are looked at, counted from the first.
+  struct Span {
+    int from = 0;
+    int to = 0;
+    bool known = false;
+    bool empty() const { return from >= to; }
+  };
 
-  // Ink covers little of a sheet.
-  bool IsBlank(int y) {
-    char& known = blank_[static_cast<std::size_t>(y)];
-    if (known == kUnknown) {
-      const auto row = kept_.Row(y).subspan(static_cast<std::size_t>(left_), sums_.size());
-      const bool inked = std::ranges::any_of(row, [](std::uint32_t pixel) { return pixel != 0; });
-      known = inked ? kInked : kBlank;
-    }
-    return known == kBlank;
+  static Span Around(const Span& one, const Span& other) {
+    if (one.empty()) return other;
+    if (other.empty()) return one;
+    return {std::min(one.from, other.from), std::max(one.to, other.to), true};
   }
 
-  std::uint32_t Across(const Taps& taps) const {
+  // Ink covers little of a sheet.
+  const Span& InkedPart(int y) {
+    Span& span = inked_[static_cast<std::size_t>(y)];
+    if (span.known) return span;
+    const auto row = kept_.Row(y).subspan(static_cast<std::size_t>(left_), sums_.size());
+    const auto is_ink = [](std::uint32_t pixel) { return pixel != 0; };
+    const auto first = std::ranges::find_if(row, is_ink);
+    const auto last = std::find_if(row.rbegin(), std::make_reverse_iterator(first), is_ink);
+    span = {static_cast<int>(first - row.begin()), static_cast<int>(row.rend() - last), true};
+    return span;
+  }
+
+  void AddRow(int y, int weight) {
+    const Span& span = InkedPart(y);
+    if (weight == 0 || span.empty()) return;
+    const std::uint32_t* const row = kept_.Row(y).data() + left_;
+    for (int x = span.from; x < span.to; ++x) {
+      AddWeighted(sums_[static_cast<std::size_t>(x)], row[x], weight);
+    }
+  }
+
+  std::uint32_t Across(const Taps& taps, const Span& inked) const {
+    const int first = taps.first - left_;
+    const int from = std::max(first, inked.from);
+    const int to = std::min(first + static_cast<int>(taps.weights.size()), inked.to);
+    if (from >= to) return 0;
     Sums total{};
-    for (std::size_t i = 0; i < taps.weights.size(); ++i) {
-      const Sums& sums = sums_[static_cast<std::size_t>(taps.first - left_) + i];
-      for (std::size_t c = 0; c < total.size(); ++c) total[c] += sums[c] * taps.weights[i];
+    for (int x = from; x < to; ++x) {
+      const Sums& sums = sums_[static_cast<std::size_t>(x)];
+      const int weight = taps.weights[static_cast<std::size_t>(x - first)];
+      for (std::size_t c = 0; c < total.size(); ++c) total[c] += sums[c] * weight;
     }
     return PixelOf(total);
   }
@@ -146,7 +175,7 @@ class Resampler {
   std::vector<Taps> columns_;
   int left_ = 0, right_ = 0;  // the columns of the picture that are looked at
   std::vector<Sums> sums_;
-  std::vector<char> blank_;
+  std::vector<Span> inked_;  // of every row, once it was looked at
 };
 
 }  // namespace

@@ -14,6 +14,7 @@ namespace {
 
 constexpr int kHoverTickMs = 100;
 constexpr int kBarGlyphHeight = 17;  // at 96 dpi
+constexpr wchar_t kCloseGlyph = L'\xE202';
 constexpr double kCornerRadius = 4;  // at 96 dpi
 
 }  // namespace
@@ -105,7 +106,9 @@ void TextButtons::Draw(Ui& ui, const DRAWITEMSTRUCT& item, const WidgetPaint& pa
   const Rect bounds = FromSystem(item.rcItem);
   const int dpi = owner_.dpi();
   const ButtonLook look = LookOf(*button, item);
-  const ColourPair colours = ButtonColours(paint, look, system);
+  const ColourPair colours =
+      button->on_bar ? BarButtonColours(paint, look, button->glyph == kCloseGlyph, system)
+                     : ButtonColours(paint, look, system);
   Surface surface({bounds.width(), bounds.height()});
   const bool on_bar = button->on_bar;
   FillRectangle(surface.dc(), bounds, on_bar ? paint.chrome.bar.first : paint.chrome.ground);

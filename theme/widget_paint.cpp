@@ -12,6 +12,9 @@ constexpr int kHighlight = 13;
 constexpr int kButtonFace = 15;
 constexpr int kButtonText = 18;
 
+constexpr ColourPair kCloseHover{0x1C2BC4, 0x1C2BC4};  // the usual red of closing
+constexpr ColourPair kClosePressed{0x1622A0, 0x1622A0};
+
 }  // namespace
 
 WidgetPaint WidgetPaintOf(ThemeRecord& theme, bool high_contrast, const SystemColours& system) {
@@ -52,6 +55,16 @@ ColourPair CardColours(const WidgetPaint& paint, const SystemColours& system) {
   const Colour button = ButtonColours(paint.theme, ButtonLook::kNormal, system).first;
   const Colour face = Blend(button, paint.chrome.ground, kFaceWeight, system);
   return {face, Blend(paint.chrome.border, face, kOutlineWeight, system)};
+}
+
+ColourPair BarButtonColours(const WidgetPaint& paint, ButtonLook look, bool closes,
+                            const SystemColours& system) {
+  if (!paint.high_contrast) {
+    const Colour bar = paint.chrome.bar.first;
+    if (look == ButtonLook::kNormal) return {bar, bar};
+    if (closes) return look == ButtonLook::kHover ? kCloseHover : kClosePressed;
+  }
+  return ButtonColours(paint, look, system);
 }
 
 }  // namespace varnel

@@ -19,6 +19,11 @@ WidgetPaint WidgetPaintOf(ThemeRecord& theme, bool high_contrast, const SystemCo
 
 ColourPair ButtonColours(const WidgetPaint& paint, ButtonLook look, const SystemColours& system);
 
+// The same for a button on the title bar: at rest it is a bare glyph, without a face that differs
+// from the bar; one that closes is red under the mouse.
+ColourPair BarButtonColours(const WidgetPaint& paint, ButtonLook look, bool closes,
+                            const SystemColours& system);
+
 // A button's face and outline on the panel: a face that is lost there gets an outline that is not.
 ColourPair SeenOnPanel(const WidgetPaint& paint, const ColourPair& button);
 

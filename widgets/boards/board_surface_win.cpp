@@ -116,6 +116,7 @@ void BoardSurface::OnWheel(int turn, bool ctrl, bool across) {
 
 void BoardSurface::Repaint(const Rect& shown) {
   if (shown.empty()) return;
+  owner_.OnBoardRepaint(shown);
   const RECT area{shown.left - origin_.x, shown.top - origin_.y, shown.right - origin_.x,
                   shown.bottom - origin_.y};
   ::InvalidateRect(handle(), &area, FALSE);

@@ -21,6 +21,8 @@ class BoardSurfaceOwner {
   virtual Size BoardSize() const = 0;
   // A stroke has ended, or an object was merged.
   virtual void OnBoardChanged() = 0;
+  // What is shown there is about to be painted anew.
+  virtual void OnBoardRepaint(const Rect& /*shown*/) {}
   // The pointer is over that pixel of the board.
   virtual void OnPointer(Point /*at*/) {}
 };

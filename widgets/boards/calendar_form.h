@@ -44,6 +44,7 @@ class CalendarForm : public BoardForm, private CalendarWidget {  // frmCALwg
   std::vector<BoardAction> MakeActions() override;
   void PaintBoard(Surface& surface, const Rect& part) override;
   Size BoardSize() const override { return grid_.size; }
+  void OnBoardRepaint(const Rect& shown) override { stale_ = Union(stale_, shown); }
   void OnPointer(Point at) override;
 
   void InsertText(const std::wstring& text, int points, bool wrap) override;
@@ -64,6 +65,8 @@ class CalendarForm : public BoardForm, private CalendarWidget {  // frmCALwg
   MonthGrid GridOfMonth(Month month, int first_weekday, bool with_today) const;
   Image PictureOfMonth(Month month, const MonthInk& ink);
   Image PaintedGrid(const CalendarGrid& grid, const MonthGrid& month);
+  // What is shown of the sheet, up to date.
+  const Image& InkShown();
   std::wstring DayName(const Date& date, std::wstring_view pattern) const;
   std::wstring DayText(const Date& date) const;
   void PlaceLabels(const Rect& panel);
@@ -81,7 +84,8 @@ class CalendarForm : public BoardForm, private CalendarWidget {  // frmCALwg
   CalendarGrid grid_;
   MonthGrid month_grid_;
   Image ground_;  // the grid as it is shown; empty while it has to be painted anew
-  Image ink_;     // what is shown of the sheet
+  Image ink_;     // what is shown of the sheet, but for
+  Rect stale_;    // where that has changed
   ThemedLabel lblSeptember2015_;
   ThemedLabel lablDAYNO_;
   ThemedLabel lablDAY_;

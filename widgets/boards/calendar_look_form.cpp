@@ -84,7 +84,7 @@ void CalendarForm::LayOutPanel(const Rect& panel) {
   grid_ = LayOutCalendarGrid({board.width(), board.height()}, dpi());
   const SheetMaps maps = MapsOf(grid_);
   board_.ShowBy(maps.across, maps.down);
-  if (grid_.size != former) ground_ = Image();
+  if (grid_.size != former) ground_ = ink_ = Image();
   PlacePens(panel, places_.pens, places_.pen_menu);
   for (std::size_t i = 0; i < kCalendarTools; ++i) {
     const Rect& box = places_.tools[i];
@@ -183,8 +183,21 @@ void CalendarForm::DrawPanelButton(const ButtonPainting& painting) {
 }
 
 void CalendarForm::CalendarRefreshBoard() {
-  ground_ = Image();
+  ground_ = ink_ = Image();
   ::InvalidateRect(picMAINBOARD_.handle(), nullptr, FALSE);
+}
+
+const Image& CalendarForm::InkShown() {
+  if (ink_.width() != grid_.size.width || ink_.height() != grid_.size.height) {
+    ink_ = Image(grid_.size.width, grid_.size.height);
+    stale_ = {0, 0, ink_.width(), ink_.height()};
+  }
+  if (!stale_.empty()) {
+    const SheetMaps maps = MapsOf(grid_);
+    Resample(board_.pixels(), maps.across, maps.down, ink_, stale_);
+    stale_ = {};
+  }
+  return ink_;
 }
 
 Image CalendarForm::PaintedGrid(const CalendarGrid& grid, const MonthGrid& month) {
@@ -199,24 +212,20 @@ Image CalendarForm::PaintedGrid(const CalendarGrid& grid, const MonthGrid& month
 }
 
 void CalendarForm::PaintBoard(Surface& surface, const Rect& part) {
-  if (ground_.empty()) {
-    ground_ = PaintedGrid(grid_, month_grid_);
-    ink_ = Image(grid_.size.width, grid_.size.height);
-  }
-  const SheetMaps maps = MapsOf(grid_);
-  const Rect shown = Intersection(part, {0, 0, ink_.width(), ink_.height()});
-  Resample(board_.pixels(), maps.across, maps.down, ink_, shown);
+  if (ground_.empty()) ground_ = PaintedGrid(grid_, month_grid_);
+  const Image& ink = InkShown();
+  const Rect shown = Intersection(part, {0, 0, ink.width(), ink.height()});
   PutImage(surface, {-part.left, -part.top}, ground_);
   const auto pixels = surface.pixels();
   if (pixels.empty()) return;
   for (int y = shown.top; y < shown.bottom; ++y) {
-    const auto above = ink_.Row(y);
+    const auto above = ink.Row(y);
     const auto row = pixels.subspan(static_cast<std::size_t>(y - part.top) *
                                     static_cast<std::size_t>(surface.size().width));
     for (int x = shown.left; x < shown.right; ++x) {
-      const std::uint32_t ink = above[static_cast<std::size_t>(x)];
+      const std::uint32_t inked = above[static_cast<std::size_t>(x)];
       std::uint32_t& pixel = row[static_cast<std::size_t>(x - part.left)];
-      if (ink != 0) pixel = PixelOver(pixel, ink);
+      if (inked != 0) pixel = PixelOver(pixel, inked);
     }
   }
 }
@@ -227,9 +236,14 @@ Image CalendarForm::PictureOfMonth(Month month, const MonthInk& ink) {
   const bool shown = grid_.size.width > 0 && grid_.size.height > 0;
   const CalendarGrid grid = shown ? grid_ : LayOutCalendarGrid(kUsualBoard, kDefaultDpi);
   Image picture = PaintedGrid(grid, GridOfMonth(month, ink.first_weekday, false));
-  Image above(grid.size.width, grid.size.height);
-  const SheetMaps maps = MapsOf(grid);
-  Resample(ink.sheet, maps.across, maps.down, above, {0, 0, above.width(), above.height()});
+  Image above;
+  if (shown && ink.sheet == board_.pixels()) {
+    above = InkShown();
+  } else {
+    above = Image(grid.size.width, grid.size.height);
+    const SheetMaps maps = MapsOf(grid);
+    Resample(ink.sheet, maps.across, maps.down, above, {0, 0, above.width(), above.height()});
+  }
   std::ranges::transform(picture.All(), above.All(), picture.All().begin(), PixelOver);
   return picture;
 }

@@ -177,7 +177,7 @@ void AlarmPopup::DrawCloseButton(const DRAWITEMSTRUCT& item) {
   const ButtonLook look = buttons_.LookOf(*button, item);
   PaintTextButton(ui(),
                   {*button, surface, Inset(bounds, Scaled(2, dpi())), look,
-                   ButtonColours(paint_, look, services_.colours), false, true},
+                   BarButtonColours(paint_, look, true, services_.colours), false, true},
                   paint_, Scaled(14, dpi()), dpi());
   surface.CopyTo(item.hDC, {0, 0});
 }
