@@ -39,8 +39,8 @@ class Editor : public test::Hosted {
                   .on_paste = [this] { ++pastes_; },
                   .on_copy = {},
                   .on_files = [this](auto paths, int) { files_ = paths; },
-                  .on_zoom = {},
-                  .may_drop = {}}};
+                  .may_drop = {},
+                  .on_zoom = {}}};
 };
 
 TEST_F(Editor, TextAndFormattedTextGoInAndComeOut) {
