@@ -12,7 +12,8 @@ TOOLS = Path(__file__).resolve().parents[2] / "tools"
 sys.path.insert(0, str(TOOLS))
 sys.dont_write_bytecode = True
 
-import check_layers  # noqa: E402  the path has to be set first
+import check_commands  # noqa: E402  the path has to be set first
+import check_layers  # noqa: E402
 import check_sizes  # noqa: E402
 
 
@@ -135,6 +136,18 @@ class FunctionsTest(unittest.TestCase):
 
     def test_a_text_that_is_cut_off_ends(self):
         self.assertEqual(self.functions("void A() {\n  if (x) {\n"), [("A", 2)])
+
+
+class CommandsTest(TreeTest):
+    def test_names_that_share_a_number_are_found_across_sources(self):
+        self.write("core/a.cpp", 'Command kA{L"mnuX260", L"&A"};')
+        self.write("widgets/time/b_form.cpp", 'Command kB{L"mnuX261", L"&B"};')
+        self.assertEqual(check_commands.check(self.root), [])
+        self.write("widgets/notes/c_form.cpp", 'Command kC{L"mnuX400", L"&C"};')
+        self.assertEqual(len(check_commands.check(self.root)), 1)
+
+    def test_arrays_count_with_their_elements(self):
+        self.assertIn("mnuA(7)", check_commands.names_in('ArrayItem(L"mnuA", 0, L"&A")'))
 
 
 class SizesTest(TreeTest):

@@ -1,56 +1,14 @@
-#include "widgets/calculator/calculator_keys.h"
+#include "widgets/calculator/pasted_number.h"
 
 #include <gtest/gtest.h>
 
-#include <map>
-#include <set>
 #include <string>
-#include <utility>
 
 #include "base/number_format.h"
 #include "tests/support/cases.h"
-#include "widgets/calculator/pasted_number.h"
 
 namespace varnel {
 namespace {
-
-TEST(CalculatorKeys, TheKeyboardDoesWhatIsListedAndNothingElse) {
-  using enum StrokeAction;
-  std::map<std::pair<int, int>, KeyStroke> listed = {
-      {{187, 0}, {kPress, CalculatorKey::kPoint}},
-      {{187, kShiftHeld}, {kPress, CalculatorKey::kAdd}},
-      {{'8', kShiftHeld}, {kPress, CalculatorKey::kMultiply}},
-      {{189, 0}, {kPress, CalculatorKey::kSubtract}},
-      {{220, 0}, {kPress, CalculatorKey::kDivide}},
-      {{13, 0}, {kPress, CalculatorKey::kEquals}},
-      {{61, 0}, {kPress, CalculatorKey::kEquals}},
-      {{46, 0}, {kPress, CalculatorKey::kDelete}},
-      {{46, kCtrlHeld}, {kDeleteSelected}},
-      {{'C', kCtrlHeld}, {kCopyDisplay}},
-      {{'V', kCtrlHeld}, {kPasteNumber}},
-  };
-  for (int digit = 0; digit <= 9; ++digit) listed[{'0' + digit, 0}] = {kPress, DigitKey(digit)};
-  for (int state = 0; state < 8; ++state) listed[{93, state}] = {kOpenMenu};
-  for (int arrow = 37; arrow <= 40; ++arrow) listed[{arrow, kCtrlHeld}] = {kFrame};
-  for (int code = -1; code <= 300; ++code) {
-    for (int state = 0; state < 8; ++state) {
-      const auto found = listed.find({code, state});
-      const KeyStroke expected = found == listed.end() ? KeyStroke{} : found->second;
-      EXPECT_EQ(StrokeFor(code, state), expected) << code << " with " << state;
-    }
-  }
-}
-
-TEST(CalculatorKeys, EveryKeyHasItsOwnFace) {
-  std::set<std::wstring_view> faces;
-  for (std::size_t i = 0; i < kCalculatorKeyCount; ++i) {
-    faces.insert(KeyFace(static_cast<CalculatorKey>(i)));
-  }
-  EXPECT_EQ(faces.size(), kCalculatorKeyCount);
-  EXPECT_EQ(KeyFace(DigitKey(7)), L"7");
-  EXPECT_EQ(KeyFace(CalculatorKey::kClearEntry), L"CE");
-  EXPECT_EQ(KeyFace(CalculatorKey::kDelete), L"Del");
-}
 
 TEST(PastedNumber, ReadsWhatPeopleCopy) {
   const test::Cases<const wchar_t*, double> cases = {{L"5", 5},
