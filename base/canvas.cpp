@@ -7,31 +7,11 @@
 namespace varnel {
 namespace {
 
-// Two channels side by side, each with room for a product above it.
-constexpr std::uint32_t kPair = 0x00FF00FF;
-constexpr std::uint32_t kHalves = 0x00800080;
-
 constexpr std::size_t At(int index) {
   return static_cast<std::size_t>(index);
 }
 
 }  // namespace
-
-std::uint32_t MixPixels(std::uint32_t below, std::uint32_t above, std::uint32_t share) {
-  const std::uint32_t weight = share + (share >> 7);  // 0 to 256
-  const std::uint32_t rest = 256 - weight;
-  const std::uint32_t even = (below & kPair) * rest + (above & kPair) * weight + kHalves;
-  const std::uint32_t odd = (below >> 8 & kPair) * rest + (above >> 8 & kPair) * weight + kHalves;
-  return (even >> 8 & kPair) | (odd & ~kPair);
-}
-
-std::uint32_t PixelOver(std::uint32_t below, std::uint32_t above) {
-  const std::uint32_t opacity = above >> 24;
-  const std::uint32_t rest = 256 - (opacity + (opacity >> 7));
-  const std::uint32_t even = (below & kPair) * rest;
-  const std::uint32_t odd = (below >> 8 & kPair) * rest;
-  return above + ((even >> 8 & kPair) | (odd & ~kPair));
-}
 
 Rect Canvas::Load(Image pixels) {
   EndStroke();

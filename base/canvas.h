@@ -8,6 +8,7 @@
 #include "base/capsule.h"
 #include "base/geometry.h"
 #include "base/image.h"
+#include "base/pixel_mix.h"
 
 namespace varnel {
 
@@ -86,11 +87,5 @@ class Canvas {
   std::vector<int> stroke_index_;  // of each tile of the largest picture; 0: not come to yet, else
                                    // one more than its place in `stroke_`
 };
-
-// Mixes two premultiplied pixels: `share` 0 gives `below`, 255 `above`.
-std::uint32_t MixPixels(std::uint32_t below, std::uint32_t above, std::uint32_t share);
-
-// `above` laid over `below`, both premultiplied.
-std::uint32_t PixelOver(std::uint32_t below, std::uint32_t above);
 
 }  // namespace varnel

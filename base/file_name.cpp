@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "base/number_text.h"
 #include "base/text.h"
 
 namespace varnel {
@@ -23,7 +24,7 @@ bool IsForbidden(wchar_t unit) {
 }
 
 bool IsPortDigit(wchar_t unit) {
-  return (unit >= L'0' && unit <= L'9') || unit == 0x00B9 || unit == 0x00B2 || unit == 0x00B3;
+  return IsDigit(unit) || unit == 0x00B9 || unit == 0x00B2 || unit == 0x00B3;
 }
 
 bool IsDevice(std::wstring_view name) {

@@ -6,6 +6,8 @@
 #include <span>
 #include <vector>
 
+#include "base/pixel_mix.h"
+
 namespace varnel {
 namespace {
 
@@ -109,15 +111,7 @@ void HaloRow(std::span<const std::uint16_t> down, const HaloTables& tables, Dist
   }
 }
 
-std::uint32_t Mix(std::uint32_t below, std::uint32_t above, std::uint32_t coverage) {
-  std::uint32_t mixed = below & 0xFF000000U;
-  for (int shift = 0; shift < 24; shift += 8) {
-    const std::uint32_t parts =
-        (below >> shift & 0xFF) * (255 - coverage) + (above >> shift & 0xFF) * coverage;
-    mixed |= (parts + 127) / 255 << shift;
-  }
-  return mixed;
-}
+constexpr std::uint32_t kOpacity = 0xFF000000;
 
 void Lay(Image& pixels, Point corner, const Mask& mask, std::uint32_t pixel) {
   const long long left = std::max(0LL, -static_cast<long long>(corner.x));
@@ -131,7 +125,8 @@ void Lay(Image& pixels, Point corner, const Mask& mask, std::uint32_t pixel) {
     for (long long x = left; x < right; ++x) {
       const std::uint8_t coverage = covered[static_cast<std::size_t>(x)];
       auto& below = row[static_cast<std::size_t>(corner.x + x)];
-      if (coverage != 0) below = Mix(below, pixel, coverage);
+      if (coverage != 0)
+        below = MixPixels(below, (below & kOpacity) | (pixel & ~kOpacity), coverage);
     }
   }
 }

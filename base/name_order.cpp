@@ -3,12 +3,10 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "base/number_text.h"
+
 namespace varnel {
 namespace {
-
-bool IsDigit(wchar_t unit) {
-  return unit >= L'0' && unit <= L'9';
-}
 
 bool IsWithin(wchar_t unit, wchar_t first, wchar_t last) {
   return unit >= first && unit <= last;

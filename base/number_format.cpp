@@ -6,6 +6,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "base/number_text.h"
+
 namespace varnel {
 namespace {
 
@@ -18,10 +20,6 @@ struct Decimal {
   std::string digits;
   int point = 0;
 };
-
-bool IsDigit(wchar_t unit) {
-  return unit >= L'0' && unit <= L'9';
-}
 
 // Keeps the first `count` digits (none when negative), halves away from zero.
 void RoundTo(Decimal& number, int count) {

@@ -7,14 +7,6 @@
 #include "base/text.h"
 
 namespace varnel {
-namespace {
-
-bool IsDigit(wchar_t unit) {
-  return unit >= L'0' && unit <= L'9';
-}
-
-}  // namespace
-
 std::wstring NumberText(long long value) {
   return std::to_wstring(value);
 }

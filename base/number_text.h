@@ -7,6 +7,11 @@
 
 namespace varnel {
 
+// "0" to "9" and nothing else.
+constexpr bool IsDigit(wchar_t unit) {
+  return unit >= L'0' && unit <= L'9';
+}
+
 // The decimal text of a whole number: "-12", "0", "235".
 std::wstring NumberText(long long value);
 

@@ -25,7 +25,7 @@ bool IsHost(std::wstring_view host) {
   if (numeric) host = host.substr(1, host.size() - 2);
   return !host.empty() && std::ranges::all_of(host, [numeric](wchar_t unit) {
     const bool letter = (unit >= L'a' && unit <= L'z') || (unit >= L'A' && unit <= L'Z');
-    const bool digit = unit >= L'0' && unit <= L'9';
+    const bool digit = IsDigit(unit);
     return letter || digit || unit == L'-' || unit == L'.' || unit == (numeric ? L':' : L'_');
   });
 }

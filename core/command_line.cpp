@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/number_text.h"
 #include "base/path.h"
 #include "base/text.h"
 
@@ -9,8 +10,8 @@ namespace varnel {
 namespace {
 
 bool IsKeyUnit(wchar_t unit) {
-  return (unit >= L'A' && unit <= L'Z') || (unit >= L'a' && unit <= L'z') ||
-         (unit >= L'0' && unit <= L'9') || unit == L' ' || unit == L'-' || unit == L'_';
+  return (unit >= L'A' && unit <= L'Z') || (unit >= L'a' && unit <= L'z') || IsDigit(unit) ||
+         unit == L' ' || unit == L'-' || unit == L'_';
 }
 
 bool IsKeyName(std::wstring_view text) {

@@ -2,7 +2,6 @@
 
 #include "frame/frame_painter_win.h"
 #include "theme/gradient.h"
-#include "theme/system_colours_win.h"
 
 namespace varnel {
 
@@ -19,7 +18,7 @@ void BarLabel::PaintGround(Surface& surface) {
   if (!paint_) return;
   Image bar(bar_.width(), bar_.height());
   FillGradient(bar, paint_->chrome.bar.first, paint_->chrome.bar.second, paint_->chrome.bar_angle,
-               UserSystemColours());
+               PlainColours());
   PutImage(surface, {bar_.left - box_.left, bar_.top - box_.top}, bar);
 }
 

@@ -4,7 +4,6 @@
 
 #include "base/image.h"
 #include "theme/gradient.h"
-#include "theme/system_colours_win.h"
 
 namespace varnel {
 namespace {
@@ -17,7 +16,7 @@ void PaintBar(Surface& surface, const FramePainting& frame) {
   const Rect& bar = frame.layout.pfrBAR;
   Image image(bar.width(), bar.height());
   FillGradient(image, frame.paint.chrome.bar.first, frame.paint.chrome.bar.second,
-               frame.paint.chrome.bar_angle, UserSystemColours());
+               frame.paint.chrome.bar_angle, PlainColours());
   PutImage(surface, {bar.left, bar.top}, image);
 }
 

@@ -10,12 +10,16 @@ namespace varnel {
 
 class FontMeasure : public TextMeasure {
  public:
-  FontMeasure(std::wstring face, bool bold) : face_(std::move(face)), bold_(bold) {}
+  // `fonts` outlives the measure and keeps the fonts that it measures.
+  FontMeasure(FontCache& fonts, std::wstring face, bool bold)
+      : fonts_(fonts), face_(std::move(face)), bold_(bold), dc_(::CreateCompatibleDC(nullptr)) {}
   TextExtent Measure(std::wstring_view text, int font_height) const override;
 
  private:
+  FontCache& fonts_;
   std::wstring face_;
   bool bold_;
+  UniqueDc dc_;
 };
 
 }  // namespace varnel

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "base/metafile.h"
+#include "base/pixel_mix.h"
 #include "win/com.h"
 #include "win/surface.h"
 #include "win/system_rect.h"
@@ -177,14 +178,7 @@ Image OnGround(const Image& image, COLORREF ground) {
   Image flat = image;
   const std::uint32_t below = OpaquePixel(static_cast<std::int32_t>(ground));
   for (std::uint32_t& pixel : flat.All()) {
-    const std::uint32_t opacity = pixel >> 24;
-    std::uint32_t mixed = 0xFF000000U;
-    for (int shift = 0; shift < 24; shift += 8) {
-      const std::uint32_t sum =
-          (pixel >> shift & 0xFF) * opacity + (below >> shift & 0xFF) * (255 - opacity);
-      mixed |= (sum + 127) / 255 << shift;
-    }
-    pixel = mixed;
+    pixel = MixPixels(below, pixel | 0xFF000000U, pixel >> 24);
   }
   return flat;
 }

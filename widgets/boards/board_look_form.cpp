@@ -129,7 +129,7 @@ void BoardForm::PlaceTitle(const std::wstring& title) {
 void BoardForm::PlacePenLabel() {
   TextStyle style = StripTextStyle(paint(), dpi());
   style.align = Align::kRight;
-  const FontMeasure measure(style.font.face, false);
+  const FontMeasure measure(ui().fonts, style.font.face, false);
   const std::wstring text = PenText();
   Rect box = layout().status_text;
   box.top += 1;  // below the line that the frame draws

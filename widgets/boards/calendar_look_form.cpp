@@ -67,7 +67,7 @@ void CalendarForm::OnUnload() {
 
 // What the widest title of the year takes, so that the tools stay where they are.
 int CalendarForm::TitleWidth() const {
-  const FontMeasure measure(paint().theme.strTHEMEPANELFONTNAME, true);
+  const FontMeasure measure(ui().fonts, paint().theme.strTHEMEPANELFONTNAME, true);
   int width = 0;
   for (int month = 1; month <= 12; ++month) {
     const std::wstring title = MonthTitle({calendar_.month().year, month}, services().formatter);
@@ -100,7 +100,7 @@ void CalendarForm::PlaceLabels(const Rect& panel) {
   const std::wstring title = calendar_.title();
   PlaceTitle(title);
   lblSeptember2015_.SetText(title);
-  const FontMeasure measure(paint().theme.strTHEMEPANELFONTNAME, true);
+  const FontMeasure measure(ui().fonts, paint().theme.strTHEMEPANELFONTNAME, true);
   const Rect& box = places_.title;
   const int height = FittingHeight(title, {box.width() - 2 * HaloRoom(dpi()), box.height()},
                                    Scaled(kTitleFont, dpi()), measure);
@@ -141,7 +141,7 @@ void CalendarForm::PlaceStripLabels() {
   Rect box = layout().status_text;
   box.top += 1;  // below the line that the frame draws
   const TextStyle style = StripTextStyle(paint(), dpi());
-  const FontMeasure measure(style.font.face, false);
+  const FontMeasure measure(ui().fonts, style.font.face, false);
   const int width =
       measure.Measure(StripText(), style.font.height).width + Scaled(kStripGap, dpi()) / 2;
   box.right = std::min(box.right, box.left + width);

@@ -57,7 +57,7 @@ class GridPainter {
         grid_(grid),
         month_(month),
         colours_(ColoursOf(paint)),
-        measure_(paint.theme.strTHEMEPANELFONTNAME, false) {
+        measure_(ui.fonts, paint.theme.strTHEMEPANELFONTNAME, false) {
     style_.font.face = paint.theme.strTHEMEPANELFONTNAME;
     style_.colour = colours_.ink;
     style_.ground = kWhite;

@@ -67,7 +67,7 @@ void CalculatorForm::LayOutPanel(const Rect& panel) {
 // wheel scrolls it.
 void CalculatorForm::PlaceNumber() {
   const std::wstring& text = engine_.display();
-  const FontMeasure measure(theme().strTHEMEPANELFONTNAME, false);
+  const FontMeasure measure(ui().fonts, theme().strTHEMEPANELFONTNAME, false);
   const Rect box = Inset(places_.number, 1);
   const int side_room = HaloRoom(dpi());
   const int room = box.width() - 2 * side_room;
@@ -109,7 +109,7 @@ void CalculatorForm::PlaceDisplay() {
 
 void CalculatorForm::PlaceKeys() {
   const Rect& smallest = places_.KeyPlace(CalculatorKey::kDelete);
-  const FontMeasure measure(theme().strTHEMEPANELFONTNAME, false);
+  const FontMeasure measure(ui().fonts, theme().strTHEMEPANELFONTNAME, false);
   key_font_height_ =
       FittingHeight(KeyFace(CalculatorKey::kDelete), {smallest.width() * 4 / 5, smallest.height()},
                     std::max(smallest.height() * 3 / 5, Scaled(kLeastKeyFont, dpi())), measure);
@@ -159,7 +159,7 @@ void CalculatorForm::PaintRow(Surface& surface, const SideRow& row) {
       equals == std::wstring::npos ? text.size() : equals + kBeforeResult.size();
   TextStyle style = row.text;
   style.side_room = Scaled(kRowSideRoom, dpi());
-  const FontMeasure measure(style.font.face, false);
+  const FontMeasure measure(ui().fonts, style.font.face, false);
   Rect box = row.box;
   const int room = box.width() - 3 * style.side_room;
   if (measure.Measure(text, style.font.height).width > room) {

@@ -25,7 +25,7 @@ std::wstring TimeText(int hour, int minute, int second) {
 std::optional<int> TakeNumber(std::wstring_view& text) {
   int value = 0;
   std::size_t digits = 0;
-  while (digits < 2 && digits < text.size() && text[digits] >= L'0' && text[digits] <= L'9') {
+  while (digits < 2 && digits < text.size() && IsDigit(text[digits])) {
     value = value * 10 + static_cast<int>(text[digits++] - L'0');
   }
   text.remove_prefix(digits);

@@ -56,11 +56,11 @@ void ClockForm::ShowTime(const LocalTime& now) {
 void ClockForm::LayOutPanel(const Rect& panel) {
   shape_ = ShapeOf(shown_);
   labels_ = LayOutClock({panel.width(), panel.height()}, dpi(), shape_,
-                        FontMeasure(theme().strTHEMEPANELFONTNAME, false));
+                        FontMeasure(ui().fonts, theme().strTHEMEPANELFONTNAME, false));
   PlaceLabels();
   const TextStyle strip = StripTextStyle(paint(), dpi());
   strip_date_ = StripDate(shape_, layout().status_text.width(), strip.font.height,
-                          FontMeasure(strip.font.face, false));
+                          FontMeasure(ui().fonts, strip.font.face, false));
 }
 
 void ClockForm::PlaceLabels() {

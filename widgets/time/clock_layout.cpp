@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "base/number_text.h"
+
 namespace varnel {
 namespace {
 
@@ -186,7 +188,7 @@ ClockDisplay ShapeOf(const ClockDisplay& display) {
   ClockDisplay shape = display;
   const auto blank = [](std::wstring& text) {
     for (wchar_t& unit : text) {
-      if (unit >= L'0' && unit <= L'9') unit = L'0';
+      if (IsDigit(unit)) unit = L'0';
     }
   };
   for (std::wstring* text : {&shape.time, &shape.seconds, &shape.marker, &shape.date}) blank(*text);

@@ -61,7 +61,7 @@ void CountdownForm::LayOutPanel(const Rect& panel) {
   laid_out_digits_ = MostDigits();
   const CountdownLayout place =
       LayOutCountdown({panel.width(), panel.height()}, dpi(), std::wstring(laid_out_digits_, L'0'),
-                      FontMeasure(theme().strTHEMEPANELFONTNAME, false));
+                      FontMeasure(ui().fonts, theme().strTHEMEPANELFONTNAME, false));
   display_font_height_ = place.font_height;
   const TextStyle style = FieldStyle(place.font_height);
   UniqueFont font = MakeFont(style.font);

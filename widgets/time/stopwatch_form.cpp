@@ -38,7 +38,7 @@ void StopwatchForm::LayOutPanel(const Rect& panel) {
   laid_out_length_ = engine_.shown().size();
   const StopwatchLayout place =
       LayOutStopwatch({panel.width(), panel.height()}, dpi(), engine_.shown(),
-                      FontMeasure(theme().strTHEMEPANELFONTNAME, false));
+                      FontMeasure(ui().fonts, theme().strTHEMEPANELFONTNAME, false));
   display_.Place(Within(panel, place.display), PanelTextStyle(place.font_height));
   display_.Show(place.font_height > 0);
   buttons().Place(lblStartfrmSTWwg, Within(panel, place.buttons.start));

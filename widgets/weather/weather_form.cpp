@@ -69,7 +69,7 @@ void WeatherForm::OnUnload() {
 
 void WeatherForm::LayOutPanel(const Rect& panel) {
   places_ = LayOutWeather({panel.width(), panel.height()}, dpi(), weather_.labels(),
-                          FontMeasure(theme().strTHEMEPANELFONTNAME, false));
+                          FontMeasure(ui().fonts, theme().strTHEMEPANELFONTNAME, false));
   PlaceLabels(panel);
   PlaceStrip();
 }
@@ -101,7 +101,7 @@ void WeatherForm::PlaceLabels(const Rect& panel) {
 
 void WeatherForm::PlaceStrip() {
   const TextStyle style = StripTextStyle(paint(), dpi());
-  const FontMeasure measure(style.font.face, false);
+  const FontMeasure measure(ui().fonts, style.font.face, false);
   Rect room = layout().status_text;
   room.top += 1;  // below the line that the frame draws
   const WeatherStrip texts = ChooseStrip(weather_.status(), room.width(), Scaled(kStripGap, dpi()),
