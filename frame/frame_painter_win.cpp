@@ -14,6 +14,7 @@ constexpr int kGlyphHeight = 16;
 
 void PaintBar(Surface& surface, const FramePainting& frame) {
   const Rect& bar = frame.layout.pfrBAR;
+  if (!surface.Wants(bar)) return;
   Image image(bar.width(), bar.height());
   FillGradient(image, frame.paint.chrome.bar.first, frame.paint.chrome.bar.second,
                frame.paint.chrome.bar_angle, PlainColours());

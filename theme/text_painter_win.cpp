@@ -89,7 +89,7 @@ int HaloRoom(int dpi) {
 void PaintText(Ui& ui, Surface& surface, const Rect& box, const std::wstring& text,
                const TextStyle& style) {
   const Rect area = Clipped(box, surface.size());
-  if (area.empty() || text.empty()) return;
+  if (text.empty() || !surface.Wants(area)) return;
   HFONT font = ui.fonts.Get(style.font);
   const Writing writing = WritingOf(style);
   if (style.faint) {

@@ -1,5 +1,7 @@
 #include "win/painted_window.h"
 
+#include "win/system_rect.h"
+
 namespace varnel {
 namespace {
 
@@ -13,6 +15,7 @@ class Painting {
   ~Painting() { ::EndPaint(window_, &paint_); }
 
   HDC dc() const { return dc_; }
+  Rect invalid() const { return FromSystem(paint_.rcPaint); }
 
  private:
   HWND window_;
@@ -27,7 +30,8 @@ LRESULT PaintedWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_PAINT: {
       const Painting painting(handle());
       const Rect area = client();
-      Surface surface({area.width(), area.height()});
+      Surface surface({area.width(), area.height()}, painting.invalid());
+      if (surface.wanted().empty()) return 0;
       Paint(surface);
       surface.CopyTo(painting.dc(), {0, 0});
       return 0;

@@ -11,7 +11,8 @@ class PaintedWindow : public Window {
   using Window::Window;
 
  protected:
-  // Paints the whole client area; the surface has its size and is black.
+  // Paints the client area, of which the surface, black and of its size, asks for the part that is
+  // to be seen anew. What that part shows must not depend on what is painted elsewhere.
   virtual void Paint(Surface& surface) = 0;
 
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;

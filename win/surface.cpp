@@ -7,7 +7,12 @@
 namespace varnel {
 
 Surface::Surface(Size size)
-    : size_{std::max(size.width, 1), std::max(size.height, 1)}, dc_(::CreateCompatibleDC(nullptr)) {
+    : Surface(size, {0, 0, std::max(size.width, 1), std::max(size.height, 1)}) {}
+
+Surface::Surface(Size size, const Rect& wanted)
+    : size_{std::max(size.width, 1), std::max(size.height, 1)},
+      wanted_(Intersection(wanted, RectAt({0, 0}, size_))),
+      dc_(::CreateCompatibleDC(nullptr)) {
   BITMAPINFO info = {};
   info.bmiHeader.biSize = sizeof info.bmiHeader;
   info.bmiHeader.biWidth = size_.width;
@@ -18,6 +23,7 @@ Surface::Surface(Size size)
   bitmap_ = UniqueBitmap(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
   bits_ = static_cast<std::uint32_t*>(bits);
   if (bitmap_) ::SelectObject(dc_.get(), bitmap_.get());
+  ::IntersectClipRect(dc_.get(), wanted_.left, wanted_.top, wanted_.right, wanted_.bottom);
 }
 
 std::span<std::uint32_t> Surface::pixels() {
@@ -27,18 +33,18 @@ std::span<std::uint32_t> Surface::pixels() {
 }
 
 void Surface::CopyTo(HDC target, Point corner) const {
-  ::BitBlt(target, corner.x, corner.y, size_.width, size_.height, dc(), 0, 0, SRCCOPY);
+  ::BitBlt(target, corner.x + wanted_.left, corner.y + wanted_.top, wanted_.width(),
+           wanted_.height(), dc(), wanted_.left, wanted_.top, SRCCOPY);
 }
 
 void PutImage(Surface& surface, Point corner, const Image& image) {
   const auto pixels = surface.pixels();
-  const Size size = surface.size();
-  const int left = std::max(0, -corner.x);
-  const int right = std::min(image.width(), size.width - corner.x);
-  if (pixels.empty() || left >= right) return;
-  for (int y = std::max(0, -corner.y); y < std::min(image.height(), size.height - corner.y); ++y) {
-    std::ranges::copy(image.Row(y).subspan(left, right - left),
-                      pixels.begin() + (corner.y + y) * size.width + corner.x + left);
+  const Rect shown =
+      Intersection(RectAt(corner, {image.width(), image.height()}), surface.wanted());
+  if (pixels.empty() || shown.empty()) return;
+  for (int y = shown.top; y < shown.bottom; ++y) {
+    std::ranges::copy(image.Row(y - corner.y).subspan(shown.left - corner.x, shown.width()),
+                      pixels.begin() + y * surface.size().width + shown.left);
   }
 }
 

@@ -107,7 +107,7 @@ void NotesForm::PlaceList(const Rect& panel) {
 void NotesForm::PlaceStrip() {
   const Rect room = layout().status_text;
   TextStyle style = StripTextStyle(paint(), dpi());
-  const FontMeasure measure(style.font.face, false);
+  const FontMeasure measure(ui().fonts, style.font.face, false);
   const auto width = [&](HWND label) {
     wchar_t text[400] = {};
     ::GetWindowTextW(label, text, 400);
