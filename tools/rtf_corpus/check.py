@@ -91,7 +91,7 @@ def differences(name, work, wanted):
     read = words((out / f"{stem}.txt").read_text("utf-8-sig"))
     if not in_order(wanted, read):
         yield "LibreOffice reads other words"
-    page = run("unrtf", "--html", "--quiet", work / name).decode("utf-8", "replace")
+    page = run("unrtf", "--html", "--quiet", "--nopict", work / name).decode("utf-8", "replace")
     plain = html.unescape(re.sub(r"<[^>]*>", "", re.sub(r"<br>|</p>|</td>", " ", page)))
     # It knows nothing of surrogates.
     if not in_order((unit for unit in "".join(wanted) if unit < "\U00010000"), plain):
