@@ -1,5 +1,6 @@
 #include "tests/rig/dialogs.h"
 
+#include <commctrl.h>
 #include <shlobj.h>
 
 #include <algorithm>
@@ -66,7 +67,17 @@ bool AnswerFileDialog(HWND dialog, const std::wstring& name, int filter) {
 bool AnswerFolderDialog(HWND dialog, const std::wstring& folder) {
   const RemoteMemory path(dialog, folder.c_str(), (folder.size() + 1) * sizeof(wchar_t));
   if (!path || !Control(dialog, kFolderPath)) return false;
-  Send(dialog, BFFM_SETSELECTIONW, TRUE, path.address());
+  // A dialog that is still filling its tree takes no choice.
+  HWND tree = ChildOfClass(dialog, WC_TREEVIEWW);
+  const auto chosen = [tree] { return Send(tree, TVM_GETNEXTITEM, TVGN_CARET); };
+  if (!WaitUntil([&] { return chosen() != 0; })) return false;
+  const LRESULT former = chosen();
+  if (!WaitUntil([&] {
+        Send(dialog, BFFM_SETSELECTIONW, TRUE, path.address());
+        return chosen() != former;
+      })) {
+    return false;
+  }
   PressButton(dialog, IDOK);
   return true;
 }
