@@ -6,36 +6,31 @@
 #include "base/text.h"
 
 namespace varnel {
-namespace {
 
-constexpr std::wstring_view kTotalName = L"List Total";
-
-std::wstring TotalSection(std::wstring_view prefix) {
+std::wstring ListTotalSection(std::wstring_view prefix) {
   return std::wstring(prefix) + L"\\Items Total";
 }
 
-std::wstring ItemSection(std::wstring_view prefix) {
+std::wstring ListItemSection(std::wstring_view prefix) {
   return std::wstring(prefix) + L"\\Details";
 }
 
-std::wstring ItemName(long long number) {
+std::wstring ListItemName(long long number) {
   return L"List " + NumberText(number);
 }
 
-}  // namespace
-
 void SaveList(const ListControl& list, std::wstring_view prefix, Settings& settings) {
   const int count = list.ItemCount();
-  settings.Write(TotalSection(prefix), kTotalName, NumberText(count));
+  settings.Write(ListTotalSection(prefix), kListTotal, NumberText(count));
   for (int i = 1; i <= count; ++i) {
-    settings.Write(ItemSection(prefix), ItemName(i), Trim(list.ItemText(i - 1)));
+    settings.Write(ListItemSection(prefix), ListItemName(i), Trim(list.ItemText(i - 1)));
   }
 }
 
 void LoadList(ListControl& list, std::wstring_view prefix, const Settings& settings) {
-  const auto total = WholeNumber(settings.Read(TotalSection(prefix), kTotalName, L"0"));
+  const auto total = WholeNumber(settings.Read(ListTotalSection(prefix), kListTotal, L"0"));
   for (long long i = std::min<long long>(total.value_or(0), kMostListItems); i >= 1; --i) {
-    AddListItem(list, settings.Read(ItemSection(prefix), ItemName(i), L""));
+    AddListItem(list, settings.Read(ListItemSection(prefix), ListItemName(i), L""));
   }
 }
 

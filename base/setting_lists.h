@@ -19,6 +19,13 @@ class ListControl {
   virtual void SetText(std::wstring_view text) = 0;  // the control's current text
 };
 
+// Where a stored list lies: its count under kListTotal of one section, its texts in another, each
+// under a name with its number.
+inline constexpr std::wstring_view kListTotal = L"List Total";
+std::wstring ListTotalSection(std::wstring_view prefix);
+std::wstring ListItemSection(std::wstring_view prefix);
+std::wstring ListItemName(long long number);
+
 // Loading never reads more items, whatever the stored count says.
 inline constexpr int kMostListItems = 1000;
 

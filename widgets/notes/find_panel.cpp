@@ -3,26 +3,10 @@
 #include <algorithm>
 
 #include "base/number_text.h"
+#include "base/setting_lists.h"
 #include "base/text.h"
 
 namespace varnel {
-namespace {
-
-constexpr std::wstring_view kTotalName = L"List Total";
-
-std::wstring TotalSection(std::wstring_view section) {
-  return std::wstring(section) + L"\\Items Total";
-}
-
-std::wstring EntrySection(std::wstring_view section) {
-  return std::wstring(section) + L"\\Details";
-}
-
-std::wstring EntryName(std::size_t number) {
-  return L"List " + NumberText(static_cast<long long>(number));
-}
-
-}  // namespace
 
 void HistoryAdd(FindHistory& history, std::wstring_view text) {
   if (text.empty()) return;
@@ -33,20 +17,21 @@ void HistoryAdd(FindHistory& history, std::wstring_view text) {
 
 void HistorySave(const FindHistory& history, std::wstring_view section, Settings& settings) {
   const std::size_t count = history.entries.size();
-  settings.Write(TotalSection(section), kTotalName, NumberText(static_cast<long long>(count)));
+  settings.Write(ListTotalSection(section), kListTotal, NumberText(static_cast<long long>(count)));
   for (std::size_t n = 0; n <= count; ++n) {
     const std::wstring& value = n == 0 ? history.edit_text : history.entries[n - 1];
-    settings.Write(EntrySection(section), EntryName(n), Trim(value));
+    settings.Write(ListItemSection(section), ListItemName(static_cast<long long>(n)), Trim(value));
   }
 }
 
 FindHistory HistoryLoad(std::wstring_view section, const Settings& settings) {
   FindHistory history;
-  const auto total = WholeNumber(settings.Read(TotalSection(section), kTotalName, L"0"));
+  const auto total = WholeNumber(settings.Read(ListTotalSection(section), kListTotal, L"0"));
   const long long count = std::clamp<long long>(total.value_or(0), 0, kMostHistoryEntries);
-  history.edit_text = settings.Read(EntrySection(section), EntryName(0), L"");
+  history.edit_text = settings.Read(ListItemSection(section), ListItemName(0), L"");
   for (std::size_t n = 1; n <= static_cast<std::size_t>(count); ++n) {
-    std::wstring entry = settings.Read(EntrySection(section), EntryName(n), L"");
+    std::wstring entry =
+        settings.Read(ListItemSection(section), ListItemName(static_cast<long long>(n)), L"");
     if (!entry.empty()) history.entries.push_back(std::move(entry));
   }
   return history;
