@@ -49,6 +49,7 @@ FIGURES = (
     Figure("start to painted manager", "manager", START, "ms", ratio_to="notepad", most=0.8),
     Figure("start to manager and clock", "clock", START, "ms", ratio_to="notepad"),
     Figure("start to all windows", "all widgets", START, "ms", ratio_to="notepad", most=1.5),
+    Figure("start to manager and five widgets", "five widgets", START, "ms", ratio_to="notepad"),
     Figure("start, calculator with 10,000 lines", "calculator, long log", START, "ms",
            ratio_to="calculator, empty log", most=1.2),
     Figure("CPU until manager painted", "manager", START_CPU, "ms", ratio_to="notepad"),
@@ -57,6 +58,7 @@ FIGURES = (
            ratio_to="calculator, empty log"),
     Figure("CPU until all painted", "all widgets", START_CPU, "ms", ratio_to="notepad"),
     Figure("memory, manager and clock", "clock", MEMORY, "MiB", ratio_to="notepad", most=1.2),
+    Figure("memory, manager and five widgets", "five widgets", MEMORY, "MiB", ratio_to="notepad"),
     Figure("memory, all windows", "all widgets", MEMORY, "MiB", ratio_to="notepad", most=1.5),
     # Against an empty window with as many timers of 100 ms as tick in that state.
     Figure("idle, manager", "manager", IDLE, "ms/s", ratio_to="one timer", most=1.2),
@@ -65,6 +67,14 @@ FIGURES = (
            ratio_to="two timers"),
     Figure("idle, all widgets", "all widgets", IDLE, "ms/s", ratio_to="two timers", most=2),
 )
+
+QUANTITIES = {START: "ms", START_CPU: "ms", MEMORY: "MiB", IDLE: "ms/s"}
+
+
+def against_before(name, before):
+    """Returns the figures that hold a subject against the same of another program file."""
+    return [Figure(f"{name}: {quantity}", name, quantity, unit, ratio_to=before)
+            for quantity, unit in QUANTITIES.items()]
 
 
 @dataclass(frozen=True)

@@ -9,7 +9,7 @@ import os
 import re
 import shutil
 import subprocess
-from dataclasses import dataclass, field
+from dataclasses import dataclass, field, replace
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
@@ -24,7 +24,8 @@ NOWHERE = {
     r"frmWTHpr\Details": {"Live Weather Address": "http://127.0.0.1:9/"},
 }
 LONG_LOG = "".join(f'"{i} * 3 = {i * 3}.0"\r\n' for i in range(10_000)).encode()
-ALL_WIDGETS = ("Clock", "Calc", "Calendar", "Notes", "Stopwatch", "Timer", "Whiteboard", "Weather")
+TOOLS = ("Clock", "Calc", "Stopwatch", "Timer", "Weather")
+ALL_WIDGETS = (*TOOLS, "Calendar", "Notes", "Whiteboard")
 
 
 @dataclass(frozen=True)
@@ -38,6 +39,7 @@ class Subject:
     settings: dict = field(default_factory=dict)  # section to name to text
     files: dict = field(default_factory=dict)  # name in the data folder to bytes
     presses: tuple = ()  # form and control
+    program: Path = PROGRAM
 
     @property
     def key(self):
@@ -52,7 +54,7 @@ class Subject:
         if self.command:
             return ["wine", *self.command]
         folder = "Z:" + str(self.folder).replace("/", "\\")
-        return ["wine", str(PROGRAM), "/settings", self.key, "/data", folder]
+        return ["wine", str(self.program), "/settings", self.key, "/data", folder]
 
     def prepare(self):
         """Puts its settings into the registry and its files into its folder."""
@@ -117,5 +119,11 @@ SUBJECTS = (
     ),
     Subject("calculator, empty log", windows=2, widgets=("Calc",)),
     Subject("calculator, long log", windows=2, widgets=("Calc",), files={"calc2.dat": LONG_LOG}),
-    Subject("all widgets", windows=6, widgets=ALL_WIDGETS),
+    Subject("five widgets", windows=6, widgets=TOOLS),
+    Subject("all widgets", windows=9, widgets=ALL_WIDGETS),
 )
+
+
+def of_program(subject, program):
+    """Returns a subject in the state of `subject`, run by another program file of ours."""
+    return replace(subject, name=f"{subject.name}, before", program=program)
