@@ -36,7 +36,10 @@ small_disk=$dir/small
 # Prints nothing for a process that has ended, even if nobody has asked yet how (state Z).
 started_at() { sed -n 's/.*) [^Z] //p' "/proc/$1/stat" 2>/dev/null | cut -d' ' -f19; }
 
-remember() { echo "$1 $2 $(started_at "$2")" >>"$processes"; }
+remember() {
+  [ ! -f "$processes" ] || sed -i "/^$1 /d" "$processes"
+  echo "$1 $2 $(started_at "$2")" >>"$processes"
+}
 
 lives() {
   local name pid moment
@@ -158,6 +161,15 @@ end_programs() {
 
 desktop_is_shown() { xwininfo -root -children | grep -q " $screen+0+0"; }
 
+open_desktop() {
+  detached wineserver -f -p
+  remember server $!
+  # A shell that waits for input for ever: the desktop closes when the last program on it ends.
+  detached wine cmd
+  remember desktop $!
+  wait_for 45 desktop_is_shown
+}
+
 start_session() {
   rm -f "$dir/silence"
   mkfifo -m 600 "$dir/silence"
@@ -169,12 +181,8 @@ start_session() {
   . "$environment"
   if [ "$(cat "$pristine/recipe" 2>/dev/null)" != "$(prefix_recipe)" ]; then make_prefix; fi
   cp "$pristine"/*.reg "$prefix"
-  detached wineserver -f -p
-  remember server $!
-  # A shell that waits for input for ever: the desktop closes when the last program on it ends.
-  detached wine cmd
-  remember desktop $!
-  wait_for 60 desktop_is_shown || fail "the desktop did not come up, see $log"
+  # On a busy machine the first programs of a server have been seen to wait for the desktop in vain.
+  open_desktop || { end_programs && open_desktop; } || fail "the desktop did not come up, see $log"
 }
 
 # A disk that is soon full, where this may be made: only root may.
