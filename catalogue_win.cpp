@@ -13,7 +13,7 @@
 #include "widgets/notes/notes_dialog.h"
 #include "widgets/notes/notes_folder.h"
 #include "widgets/notes/notes_form.h"
-#include "widgets/notes/spell_service_win.h"
+#include "widgets/notes/spelling/spell_service_win.h"
 #include "widgets/notes/versions_dialog.h"
 #include "widgets/time/alarm_dialog.h"
 #include "widgets/time/alarm_service_win.h"

@@ -3,10 +3,10 @@
 
 #include "catalogue_win.h"
 #include "core/application_win.h"
-#include "win/com.h"
-#include "win/hardening.h"
-#include "win/process.h"
-#include "win/single_instance.h"
+#include "win/system/com.h"
+#include "win/system/hardening.h"
+#include "win/system/process.h"
+#include "win/system/single_instance.h"
 
 namespace {
 

@@ -10,9 +10,9 @@
 #include "base/number_text.h"
 #include "bench/micro.h"
 #include "bench/strokes.h"
-#include "win/disk_files.h"
-#include "win/surface.h"
-#include "win/system_recycle_bin.h"
+#include "win/files/disk_files.h"
+#include "win/files/system_recycle_bin.h"
+#include "win/graphics/surface.h"
 
 namespace varnel::bench {
 namespace {

@@ -5,13 +5,13 @@
 
 #include "base/text.h"
 #include "bench/micro.h"
-#include "widgets/notes/find_text.h"
-#include "widgets/notes/rtf_edits.h"
-#include "widgets/notes/rtf_reader.h"
-#include "widgets/notes/rtf_writer.h"
-#include "widgets/notes/spell_rules.h"
-#include "widgets/notes/text_words.h"
-#include "widgets/notes/word_list.h"
+#include "widgets/notes/find/find_text.h"
+#include "widgets/notes/rtf/rtf_edits.h"
+#include "widgets/notes/rtf/rtf_reader.h"
+#include "widgets/notes/rtf/rtf_writer.h"
+#include "widgets/notes/spelling/spell_rules.h"
+#include "widgets/notes/spelling/word_list.h"
+#include "widgets/notes/text/text_words.h"
 
 namespace varnel::bench {
 namespace {

@@ -7,8 +7,8 @@
 #include "theme/text_painter_win.h"
 #include "widgets/calculator/calculation_log.h"
 #include "widgets/time/clock_layout.h"
-#include "win/disk_files.h"
-#include "win/font_measure.h"
+#include "win/files/disk_files.h"
+#include "win/graphics/font_measure.h"
 
 namespace varnel::bench {
 namespace {

@@ -6,9 +6,9 @@
 #include <string_view>
 
 #include "base/text.h"
-#include "widgets/notes/packed_words.h"
-#include "widgets/notes/spell_rules.h"
-#include "widgets/notes/text_words.h"
+#include "widgets/notes/spelling/packed_words.h"
+#include "widgets/notes/spelling/spell_rules.h"
+#include "widgets/notes/text/text_words.h"
 
 namespace {
 

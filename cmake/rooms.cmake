@@ -2,7 +2,7 @@
 # _dialog or _win know the platform; every other source of a room is an engine, built natively too.
 set(rooms base theme frame core dialogs widgets)
 set(VARNEL_ENGINES)
-file(GLOB VARNEL_PLATFORM CONFIGURE_DEPENDS win/*.cpp)
+file(GLOB_RECURSE VARNEL_PLATFORM CONFIGURE_DEPENDS win/*.cpp)
 foreach(room IN LISTS rooms)
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${room}/*.cpp)
   foreach(source IN LISTS sources)

@@ -6,9 +6,9 @@
 #include "core/core_settings.h"
 #include "frame/screens_win.h"
 #include "frame/sizes.h"
-#include "win/hourglass.h"
-#include "win/message_box.h"
-#include "win/window.h"
+#include "win/windows/hourglass.h"
+#include "win/windows/message_box.h"
+#include "win/windows/window.h"
 
 namespace varnel {
 namespace {

@@ -6,12 +6,12 @@
 #include "core/core_settings.h"
 #include "core/start_options.h"
 #include "theme/preset_generator.h"
-#include "win/guard.h"
-#include "win/hourglass.h"
-#include "win/message_loop.h"
-#include "win/process.h"
-#include "win/single_instance.h"
-#include "win/web_page.h"
+#include "win/net/web_page.h"
+#include "win/system/guard.h"
+#include "win/system/process.h"
+#include "win/system/single_instance.h"
+#include "win/windows/hourglass.h"
+#include "win/windows/message_loop.h"
 
 namespace varnel {
 namespace {

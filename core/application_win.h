@@ -18,10 +18,10 @@
 #include "core/widget_catalogue_win.h"
 #include "core/widget_shelf_win.h"
 #include "theme/system_colours_win.h"
-#include "win/disk_files.h"
-#include "win/local_time.h"
-#include "win/sound.h"
-#include "win/system_registry.h"
+#include "win/files/disk_files.h"
+#include "win/system/local_time.h"
+#include "win/system/sound.h"
+#include "win/system/system_registry.h"
 
 namespace varnel {
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "win/guard.h"
+#include "win/system/guard.h"
 
 namespace varnel {
 namespace {

@@ -5,9 +5,9 @@
 #include <vector>
 
 #include "frame/program.h"
-#include "win/http.h"
-#include "win/timer.h"
-#include "win/window.h"
+#include "win/net/http.h"
+#include "win/windows/timer.h"
+#include "win/windows/window.h"
 
 namespace varnel {
 

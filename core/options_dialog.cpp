@@ -5,7 +5,7 @@
 #include "frame/frame_settings.h"
 #include "frame/on_top.h"
 #include "resources/control_ids.h"
-#include "win/ui.h"
+#include "win/windows/ui.h"
 
 namespace varnel {
 namespace {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "frame/services.h"
-#include "win/dialog.h"
+#include "win/windows/dialog.h"
 
 namespace varnel {
 

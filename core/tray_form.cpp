@@ -1,7 +1,7 @@
 #include "core/tray_form.h"
 
 #include "core/core_settings.h"
-#include "win/popup_menu.h"
+#include "win/windows/popup_menu.h"
 
 namespace varnel {
 namespace {

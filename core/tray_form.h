@@ -4,9 +4,9 @@
 #include <memory>
 
 #include "frame/program.h"
-#include "win/timer.h"
-#include "win/tray_icon.h"
-#include "win/window.h"
+#include "win/windows/timer.h"
+#include "win/windows/tray_icon.h"
+#include "win/windows/window.h"
 
 namespace varnel {
 

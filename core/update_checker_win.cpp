@@ -3,10 +3,10 @@
 #include <utility>
 
 #include "base/text.h"
-#include "win/hourglass.h"
-#include "win/message_box.h"
-#include "win/ui.h"
-#include "win/web_page.h"
+#include "win/net/web_page.h"
+#include "win/windows/hourglass.h"
+#include "win/windows/message_box.h"
+#include "win/windows/ui.h"
 
 namespace varnel {
 namespace {

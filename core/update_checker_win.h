@@ -5,7 +5,7 @@
 #include <string>
 
 #include "core/update_check.h"
-#include "win/http.h"
+#include "win/net/http.h"
 
 namespace varnel {
 

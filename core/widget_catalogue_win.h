@@ -13,7 +13,7 @@
 #include "frame/family_service.h"
 #include "frame/services.h"
 #include "frame/widget_form.h"
-#include "win/dialog.h"
+#include "win/windows/dialog.h"
 
 namespace varnel {
 

@@ -3,8 +3,8 @@
 #include "base/path.h"
 #include "base/text.h"
 #include "resources/control_ids.h"
-#include "win/file_dialogs.h"
-#include "win/message_box.h"
+#include "win/windows/file_dialogs.h"
+#include "win/windows/message_box.h"
 
 namespace varnel {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "frame/data_folder.h"
 #include "frame/services.h"
-#include "win/dialog.h"
+#include "win/windows/dialog.h"
 
 namespace varnel {
 

@@ -2,8 +2,8 @@
 
 #include <windows.h>
 
-#include "win/monitors.h"
-#include "win/surface.h"
+#include "win/graphics/surface.h"
+#include "win/windows/monitors.h"
 
 namespace varnel {
 

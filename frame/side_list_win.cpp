@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "win/common_controls.h"
+#include "win/windows/common_controls.h"
 
 namespace varnel {
 namespace {

@@ -6,8 +6,8 @@
 #include "base/image.h"
 #include "base/rounded_box.h"
 #include "frame/frame_painter_win.h"
-#include "win/system_rect.h"
-#include "win/window_text.h"
+#include "win/graphics/system_rect.h"
+#include "win/windows/window_text.h"
 
 namespace varnel {
 namespace {

@@ -10,9 +10,9 @@
 #include "base/geometry.h"
 #include "theme/text_painter_win.h"
 #include "theme/widget_paint.h"
-#include "win/timer.h"
-#include "win/tooltip.h"
-#include "win/window.h"
+#include "win/windows/timer.h"
+#include "win/windows/tooltip.h"
+#include "win/windows/window.h"
 
 namespace varnel {
 

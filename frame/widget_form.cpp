@@ -8,10 +8,10 @@
 #include "frame/on_top.h"
 #include "resources/control_ids.h"
 #include "theme/theme_store.h"
-#include "win/message_box.h"
-#include "win/popup_menu.h"
-#include "win/system_rect.h"
-#include "win/user_look.h"
+#include "win/graphics/system_rect.h"
+#include "win/windows/message_box.h"
+#include "win/windows/popup_menu.h"
+#include "win/windows/user_look.h"
 
 namespace varnel {
 namespace {

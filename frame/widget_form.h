@@ -14,7 +14,7 @@
 #include "frame/window_mover_win.h"
 #include "theme/text_painter_win.h"
 #include "theme/widget_paint.h"
-#include "win/painted_window.h"
+#include "win/windows/painted_window.h"
 
 namespace varnel {
 

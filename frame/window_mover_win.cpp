@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "win/system_rect.h"
+#include "win/graphics/system_rect.h"
 
 namespace varnel {
 namespace {

@@ -8,7 +8,7 @@
 
 #include "frame/placement.h"
 #include "frame/screens_win.h"
-#include "win/window.h"
+#include "win/windows/window.h"
 
 namespace varnel {
 

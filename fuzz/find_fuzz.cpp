@@ -5,7 +5,7 @@
 #include "base/letters.h"
 #include "base/text.h"
 #include "fuzz/require.h"
-#include "widgets/notes/find_text.h"
+#include "widgets/notes/find/find_text.h"
 
 using namespace varnel;
 

@@ -1,9 +1,9 @@
 // Any bytes as RTF: through the reader, the writer, and back; pictures out and in; the mend.
 #include "base/text.h"
 #include "fuzz/require.h"
-#include "widgets/notes/rtf_mend.h"
-#include "widgets/notes/rtf_pictures.h"
-#include "widgets/notes/rtf_writer.h"
+#include "widgets/notes/rtf/rtf_mend.h"
+#include "widgets/notes/rtf/rtf_pictures.h"
+#include "widgets/notes/rtf/rtf_writer.h"
 
 using namespace varnel;
 

@@ -5,8 +5,8 @@
 #include "base/letters.h"
 #include "base/text.h"
 #include "fuzz/require.h"
-#include "widgets/notes/spell_run.h"
-#include "widgets/notes/text_words.h"
+#include "widgets/notes/spelling/spell_run.h"
+#include "widgets/notes/text/text_words.h"
 
 using namespace varnel;
 

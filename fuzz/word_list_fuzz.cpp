@@ -4,10 +4,10 @@
 
 #include "base/text.h"
 #include "fuzz/require.h"
-#include "widgets/notes/own_words.h"
-#include "widgets/notes/packed_words.h"
-#include "widgets/notes/spell_rules.h"
-#include "widgets/notes/word_list.h"
+#include "widgets/notes/spelling/own_words.h"
+#include "widgets/notes/spelling/packed_words.h"
+#include "widgets/notes/spelling/spell_rules.h"
+#include "widgets/notes/spelling/word_list.h"
 
 using namespace varnel;
 

@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "base/halo.h"
-#include "win/system_rect.h"
+#include "win/graphics/system_rect.h"
 
 namespace varnel {
 namespace {

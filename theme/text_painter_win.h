@@ -5,9 +5,9 @@
 #include <string>
 
 #include "theme/contrast.h"
-#include "win/fonts.h"
-#include "win/surface.h"
-#include "win/ui.h"
+#include "win/graphics/fonts.h"
+#include "win/graphics/surface.h"
+#include "win/windows/ui.h"
 
 namespace varnel {
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "theme/text_painter_win.h"
-#include "win/painted_window.h"
+#include "win/windows/painted_window.h"
 
 namespace varnel {
 

@@ -5,7 +5,7 @@
 
 #include "base/scroll_thumb.h"
 #include "theme/colour.h"
-#include "win/painted_window.h"
+#include "win/windows/painted_window.h"
 
 namespace varnel {
 

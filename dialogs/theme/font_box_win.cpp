@@ -2,9 +2,9 @@
 
 #include "theme/font_list.h"
 #include "theme/theme_record.h"
-#include "win/fonts.h"
-#include "win/installed_fonts.h"
-#include "win/window_text.h"
+#include "win/graphics/fonts.h"
+#include "win/graphics/installed_fonts.h"
+#include "win/windows/window_text.h"
 
 namespace varnel {
 

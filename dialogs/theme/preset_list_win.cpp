@@ -5,7 +5,7 @@
 
 #include "base/text.h"
 #include "dialogs/theme/theme_preview_win.h"
-#include "win/late_function.h"
+#include "win/system/late_function.h"
 
 namespace varnel {
 namespace {

@@ -10,9 +10,9 @@
 #include "frame/frame_settings.h"
 #include "resources/control_ids.h"
 #include "theme/preset_generator.h"
-#include "win/common_controls.h"
-#include "win/monitors.h"
-#include "win/system_rect.h"
+#include "win/graphics/system_rect.h"
+#include "win/windows/common_controls.h"
+#include "win/windows/monitors.h"
 
 namespace varnel {
 namespace {

@@ -8,9 +8,9 @@
 #include "dialogs/theme/preset_list_win.h"
 #include "dialogs/theme/theme_editor.h"
 #include "frame/services.h"
-#include "win/colour_picker.h"
-#include "win/dialog.h"
-#include "win/message_box.h"
+#include "win/windows/colour_picker.h"
+#include "win/windows/dialog.h"
+#include "win/windows/message_box.h"
 
 namespace varnel {
 

@@ -3,8 +3,8 @@
 
 #include "frame/form_entry.h"
 #include "theme/theme_record.h"
-#include "win/surface.h"
-#include "win/ui.h"
+#include "win/graphics/surface.h"
+#include "win/windows/ui.h"
 
 namespace varnel {
 

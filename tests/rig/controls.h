@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "tests/rig/forms.h"
-#include "win/rich_formats.h"
+#include "win/rich/rich_formats.h"
 
 namespace varnel::rig {
 

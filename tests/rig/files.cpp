@@ -8,7 +8,7 @@
 #include <limits>
 #include <system_error>
 
-#include "win/disk_files.h"
+#include "win/files/disk_files.h"
 
 namespace varnel::rig {
 

@@ -7,9 +7,9 @@
 #include "tests/rig/files.h"
 #include "tests/rig/forms.h"
 #include "tests/rig/wait.h"
-#include "win/com.h"
-#include "win/handles.h"
-#include "win/pictures.h"
+#include "win/graphics/pictures.h"
+#include "win/system/com.h"
+#include "win/system/handles.h"
 
 namespace varnel::rig {
 namespace {

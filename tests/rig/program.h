@@ -8,7 +8,7 @@
 
 #include "tests/rig/root.h"
 #include "tests/rig/wait.h"
-#include "win/handles.h"
+#include "win/system/handles.h"
 
 namespace varnel::rig {
 

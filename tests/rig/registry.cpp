@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "win/handles.h"
+#include "win/system/handles.h"
 
 namespace varnel::rig {
 namespace {

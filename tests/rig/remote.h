@@ -6,7 +6,7 @@
 #include <cstddef>
 
 #include "tests/rig/forms.h"
-#include "win/handles.h"
+#include "win/system/handles.h"
 
 namespace varnel::rig {
 

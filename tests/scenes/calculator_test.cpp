@@ -9,7 +9,7 @@
 #include "resources/control_ids.h"
 #include "tests/rig/scene.h"
 #include "tests/support/cases.h"
-#include "win/clipboard.h"
+#include "win/system/clipboard.h"
 
 namespace varnel {
 namespace {

@@ -12,8 +12,8 @@
 #include "tests/rig/scene.h"
 #include "widgets/boards/calendar_layout.h"
 #include "widgets/boards/calendar_sheet.h"
-#include "win/local_time.h"
-#include "win/user_week.h"
+#include "win/system/local_time.h"
+#include "win/system/user_week.h"
 
 namespace varnel {
 namespace {

@@ -5,8 +5,8 @@
 #include "resources/control_ids.h"
 #include "tests/rig/scene.h"
 #include "tests/support/cases.h"
-#include "widgets/notes/find_panel.h"
-#include "widgets/notes/spell_desk.h"
+#include "widgets/notes/find/find_panel.h"
+#include "widgets/notes/spelling/spell_desk.h"
 
 namespace varnel {
 namespace {

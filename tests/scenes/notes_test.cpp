@@ -9,9 +9,9 @@
 #include "base/text.h"
 #include "resources/control_ids.h"
 #include "tests/rig/scene.h"
-#include "widgets/notes/rtf_reader.h"
-#include "win/com.h"
-#include "win/pictures.h"
+#include "widgets/notes/rtf/rtf_reader.h"
+#include "win/graphics/pictures.h"
+#include "win/system/com.h"
 
 namespace varnel {
 namespace {

@@ -6,8 +6,8 @@
 #include "base/number_text.h"
 #include "resources/control_ids.h"
 #include "tests/rig/scene.h"
-#include "win/clipboard.h"
-#include "win/disk_files.h"
+#include "win/files/disk_files.h"
+#include "win/system/clipboard.h"
 
 namespace varnel {
 namespace {

@@ -1,7 +1,7 @@
 // A system encoding for tests: Latin-1, "?" for what it lacks.
 #pragma once
 
-#include "widgets/notes/text_file.h"
+#include "widgets/notes/text/text_file.h"
 
 namespace varnel::test {
 

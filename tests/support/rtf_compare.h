@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "widgets/notes/rtf_document.h"
+#include "widgets/notes/rtf/rtf_document.h"
 
 namespace varnel::test {
 

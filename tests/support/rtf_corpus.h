@@ -13,7 +13,7 @@
 
 #include "base/text.h"
 #include "tests/support/rtf_compare.h"
-#include "widgets/notes/utf16_units.h"
+#include "widgets/notes/text/utf16_units.h"
 
 namespace varnel::test {
 

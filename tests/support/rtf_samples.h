@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "widgets/notes/rtf_document.h"
-#include "widgets/notes/rtf_reader.h"
+#include "widgets/notes/rtf/rtf_document.h"
+#include "widgets/notes/rtf/rtf_reader.h"
 
 namespace varnel::test {
 

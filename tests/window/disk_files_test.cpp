@@ -1,5 +1,5 @@
 // The file store on the disk: the rules of all stores, and what only a disk can do.
-#include "win/disk_files.h"
+#include "win/files/disk_files.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>
@@ -9,9 +9,9 @@
 #include <fstream>
 
 #include "tests/support/file_store_contract.h"
-#include "win/debug_log.h"
-#include "win/handles.h"
-#include "win/system_recycle_bin.h"
+#include "win/files/system_recycle_bin.h"
+#include "win/system/debug_log.h"
+#include "win/system/handles.h"
 
 namespace varnel::test {
 namespace {

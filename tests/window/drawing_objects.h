@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "win/handles.h"
+#include "win/system/handles.h"
 
 namespace varnel::test {
 

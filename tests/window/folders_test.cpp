@@ -6,9 +6,9 @@
 #include "tests/rig/dialogs.h"
 #include "tests/rig/files.h"
 #include "tests/window/window_aid.h"
-#include "win/file_dialogs.h"
-#include "win/folder_watch.h"
-#include "win/recycle_bin.h"
+#include "win/files/folder_watch.h"
+#include "win/files/recycle_bin.h"
+#include "win/windows/file_dialogs.h"
 
 namespace varnel {
 namespace {

@@ -14,9 +14,9 @@
 #include "tests/window/drawing_objects.h"
 #include "theme/system_colours_win.h"
 #include "widgets/time/clock_form.h"
-#include "win/local_time.h"
-#include "win/popup_menu.h"
-#include "win/sound.h"
+#include "win/system/local_time.h"
+#include "win/system/sound.h"
+#include "win/windows/popup_menu.h"
 
 namespace varnel {
 namespace {

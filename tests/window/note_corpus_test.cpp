@@ -2,7 +2,7 @@
 #include "tests/support/memory_files.h"
 #include "tests/support/rtf_corpus.h"
 #include "tests/window/window_aid.h"
-#include "widgets/notes/note_editor_win.h"
+#include "widgets/notes/editor/note_editor_win.h"
 
 namespace varnel {
 namespace {

@@ -4,7 +4,7 @@
 #include "base/image.h"
 #include "tests/window/window_aid.h"
 #include "theme/text_painter_win.h"
-#include "win/painted_window.h"
+#include "win/windows/painted_window.h"
 
 namespace varnel {
 namespace {

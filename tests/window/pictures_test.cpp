@@ -1,5 +1,5 @@
 // Pictures: every kind that is read, damage to each, and the clipboard.
-#include "win/pictures.h"
+#include "win/graphics/pictures.h"
 
 #include <shlobj.h>
 #include <wincodec.h>
@@ -8,7 +8,7 @@
 
 #include "base/metafile.h"
 #include "tests/window/window_aid.h"
-#include "win/clipboard.h"
+#include "win/system/clipboard.h"
 
 namespace varnel {
 namespace {

@@ -6,12 +6,12 @@
 #include "core/settings_store.h"
 #include "tests/support/cases.h"
 #include "tests/window/window_aid.h"
-#include "win/disk_files.h"
-#include "win/local_time.h"
-#include "win/message_loop.h"
-#include "win/painted_window.h"
-#include "win/system_registry.h"
-#include "win/timer.h"
+#include "win/files/disk_files.h"
+#include "win/system/local_time.h"
+#include "win/system/system_registry.h"
+#include "win/windows/message_loop.h"
+#include "win/windows/painted_window.h"
+#include "win/windows/timer.h"
 
 namespace varnel {
 namespace {

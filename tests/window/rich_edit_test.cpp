@@ -1,11 +1,11 @@
 // The editor for formatted text: what its owner is promised beyond what the system's control does.
-#include "win/rich_edit.h"
+#include "win/rich/rich_edit.h"
 
 #include <random>
 
 #include "tests/rig/input.h"
 #include "tests/window/window_aid.h"
-#include "win/clipboard.h"
+#include "win/system/clipboard.h"
 
 namespace varnel {
 namespace {

@@ -8,8 +8,8 @@
 #include "tests/rig/input.h"
 #include "tests/rig/picture.h"
 #include "tests/window/window_aid.h"
-#include "win/disk_files.h"
-#include "win/rich_edit.h"
+#include "win/files/disk_files.h"
+#include "win/rich/rich_edit.h"
 
 namespace varnel {
 namespace {

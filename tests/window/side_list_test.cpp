@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/window/drawing_objects.h"
-#include "win/window.h"
+#include "win/windows/window.h"
 
 namespace varnel {
 namespace {

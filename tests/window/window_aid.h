@@ -6,8 +6,8 @@
 #include <functional>
 #include <string>
 
-#include "win/com.h"
-#include "win/window.h"
+#include "win/system/com.h"
+#include "win/windows/window.h"
 
 namespace varnel::test {
 

@@ -4,7 +4,7 @@
 
 #include "frame/window_mover_win.h"
 #include "tests/support/memory_settings.h"
-#include "win/system_rect.h"
+#include "win/graphics/system_rect.h"
 
 namespace varnel {
 namespace {

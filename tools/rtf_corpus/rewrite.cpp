@@ -2,8 +2,8 @@
 #include <cstdio>
 #include <string>
 
-#include "widgets/notes/rtf_reader.h"
-#include "widgets/notes/rtf_writer.h"
+#include "widgets/notes/rtf/rtf_reader.h"
+#include "widgets/notes/rtf/rtf_writer.h"
 
 int main(int count, char** arguments) {
   std::FILE* const file = count == 2 ? std::fopen(arguments[1], "rb") : nullptr;

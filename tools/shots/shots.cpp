@@ -21,7 +21,7 @@
 #include "theme/theme_store.h"
 #include "tools/shots/subjects.h"
 #include "widgets/weather/weather_settings.h"
-#include "win/disk_files.h"
+#include "win/files/disk_files.h"
 
 namespace varnel::shots {
 namespace {

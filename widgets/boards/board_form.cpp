@@ -12,10 +12,10 @@
 #include "base/resample.h"
 #include "resources/control_ids.h"
 #include "widgets/boards/text_picture_win.h"
-#include "win/clipboard.h"
-#include "win/message_box.h"
-#include "win/pictures.h"
-#include "win/popup_menu.h"
+#include "win/graphics/pictures.h"
+#include "win/system/clipboard.h"
+#include "win/windows/message_box.h"
+#include "win/windows/popup_menu.h"
 
 namespace varnel {
 namespace {

@@ -11,7 +11,7 @@
 #include "resources/control_ids.h"
 #include "theme/contrast.h"
 #include "widgets/boards/board_form.h"
-#include "win/font_measure.h"
+#include "win/graphics/font_measure.h"
 
 namespace varnel {
 namespace {

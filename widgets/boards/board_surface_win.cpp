@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "win/system_rect.h"
+#include "win/graphics/system_rect.h"
 
 namespace varnel {
 namespace {

@@ -5,8 +5,8 @@
 
 #include "theme/thumb_bar_win.h"
 #include "widgets/boards/drawing_board.h"
-#include "win/surface.h"
-#include "win/window.h"
+#include "win/graphics/surface.h"
+#include "win/windows/window.h"
 
 namespace varnel {
 

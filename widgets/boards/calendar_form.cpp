@@ -12,8 +12,8 @@
 #include "resources/control_ids.h"
 #include "widgets/boards/board_folders.h"
 #include "widgets/boards/calendar_settings.h"
-#include "win/pictures.h"
-#include "win/user_week.h"
+#include "win/graphics/pictures.h"
+#include "win/system/user_week.h"
 
 namespace varnel {
 namespace {

@@ -6,7 +6,7 @@
 #include "widgets/boards/calendar_layout.h"
 #include "widgets/boards/calendar_link.h"
 #include "widgets/boards/calendar_painter_win.h"
-#include "win/folder_watch.h"
+#include "win/files/folder_watch.h"
 
 namespace varnel {
 

@@ -6,7 +6,7 @@
 #include "frame/frame_painter_win.h"
 #include "resources/control_ids.h"
 #include "widgets/boards/calendar_form.h"
-#include "win/font_measure.h"
+#include "win/graphics/font_measure.h"
 
 namespace varnel {
 namespace {

@@ -7,7 +7,7 @@
 #include "base/rounded_box.h"
 #include "theme/contrast.h"
 #include "theme/text_painter_win.h"
-#include "win/font_measure.h"
+#include "win/graphics/font_measure.h"
 
 namespace varnel {
 namespace {

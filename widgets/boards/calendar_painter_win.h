@@ -6,8 +6,8 @@
 
 #include "theme/widget_paint.h"
 #include "widgets/boards/calendar_layout.h"
-#include "win/surface.h"
-#include "win/ui.h"
+#include "win/graphics/surface.h"
+#include "win/windows/ui.h"
 
 namespace varnel {
 

@@ -9,10 +9,10 @@
 #include "base/resample.h"
 #include "base/text.h"
 #include "resources/control_ids.h"
-#include "win/handles.h"
-#include "win/late_function.h"
-#include "win/pictures.h"
-#include "win/resource_data.h"
+#include "win/graphics/pictures.h"
+#include "win/system/handles.h"
+#include "win/system/late_function.h"
+#include "win/system/resource_data.h"
 
 namespace varnel {
 namespace {

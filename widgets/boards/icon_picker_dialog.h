@@ -5,7 +5,7 @@
 
 #include "frame/services.h"
 #include "widgets/boards/calendar_link.h"
-#include "win/dialog.h"
+#include "win/windows/dialog.h"
 
 namespace varnel {
 

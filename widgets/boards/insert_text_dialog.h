@@ -5,7 +5,7 @@
 
 #include "base/settings.h"
 #include "frame/services.h"
-#include "win/dialog.h"
+#include "win/windows/dialog.h"
 
 namespace varnel {
 

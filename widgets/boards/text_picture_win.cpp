@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "base/canvas.h"
-#include "win/surface.h"
+#include "win/graphics/surface.h"
 
 namespace varnel {
 

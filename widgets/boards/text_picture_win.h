@@ -5,7 +5,7 @@
 
 #include "base/image.h"
 #include "theme/colour.h"
-#include "win/fonts.h"
+#include "win/graphics/fonts.h"
 
 namespace varnel {
 

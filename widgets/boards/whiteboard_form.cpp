@@ -10,9 +10,9 @@
 #include "resources/control_ids.h"
 #include "widgets/boards/board_folders.h"
 #include "widgets/boards/board_settings.h"
-#include "win/file_dialogs.h"
-#include "win/message_box.h"
-#include "win/system_rect.h"
+#include "win/graphics/system_rect.h"
+#include "win/windows/file_dialogs.h"
+#include "win/windows/message_box.h"
 
 namespace varnel {
 namespace {

@@ -7,8 +7,8 @@
 #include "widgets/boards/board_thumbnails.h"
 #include "widgets/boards/whiteboard.h"
 #include "widgets/boards/whiteboard_layout.h"
-#include "win/folder_watch.h"
-#include "win/system_recycle_bin.h"
+#include "win/files/folder_watch.h"
+#include "win/files/system_recycle_bin.h"
 
 namespace varnel {
 

@@ -7,8 +7,8 @@
 #include "frame/command.h"
 #include "resources/control_ids.h"
 #include "widgets/calculator/pasted_number.h"
-#include "win/clipboard.h"
-#include "win/message_box.h"
+#include "win/system/clipboard.h"
+#include "win/windows/message_box.h"
 
 namespace varnel {
 namespace {

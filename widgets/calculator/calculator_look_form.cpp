@@ -6,7 +6,7 @@
 #include "resources/control_ids.h"
 #include "theme/contrast.h"
 #include "widgets/calculator/calculator_form.h"
-#include "win/font_measure.h"
+#include "win/graphics/font_measure.h"
 
 namespace varnel {
 namespace {

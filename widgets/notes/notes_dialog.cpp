@@ -6,15 +6,15 @@
 #include "base/path.h"
 #include "base/text.h"
 #include "resources/control_ids.h"
-#include "widgets/notes/note_formats_win.h"
+#include "widgets/notes/editor/note_formats_win.h"
 #include "widgets/notes/note_settings.h"
-#include "widgets/notes/note_spacing.h"
 #include "widgets/notes/notes_folder.h"
-#include "win/file_dialogs.h"
-#include "win/installed_fonts.h"
-#include "win/message_box.h"
-#include "win/surface.h"
-#include "win/ui.h"
+#include "widgets/notes/text/note_spacing.h"
+#include "win/graphics/installed_fonts.h"
+#include "win/graphics/surface.h"
+#include "win/windows/file_dialogs.h"
+#include "win/windows/message_box.h"
+#include "win/windows/ui.h"
 
 namespace varnel {
 namespace {

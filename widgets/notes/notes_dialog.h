@@ -4,8 +4,8 @@
 #include "frame/services.h"
 #include "theme/colour.h"
 #include "widgets/notes/notes_link.h"
-#include "win/colour_picker.h"
-#include "win/dialog.h"
+#include "win/windows/colour_picker.h"
+#include "win/windows/dialog.h"
 
 namespace varnel {
 

@@ -6,10 +6,10 @@
 #include "resources/control_ids.h"
 #include "widgets/notes/note_settings.h"
 #include "widgets/notes/notes_folder.h"
-#include "win/edit_box.h"
-#include "win/file_dialogs.h"
-#include "win/hourglass.h"
-#include "win/message_box.h"
+#include "win/windows/edit_box.h"
+#include "win/windows/file_dialogs.h"
+#include "win/windows/hourglass.h"
+#include "win/windows/message_box.h"
 
 namespace varnel {
 namespace {

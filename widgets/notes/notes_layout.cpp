@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "frame/panel_strip.h"
-#include "widgets/notes/panel_flow.h"
+#include "widgets/notes/panels/panel_flow.h"
 
 namespace varnel {
 namespace {

@@ -2,7 +2,7 @@
 #include <algorithm>
 
 #include "widgets/notes/notes_form.h"
-#include "win/window_text.h"
+#include "win/windows/window_text.h"
 
 namespace varnel {
 namespace {

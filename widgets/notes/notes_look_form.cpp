@@ -7,10 +7,10 @@
 #include "frame/frame_painter_win.h"
 #include "resources/control_ids.h"
 #include "theme/contrast.h"
-#include "widgets/notes/note_spacing.h"
 #include "widgets/notes/notes_form.h"
-#include "win/edit_box.h"
-#include "win/font_measure.h"
+#include "widgets/notes/text/note_spacing.h"
+#include "win/graphics/font_measure.h"
+#include "win/windows/edit_box.h"
 
 namespace varnel {
 namespace {

@@ -3,7 +3,7 @@
 
 #include "frame/command.h"
 #include "widgets/notes/notes_form.h"
-#include "win/popup_menu.h"
+#include "win/windows/popup_menu.h"
 
 namespace varnel {
 

@@ -3,13 +3,13 @@
 #include <algorithm>
 
 #include "resources/control_ids.h"
-#include "widgets/notes/fonts_panel_win.h"
-#include "widgets/notes/insert_panel_win.h"
-#include "widgets/notes/note_spacing.h"
 #include "widgets/notes/notes_form.h"
-#include "widgets/notes/paragraph_panel_win.h"
-#include "widgets/notes/spell_panel_win.h"
-#include "win/web_page.h"
+#include "widgets/notes/panels/fonts_panel_win.h"
+#include "widgets/notes/panels/insert_panel_win.h"
+#include "widgets/notes/panels/paragraph_panel_win.h"
+#include "widgets/notes/panels/spell_panel_win.h"
+#include "widgets/notes/text/note_spacing.h"
+#include "win/net/web_page.h"
 
 namespace varnel {
 namespace {

@@ -2,10 +2,10 @@
 
 #include "base/number_text.h"
 #include "resources/control_ids.h"
+#include "widgets/notes/editor/note_editor_win.h"
 #include "widgets/notes/note_desk.h"
-#include "widgets/notes/note_editor_win.h"
-#include "widgets/notes/rtf_reader.h"
-#include "win/ui.h"
+#include "widgets/notes/rtf/rtf_reader.h"
+#include "win/windows/ui.h"
 
 namespace varnel {
 namespace {

@@ -9,8 +9,8 @@
 #include "resources/control_ids.h"
 #include "theme/field_colours_win.h"
 #include "theme/theme_store.h"
-#include "win/system_rect.h"
-#include "win/user_look.h"
+#include "win/graphics/system_rect.h"
+#include "win/windows/user_look.h"
 
 namespace varnel {
 namespace {

@@ -6,8 +6,8 @@
 #include "theme/themed_label_win.h"
 #include "theme/widget_paint.h"
 #include "widgets/time/alarms.h"
-#include "win/painted_window.h"
-#include "win/reading_box.h"
+#include "win/windows/painted_window.h"
+#include "win/windows/reading_box.h"
 
 namespace varnel {
 

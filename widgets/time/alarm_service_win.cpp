@@ -1,7 +1,7 @@
 #include "widgets/time/alarm_service_win.h"
 
 #include "widgets/time/sound_commands.h"
-#include "win/sound.h"
+#include "win/system/sound.h"
 
 namespace varnel {
 

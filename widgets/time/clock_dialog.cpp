@@ -2,8 +2,8 @@
 
 #include "resources/control_ids.h"
 #include "widgets/time/clock_engine.h"
-#include "win/file_dialogs.h"
-#include "win/ui.h"
+#include "win/windows/file_dialogs.h"
+#include "win/windows/ui.h"
 
 namespace varnel {
 namespace {

@@ -3,7 +3,7 @@
 
 #include "frame/services.h"
 #include "widgets/time/alarm_service_win.h"
-#include "win/dialog.h"
+#include "win/windows/dialog.h"
 
 namespace varnel {
 

@@ -3,7 +3,7 @@
 #include "frame/command.h"
 #include "frame/frame_painter_win.h"
 #include "resources/control_ids.h"
-#include "win/font_measure.h"
+#include "win/graphics/font_measure.h"
 
 namespace varnel {
 namespace {

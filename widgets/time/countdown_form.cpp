@@ -3,11 +3,11 @@
 #include "resources/control_ids.h"
 #include "theme/contrast.h"
 #include "theme/field_colours_win.h"
-#include "win/edit_box.h"
-#include "win/font_measure.h"
-#include "win/message_box.h"
-#include "win/sound.h"
-#include "win/window_text.h"
+#include "win/graphics/font_measure.h"
+#include "win/system/sound.h"
+#include "win/windows/edit_box.h"
+#include "win/windows/message_box.h"
+#include "win/windows/window_text.h"
 
 namespace varnel {
 namespace {

@@ -2,8 +2,8 @@
 
 #include "resources/control_ids.h"
 #include "widgets/time/timer_layout.h"
-#include "win/clipboard.h"
-#include "win/font_measure.h"
+#include "win/graphics/font_measure.h"
+#include "win/system/clipboard.h"
 
 namespace varnel {
 namespace {

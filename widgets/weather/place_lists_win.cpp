@@ -1,7 +1,7 @@
 #include "widgets/weather/place_lists_win.h"
 
-#include "win/code_page.h"
-#include "win/resource_data.h"
+#include "win/system/code_page.h"
+#include "win/system/resource_data.h"
 
 namespace varnel {
 

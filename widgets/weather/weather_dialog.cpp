@@ -6,7 +6,7 @@
 #include "resources/control_ids.h"
 #include "widgets/weather/type_ahead.h"
 #include "widgets/weather/weather_settings.h"
-#include "win/ui.h"
+#include "win/windows/ui.h"
 
 namespace varnel {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "frame/services.h"
 #include "widgets/weather/weather_service_win.h"
-#include "win/dialog.h"
+#include "win/windows/dialog.h"
 
 namespace varnel {
 

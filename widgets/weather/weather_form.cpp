@@ -8,9 +8,9 @@
 #include "widgets/weather/live_source.h"
 #include "widgets/weather/weather_glyphs.h"
 #include "widgets/weather/weather_service_win.h"
-#include "win/font_measure.h"
-#include "win/web_page.h"
-#include "win/window_text.h"
+#include "win/graphics/font_measure.h"
+#include "win/net/web_page.h"
+#include "win/windows/window_text.h"
 
 namespace varnel {
 namespace {

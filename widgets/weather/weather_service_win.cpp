@@ -6,8 +6,8 @@
 #include "widgets/weather/feed_address.h"
 #include "widgets/weather/feed_text.h"
 #include "widgets/weather/weather_settings.h"
-#include "win/code_page.h"
-#include "win/hourglass.h"
+#include "win/system/code_page.h"
+#include "win/windows/hourglass.h"
 
 namespace varnel {
 namespace {

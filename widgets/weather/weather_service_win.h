@@ -12,7 +12,7 @@
 #include "widgets/weather/place_lists_win.h"
 #include "widgets/weather/weather_feed.h"
 #include "widgets/weather/weather_status.h"
-#include "win/http.h"
+#include "win/net/http.h"
 
 namespace varnel {
 
