@@ -4,14 +4,16 @@
 usage: check_sizes.py
 
 A file has at most 400 lines, a function at most 60, from the line where its declaration begins to
-its closing brace. The product has no function-like macros and leaves out the stream library, whose
-locale code would be most of the program file. At most a third of all code is tests: what stands in
-tests/ and fuzz/, with what carries it out, of all lines in C++, resource scripts, Python, shell and
-CMake. Measurements and tools count as code, but as no tests.
+its closing brace. A folder has at most 45 modules, each a header, a source or both of one name. The
+product has no function-like macros and leaves out the stream library, whose locale code would be
+most of the program file. At most a third of all code is tests: what stands in tests/ and fuzz/, with
+what carries it out, of all lines in C++, resource scripts, Python, shell and CMake. Measurements and
+tools count as code, but as no tests.
 """
 
 import re
 import sys
+from collections import Counter
 from typing import NamedTuple
 
 from sources import (
@@ -28,6 +30,7 @@ from sources import (
 
 MAX_FILE_LINES = 400
 MAX_FUNCTION_LINES = 60
+MAX_MODULES = 45
 
 FUNCTION_LIKE_MACRO = re.compile(r"^[ \t]*#[ \t]*define[ \t]+(\w+)\(", re.MULTILINE)
 STREAM_INCLUDE = re.compile(r"^[ \t]*#[ \t]*include[ \t]*<(\w*stream|iomanip|locale)>", re.MULTILINE)
@@ -132,9 +135,19 @@ def product_breaches(path, source):
     return [f"{path}: {breach}" for breach in (*macros, *streams)]
 
 
+def folder_breaches(paths):
+    """Returns one line for each folder that has more modules than one sees at a glance."""
+    modules = Counter(path.parent for path in {path.with_suffix("") for path in paths})
+    return [
+        f"{folder}: {count} modules, more than {MAX_MODULES}"
+        for folder, count in sorted(modules.items())
+        if count > MAX_MODULES
+    ]
+
+
 def check(root):
-    """Returns every breach of a file or function in the tree below `root`."""
-    breaches = []
+    """Returns every breach of a folder, file or function in the tree below `root`."""
+    breaches = folder_breaches(product_sources(root) + find_sources(root, TEST_ROOMS + AID_ROOMS))
     for path in product_sources(root):
         source = read_source(root / path)
         breaches += size_breaches(path, source) + product_breaches(path, source)

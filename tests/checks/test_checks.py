@@ -36,9 +36,9 @@ class LayersTest(TreeTest):
     ALLOWED = (
         ("base/text.cpp", '#include "base/text.h"'),
         ("base/text.cpp", "#include <string>"),
-        ("win/window.cpp", "#include <windows.h>"),
-        ("win/window.cpp", '#include "base/geometry.h"'),
-        ("theme/chrome_win.cpp", '#include "win/surface.h"'),
+        ("win/windows/window.cpp", "#include <windows.h>"),
+        ("win/windows/window.cpp", '#include "base/geometry.h"'),
+        ("theme/chrome_win.cpp", '#include "win/graphics/surface.h"'),
         ("core/menu.cpp", '#include "theme/theme_record.h"'),
         ("core/frame_form.cpp", '#include "resources/control_ids.h"'),
         ("widgets/time/clock_form.cpp", '#include "frame/widget_form.h"'),
@@ -51,18 +51,18 @@ class LayersTest(TreeTest):
         ("main.cpp", "#include <windows.h>"),
         ("tests/engine/a_test.cpp", '#include "tests/support/memory_files.h"'),
         ("tests/engine/a_test.cpp", '#include "base/text.h"'),
-        ("tests/window/a_test.cpp", '#include "win/window.h"'),
+        ("tests/window/a_test.cpp", '#include "win/windows/window.h"'),
     )
     FORBIDDEN = (
         ("base/text.cpp", '#include "core/menu.h"'),
-        ("base/text.cpp", '  #  include "win/window.h"'),
+        ("base/text.cpp", '  #  include "win/windows/window.h"'),
         ("base/text.cpp", "#include <windows.h>"),
         ("base/text.h", "#include <sys/time.h>"),
-        ("base/text_win.cpp", '#include "win/window.h"'),
-        ("win/window.cpp", '#include "theme/theme_record.h"'),
-        ("win/window.cpp", '#include "resources/control_ids.h"'),
+        ("base/text_win.cpp", '#include "win/windows/window.h"'),
+        ("win/windows/window.cpp", '#include "theme/theme_record.h"'),
+        ("win/windows/window.cpp", '#include "resources/control_ids.h"'),
         ("theme/chrome_win.cpp", '#include "core/menu.h"'),
-        ("theme/colours.cpp", '#include "win/surface.h"'),
+        ("theme/colours.cpp", '#include "win/graphics/surface.h"'),
         ("core/menu.cpp", "#include <shellapi.h>"),
         ("core/menu.cpp", "#include <fstream>"),
         ("core/menu.cpp", '#include "core/tray_form.h"'),
@@ -75,10 +75,10 @@ class LayersTest(TreeTest):
         ("dialogs/theme/theme_dialog.cpp", '#include "core/application_win.h"'),
         ("dialogs/theme/theme_dialog.cpp", '#include "dialogs/about/about_dialog.h"'),
         ("frame/widget_form.cpp", '#include "core/core_settings.h"'),
-        ("widgets/time/clock.cpp", '#include "win/timer.h"'),
+        ("widgets/time/clock.cpp", '#include "win/windows/timer.h"'),
         ("catalogue.cpp", '#include "widgets/time/clock_form.h"'),
         ("main.cpp", '#include "widgets/time/clock_form.h"'),
-        ("tests/engine/a_test.cpp", '#include "win/window.h"'),
+        ("tests/engine/a_test.cpp", '#include "win/windows/window.h"'),
         ("tests/support/fake.h", '#include "core/tray_form.h"'),
         ("fuzz/a_fuzz.cpp", '#include "core/tray_form.h"'),
     )
@@ -168,6 +168,14 @@ class SizesTest(TreeTest):
     def test_long_files_are_found(self):
         self.assertEqual(self.breaches("widgets/time/a.h", "\n" * 400), [])
         self.assertEqual(len(self.breaches("widgets/time/a.h", "\n" * 401)), 1)
+
+    def test_wide_folders_are_found(self):
+        for number in range(45):
+            self.write(f"win/files/a{number}.cpp", "\n")
+            self.write(f"win/files/a{number}.h", "\n")
+        self.assertEqual(self.breaches("win/b.cpp", "\n"), [])
+        found = self.breaches("win/files/b.cpp", "\n")
+        self.assertEqual(found, ["win/files: 46 modules, more than 45"])
 
     def test_macros_and_streams_are_for_tests_only(self):
         for line in ("#define TWICE(x) (2 * (x))", "#include <sstream>", "#include <iostream>"):
