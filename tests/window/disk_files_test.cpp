@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <thread>
 
 #include "tests/support/file_store_contract.h"
 #include "win/files/system_recycle_bin.h"
@@ -68,6 +69,21 @@ TEST(DiskFiles, ReadersWhoLetNobodyWriteLeaveTheOldContent) {
   EXPECT_EQ(rig.files().Remove(path, Removal::kForced), FileResult::kLocked);
   EXPECT_EQ(rig.files().Read(path, 10).bytes, "old");
   EXPECT_EQ(rig.files().Files(rig.folder()).files.size(), 1u);
+}
+
+TEST(DiskFiles, PassingReadersKeepNothingFromBeingReplaced) {
+  DiskRig rig;
+  const std::wstring path = rig.folder() + L"\\a.txt";
+  ASSERT_TRUE(rig.files().Replace(path, "0"));
+  std::jthread reader([&](const std::stop_token& stop) {
+    while (!stop.stop_requested()) {
+      DiskFiles().Read(path, 10);
+      ::Sleep(2);
+    }
+  });
+  for (int i = 1; i <= 60; ++i) {
+    EXPECT_EQ(rig.files().Replace(path, std::to_string(i)).result, FileResult::kDone) << i;
+  }
 }
 
 TEST(DebugLog, AnotherFileIsWrittenWhereItsOwnCannotBe) {

@@ -11,8 +11,8 @@
 namespace varnel {
 namespace {
 
-constexpr int kMoveTries = 6;
-constexpr DWORD kMovePauseMs = 20;
+constexpr DWORD kMoveTries = 12;
+constexpr DWORD kMovePauseMs = 4;  // the first one; each is so much longer
 constexpr std::size_t kMostFiles = 100'000;
 
 DWORD Attributes(const std::wstring& path) {
@@ -62,27 +62,27 @@ FileWritten WriteWhole(const std::wstring& path, std::string_view bytes) {
   return {FileResult::kDone, DiskFiles().Stamp(path)};
 }
 
-// Whether a program keeps the file from being replaced. The system says so in the same words in
-// which it refuses a file that the user has no right to.
+// Whether another program has the file open, however much it shares: the system replaces no such
+// file, and refuses it in the same words as one that the user has no right to.
 bool IsHeld(const std::wstring& path) {
-  const UniqueFile file(::CreateFileW(path.c_str(), DELETE, kShareAll, nullptr, OPEN_EXISTING,
+  const UniqueFile file(::CreateFileW(path.c_str(), DELETE, 0, nullptr, OPEN_EXISTING,
                                       FILE_ATTRIBUTE_NORMAL, nullptr));
   return !file && LastFileResult() == FileResult::kLocked;
 }
 
 FileResult MoveOver(const std::wstring& from, const std::wstring& to) {
-  for (int attempt = 1;; ++attempt) {
+  FileResult result = FileResult::kDone;
+  for (DWORD attempt = 1; attempt <= kMoveTries; ++attempt) {
     if (::MoveFileExW(from.c_str(), to.c_str(),
                       MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
       return FileResult::kDone;
     }
-    const FileResult result = LastFileResult();
-    const bool held =
-        result == FileResult::kLocked || (result == FileResult::kDenied && IsHeld(to));
-    if (!held) return result;
-    if (attempt == kMoveTries) return FileResult::kLocked;
-    ::Sleep(kMovePauseMs);
+    result = LastFileResult();
+    // Refused, too, where somebody reads the file, who may be gone before this could be asked.
+    if (result != FileResult::kLocked && result != FileResult::kDenied) return result;
+    ::Sleep(attempt * kMovePauseMs);
   }
+  return IsHeld(to) ? FileResult::kLocked : result;
 }
 
 // What keeps a file that is there from being written, as far as its attributes tell.
