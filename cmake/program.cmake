@@ -9,6 +9,7 @@ target_compile_definitions(varnel_platform PRIVATE
                            VARNEL_VERSION_MINOR=${PROJECT_VERSION_MINOR})
 target_link_libraries(varnel_platform PUBLIC varnel_engines gdi32 advapi32 shell32 ole32 oleaut32
                       comdlg32 comctl32 uuid)
+target_precompile_headers(varnel_platform PRIVATE <windows.h> ${VARNEL_STANDARD_HEADERS})
 
 # The resources are a target of their own so that tests can link the same dialogs.
 enable_language(RC)
