@@ -13,10 +13,10 @@ namespace varnel {
 struct PageFields {
   int page = 1;  // counted from 1
   int pages = 1;
-  std::wstring title;
-  std::wstring file;
-  std::wstring date;
-  std::wstring time;
+  std::wstring title{};
+  std::wstring file{};
+  std::wstring date{};
+  std::wstring time{};
 };
 
 // One field as the user writes it and knows it.

@@ -18,7 +18,7 @@
 namespace varnel::test {
 
 inline std::string LoadCorpus(const std::string& name) {
-  std::ifstream file(VARNEL_TESTS "/corpus/rtf/" + name, std::ios::binary);
+  std::ifstream file(VARNEL_CORPUS "/rtf/" + name, std::ios::binary);
   EXPECT_TRUE(file) << name;
   return {std::istreambuf_iterator<char>(file), {}};
 }
