@@ -1,6 +1,7 @@
 #include "catalogue_win.h"
 
 #include "core/options_dialog.h"
+#include "dialogs/preview/preview_dialog.h"
 #include "dialogs/theme/theme_dialog.h"
 #include "widgets/boards/calendar_folder_dialog.h"
 #include "widgets/boards/calendar_form.h"
@@ -31,6 +32,7 @@ namespace {
 void AddProgram(Catalogue& catalogue) {
   catalogue.AddDialog<OptionsDialog>(L"frmVRNpr");
   catalogue.AddDialog<ThemeDialog>(L"frmTHEME");
+  catalogue.AddDialog<PreviewDialog>(L"frmNOTpp", catalogue.SharedService<PrintDesk>());
 }
 
 void AddTime(Catalogue& catalogue) {
@@ -53,12 +55,13 @@ void AddWeather(Catalogue& catalogue) {
 }
 
 void AddBoards(Catalogue& catalogue) {
+  auto& printing = catalogue.SharedService<PrintDesk>();
   auto& whiteboard = catalogue.AddService<BoardLink>();
-  catalogue.AddWidget<WhiteboardForm>(6, whiteboard);
+  catalogue.AddWidget<WhiteboardForm>(6, whiteboard, printing);
   catalogue.AddDialog<WhiteboardTextDialog>(L"frmWBDit", whiteboard);
   catalogue.AddDialog<WhiteboardFolderDialog>(L"frmWBDpr", whiteboard);
   auto& calendar = catalogue.AddService<CalendarLink>();
-  catalogue.AddWidget<CalendarForm>(2, calendar);
+  catalogue.AddWidget<CalendarForm>(2, calendar, printing);
   catalogue.AddDialog<CalendarTextDialog>(L"frmCALit", calendar);
   catalogue.AddDialog<IconPickerDialog>(L"frmCALip", calendar);
   catalogue.AddDialog<CalendarFolderDialog>(L"frmCALpr", calendar);

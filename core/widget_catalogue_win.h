@@ -43,6 +43,15 @@ class Catalogue {
     return made;
   }
 
+  // The same for one that several families use: there is one of its kind, made for the first.
+  template <class Service>
+  Service& SharedService() {
+    for (const auto& service : family_services_) {
+      if (auto* made = dynamic_cast<Service*>(service.get())) return *made;
+    }
+    return AddService<Service>();
+  }
+
   // Says how the widget of that number (of the widget table), or the dialog of that name, is made
   // when it is wanted. `family` are the family services that its constructor takes at its end.
   template <class Form, class... Family>

@@ -283,3 +283,37 @@
 #define lstVERSIONS 1897
 #define txtVERSION 1898
 #define cmdRESTORE 1
+
+// frmNOTpp, the print preview
+#define cmdPRINT 2000
+#define cmdFIRSTPAGE 2001
+#define cmdPREVIOUSPAGE 2002
+#define cmdNEXTPAGE 2003
+#define cmdLASTPAGE 2004
+#define txtPAGE 2005
+#define lblPAGES 2006
+#define cmdZOOMOUT 2007
+#define cboZOOM 2008
+#define cmdZOOMIN 2009
+#define optSHEETS 2010  // 0 to 2: one, two or four side by side
+#define chkTHUMBS 2013
+#define chkSETUP 2014
+#define picSHEETS 2015
+#define picTHUMBS 2016
+#define lblSTATUS 2017
+#define prgPRINT 2018
+#define cmdSTOPPRINT 2019
+#define tabSETUP 2020
+// its setup's page of paper
+#define labSETUP 2021  // 0 to 7: captions
+#define cboPAPER 2029
+#define txtPAPERSIZE 2030  // 0 width, 1 height
+#define optLANDSCAPE 2032  // 0 portrait, 1 landscape
+#define txtMARGIN 2034     // 0 to 3: left, top, right, bottom
+#define chkCOLOUR 2038
+#define optFITTED 2039  // 0 fitted to the column, 1 in actual size
+// and its page of texts
+#define labTEXTS 2041  // 0 and 1: captions
+#define txtTEXTS 2043  // 0 to 2 of the header, 3 to 5 of the footer
+#define cmdFIELD 2049
+#define chkSECONDPAGE 2050

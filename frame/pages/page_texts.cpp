@@ -7,6 +7,7 @@
 namespace varnel {
 namespace {
 
+constexpr int kHalfPoints = 18;
 constexpr int kGap = 240;        // between two texts of a line, at least
 constexpr int kBandInset = 170;  // 3 mm: what a printer can hardly reach
 
@@ -33,6 +34,55 @@ PageLine LineOf(const PageLine& line, const PageTexts& texts, const PageFields& 
   std::ranges::transform(line, filled.begin(),
                          [&](const std::wstring& text) { return FilledIn(text, fields); });
   return filled;
+}
+
+// A text as wide as it may be, with an ellipsis where it had to be cut.
+PlacedText Fitted(const std::wstring& text, const PageFont& font, int width, PageMeasure& measure) {
+  PlacedText placed;
+  placed.font = font;
+  placed.text = text;
+  placed.ends.resize(text.size());
+  measure.Measure(font, text, placed.ends);
+  if (placed.width() <= width) return placed;
+  const std::wstring dots = L"\u2026";
+  int dots_width = 0;
+  measure.Measure(font, dots, std::span(&dots_width, 1));
+  const auto kept = static_cast<std::size_t>(
+      std::ranges::upper_bound(placed.ends, width - dots_width) - placed.ends.begin());
+  placed.text = text.substr(0, kept) + dots;
+  placed.ends.resize(kept);
+  placed.ends.push_back(placed.width() + dots_width);
+  return placed;
+}
+
+std::wstring WithoutControls(std::wstring text) {
+  std::ranges::replace_if(
+      text, [](wchar_t unit) { return unit < L' ' || unit == L'\x7F'; }, L' ');
+  return text;
+}
+
+void AddLine(Page& page, const PageLine& line, const Rect& band, PageMeasure& measure) {
+  const PageFont font{L"Arial", 0, kHalfPoints, false, false};
+  const FontExtent extent = measure.Extent(font);
+  std::array<PlacedText, 3> texts;
+  std::array<int, 3> widths{};
+  for (std::size_t i = 0; i < line.size(); ++i) {
+    if (line[i].empty()) continue;
+    texts[i] = Fitted(WithoutControls(line[i]), font, band.width(), measure);
+    widths[i] = texts[i].width();
+  }
+  const auto spans = PlaceTexts(widths, band.width());
+  for (std::size_t i = 0; i < line.size(); ++i) {
+    if (widths[i] == 0) continue;
+    if (spans[i].width < widths[i]) {
+      texts[i] = Fitted(WithoutControls(line[i]), font, spans[i].width, measure);
+    }
+    // Cut texts have what was left over on the side where they do not begin.
+    const int rest = std::max(spans[i].width - texts[i].width(), 0);
+    texts[i].left = band.left + spans[i].left + rest * static_cast<int>(i) / 2;
+    texts[i].base_line = (band.top + band.bottom + extent.ascent - extent.descent) / 2;
+    page.texts.push_back(std::move(texts[i]));
+  }
 }
 
 }  // namespace
@@ -89,6 +139,12 @@ Rect FooterBand(const PageSetup& setup) {
   const Rect column = ColumnOf(setup);
   return {column.left, column.bottom, column.right,
           std::max(setup.paper.height - kBandInset, column.bottom)};
+}
+
+void AddPageTexts(Page& page, const PageSetup& setup, const PageFields& fields,
+                  PageMeasure& measure) {
+  AddLine(page, HeaderOf(setup.texts, fields), HeaderBand(setup), measure);
+  AddLine(page, FooterOf(setup.texts, fields), FooterBand(setup), measure);
 }
 
 }  // namespace varnel

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "frame/pages/page.h"
 #include "frame/pages/page_setup.h"
 
 namespace varnel {
@@ -53,5 +54,9 @@ std::array<TextSpan, 3> PlaceTexts(const std::array<int, 3>& widths, int room);
 // footer's below it.
 Rect HeaderBand(const PageSetup& setup);
 Rect FooterBand(const PageSetup& setup);
+
+// Adds the header and the footer to a page that was laid out for the setup's column.
+void AddPageTexts(Page& page, const PageSetup& setup, const PageFields& fields,
+                  PageMeasure& measure);
 
 }  // namespace varnel

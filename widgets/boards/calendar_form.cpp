@@ -46,9 +46,10 @@ Image Premultiplied(const Image& straight) {
 }  // namespace
 
 CalendarForm::CalendarForm(Services& services, const FormEntry& entry, int index,
-                           CalendarLink& link)
+                           CalendarLink& link, PrintDesk& printing)
     : BoardForm(services, entry, index, kTraits, Canvas::kClearSheet),
       link_(link),
+      printing_(printing),
       calendar_(services.files, services.formatter, board_,
                 [this](Month month, const MonthInk& ink) { return PictureOfMonth(month, ink); }),
       lblSeptember2015_(services.ui),
@@ -114,8 +115,14 @@ std::vector<BoardAction> CalendarForm::MakeActions() {
       {{L"mnuCALPASTE", L"P&aste", L"Ctrl+V"}, [this] { Paste(); }, 'V', kCtrl},
       {{L"mnuCALPENS", L"&Pens"}, {}, 0, kPlain, {}, {}, [this] { return PenItems(); }, true}};
   std::ranges::move(WidthActions(), std::back_inserter(actions));
-  // Printing is still to come.
-  actions.push_back({{L"mnuCALPRINT", L"Print..."}, {}, 0, kPlain, {}, {}, {}, true});
+  actions.push_back({{L"mnuCALPRINT", L"Print...", L"Ctrl+P"},
+                     [this] { CalendarPrint(); },
+                     'P',
+                     kCtrl,
+                     {},
+                     {},
+                     {},
+                     true});
   actions.push_back({{L"mnuCALPROPS", L"Ca&lendar properties..."},
                      [this] { services().program.OpenDialog(L"frmCALpr"); }});
   return actions;

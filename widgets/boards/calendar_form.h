@@ -1,6 +1,7 @@
 // The calendar widget.
 #pragma once
 
+#include "frame/pages/print_desk_win.h"
 #include "widgets/boards/board_form.h"
 #include "widgets/boards/calendar_board.h"
 #include "widgets/boards/calendar_layout.h"
@@ -12,7 +13,8 @@ namespace varnel {
 
 class CalendarForm : public BoardForm, private CalendarWidget {  // frmCALwg
  public:
-  CalendarForm(Services& services, const FormEntry& entry, int index, CalendarLink& link);
+  CalendarForm(Services& services, const FormEntry& entry, int index, CalendarLink& link,
+               PrintDesk& printing);
 
   // Shows the month's file, or a fresh grid where there is none.
   void CalendarBoardLoad();
@@ -22,6 +24,7 @@ class CalendarForm : public BoardForm, private CalendarWidget {  // frmCALwg
   void CalendarInsertChoose();
   void CalendarMergeFloat() { AfterChange(board_.MergeFloat()); }
   void CalendarRefreshBoard();
+  void CalendarPrint();
   // Brings the tools up to date.
   void ShowIconsCal();
 
@@ -64,6 +67,7 @@ class CalendarForm : public BoardForm, private CalendarWidget {  // frmCALwg
   void OnWheel(int turn, bool ctrl);
   MonthGrid GridOfMonth(Month month, int first_weekday, bool with_today) const;
   Image PictureOfMonth(Month month, const MonthInk& ink);
+  Image PictureOn(const CalendarGrid& grid, const MonthGrid& month, const Image& sheet);
   Image PaintedGrid(const CalendarGrid& grid, const MonthGrid& month);
   // What is shown of the sheet, up to date.
   const Image& InkShown();
@@ -75,6 +79,7 @@ class CalendarForm : public BoardForm, private CalendarWidget {  // frmCALwg
   int TitleWidth() const;
 
   CalendarLink& link_;
+  PrintDesk& printing_;
   CalendarBoard calendar_;
   double month_offset_ = 0;  // the months from today's to the one that is shown
   Date today_;               // that the grid shows as today

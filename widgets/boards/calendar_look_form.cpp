@@ -4,6 +4,7 @@
 #include "base/number_text.h"
 #include "base/resample.h"
 #include "frame/frame_painter_win.h"
+#include "frame/pages/picture_paper_win.h"
 #include "resources/control_ids.h"
 #include "widgets/boards/calendar_form.h"
 #include "win/graphics/font_measure.h"
@@ -18,6 +19,7 @@ constexpr int kTodayLineFont = 10;
 constexpr int kBoardInset = 2;
 constexpr int kStripGap = 12;
 
+constexpr int kPrintedWidth = 2400;    // pixels that a printed month has at least, where it can
 constexpr Size kUsualBoard{470, 240};  // of a file that is written while nothing is shown
 
 struct ToolFace {
@@ -235,17 +237,34 @@ void CalendarForm::PaintBoard(Surface& surface, const Rect& part) {
 Image CalendarForm::PictureOfMonth(Month month, const MonthInk& ink) {
   const bool shown = grid_.size.width > 0 && grid_.size.height > 0;
   const CalendarGrid grid = shown ? grid_ : LayOutCalendarGrid(kUsualBoard, kDefaultDpi);
-  Image picture = PaintedGrid(grid, GridOfMonth(month, ink.first_weekday, false));
-  Image above;
-  if (shown && ink.sheet == board_.pixels()) {
-    above = InkShown();
-  } else {
-    above = Image(grid.size.width, grid.size.height);
-    const SheetMaps maps = MapsOf(grid);
-    Resample(ink.sheet, maps.across, maps.down, above, {0, 0, above.width(), above.height()});
-  }
+  const MonthGrid days = GridOfMonth(month, ink.first_weekday, false);
+  if (!shown || ink.sheet != board_.pixels()) return PictureOn(grid, days, ink.sheet);
+  Image picture = PaintedGrid(grid, days);
+  std::ranges::transform(picture.All(), InkShown().All(), picture.All().begin(), PixelOver);
+  return picture;
+}
+
+Image CalendarForm::PictureOn(const CalendarGrid& grid, const MonthGrid& month,
+                              const Image& sheet) {
+  Image picture = PaintedGrid(grid, month);
+  Image above(grid.size.width, grid.size.height);
+  const SheetMaps maps = MapsOf(grid);
+  Resample(sheet, maps.across, maps.down, above, {0, 0, above.width(), above.height()});
   std::ranges::transform(picture.All(), above.All(), picture.All().begin(), PixelOver);
   return picture;
+}
+
+// As it is shown, but with letters and ink as fine as paper has them.
+void CalendarForm::CalendarPrint() {
+  picMAINBOARD_.EndStroke();
+  const Size shown = grid_.size.width > 0 && grid_.size.height > 0 ? grid_.size : kUsualBoard;
+  const int finer = std::clamp(kPrintedWidth / shown.width, 1, 4);
+  const CalendarGrid grid =
+      LayOutCalendarGrid({shown.width * finer, shown.height * finer}, dpi() * finer);
+  const MonthGrid month = GridOfMonth(calendar_.month(), calendar_.first_weekday(), false);
+  printing_.Show(std::make_shared<PicturePaper>(calendar_.title(), L"",
+                                                PictureOn(grid, month, board_.pixels()),
+                                                dpi() * finer));
 }
 
 Image CalendarForm::PictureOfBoard() {

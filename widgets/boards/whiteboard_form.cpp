@@ -7,6 +7,7 @@
 #include <iterator>
 
 #include "base/bmp.h"
+#include "frame/pages/picture_paper_win.h"
 #include "resources/control_ids.h"
 #include "widgets/boards/board_folders.h"
 #include "widgets/boards/board_settings.h"
@@ -45,9 +46,10 @@ constexpr wchar_t kPictureFilter[] =
 }  // namespace
 
 WhiteboardForm::WhiteboardForm(Services& services, const FormEntry& entry, int index,
-                               BoardLink& link)
+                               BoardLink& link, PrintDesk& printing)
     : BoardForm(services, entry, index, kTraits, Canvas::kWhiteBoard),
       link_(link),
+      printing_(printing),
       whiteboard_(services.files, bin_, services.clock, board_),
       lvwFILES_(services.ui, *this),
       watch_(services.ui, [this] { SideBarRefresh(); }),
@@ -127,8 +129,8 @@ std::vector<BoardAction> WhiteboardForm::MakeActions() {
                      [this] { return list_wanted_; },
                      {},
                      true});
-  // Printing is still to come.
-  actions.push_back({{L"mnuWBOARDPRINT", L"Prin&t..."}, {}});
+  actions.push_back(
+      {{L"mnuWBOARDPRINT", L"Prin&t...", L"Ctrl+P"}, [this] { BoardPrint(); }, 'P', kCtrl});
   actions.push_back({{L"mnuWBOARDPROPS", L"Whiteboard p&roperties..."},
                      [this] { services().program.OpenDialog(L"frmWBDpr"); }});
   return actions;
@@ -165,6 +167,15 @@ void WhiteboardForm::BoardDelete() {
   if (!Ask(handle(), kDeleteQuestion) || !handle()) return;
   whiteboard_.BoardDelete(ViewSize());
   ShowBoard();
+}
+
+void WhiteboardForm::BoardPrint() {
+  picMAINBOARD_.EndStroke();
+  const auto current = whiteboard_.current();
+  const DocumentFolder& boards = whiteboard_.boards();
+  const std::wstring title = current ? std::wstring(boards.Title(*current)) : L"New board";
+  const std::wstring file = current ? std::wstring(boards.Name(*current)) : L"";
+  printing_.Show(std::make_shared<PicturePaper>(title, file, board_.Picture(), dpi()));
 }
 
 void WhiteboardForm::SideBarRefresh() {

@@ -1,6 +1,7 @@
 // The whiteboard widget.
 #pragma once
 
+#include "frame/pages/print_desk_win.h"
 #include "frame/side_list_win.h"
 #include "widgets/boards/board_form.h"
 #include "widgets/boards/board_link.h"
@@ -16,11 +17,13 @@ class WhiteboardForm : public BoardForm,  // frmWBDwg
                        private SideListOwner,
                        private BoardWidget {
  public:
-  WhiteboardForm(Services& services, const FormEntry& entry, int index, BoardLink& link);
+  WhiteboardForm(Services& services, const FormEntry& entry, int index, BoardLink& link,
+                 PrintDesk& printing);
 
   void BoardNew();
   void BoardSave();
   void BoardDelete();
+  void BoardPrint();
   void SideBarRefresh();
   void WhiteboardRenameShow();
   // "TEXT" opens the dialog in which it is typed, "PICTURE" the one in which a file is chosen.
@@ -67,6 +70,7 @@ class WhiteboardForm : public BoardForm,  // frmWBDwg
   void PlaceList(const Rect& panel);
 
   BoardLink& link_;
+  PrintDesk& printing_;
   SystemRecycleBin bin_;
   Whiteboard whiteboard_;
   BoardThumbnails thumbnails_;

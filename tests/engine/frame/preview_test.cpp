@@ -5,9 +5,9 @@
 #include <random>
 
 #include "base/number_text.h"
+#include "base/print_order.h"
 #include "dialogs/preview/page_ruler.h"
 #include "dialogs/preview/papers.h"
-#include "dialogs/preview/print_order.h"
 #include "dialogs/preview/print_settings.h"
 #include "dialogs/preview/sheet_layout.h"
 #include "tests/support/garbage_values.h"
@@ -184,7 +184,7 @@ TEST(PageRuler, MarksAreReadable) {
         last = mark.at;
         ASSERT_EQ(mark.rank == 0, !mark.label.empty());
         if (mark.rank != 0) continue;
-        ASSERT_GT((mark.at - labelled) * scale, scale < 0.02 ? 15 : 39);
+        ASSERT_GT((mark.at - labelled) * scale, scale < 0.02 ? 15 : 29);
         labelled = mark.at;
       }
       ASSERT_LE(last, kA4.width);
