@@ -73,7 +73,7 @@ void AddNotes(Catalogue& catalogue) {
   auto& notes = catalogue.AddService<NotesLink>();
   catalogue.AddFolder(kNotesFolder);
   auto& spelling = catalogue.AddService<SpellService>();
-  catalogue.AddWidget<NotesForm>(3, notes, spelling);
+  catalogue.AddWidget<NotesForm>(3, notes, spelling, catalogue.SharedService<PrintDesk>());
   catalogue.AddDialog<NotesDialog>(L"frmNOTpr", notes);
   catalogue.AddDialog<VersionsDialog>(L"frmNOTvr", notes);
 }

@@ -27,7 +27,7 @@ constexpr std::array<Division, 4> kImperial = {{{kTwipsPerInch, 1, 16},
                                                 {kTwipsPerInch, 1, 8},
                                                 {kTwipsPerInch, 1, 4},
                                                 {4 * kTwipsPerInch, 4, 8}}};
-constexpr double kLabelRoom = 8;  // times what the finest marks have
+constexpr double kLabelRoom = 6;  // times what the finest marks have
 
 template <std::size_t kCount>
 Division DivisionOf(const std::array<Division, kCount>& divisions, double scale, int least) {

@@ -18,7 +18,7 @@ struct RulerMark {
 };
 
 // The marks of a ruler along `length` twips: millimetres or parts of an inch, as dense as leaves
-// `least` pixels between two of the finest and eight times as many between two with a label.
+// `least` pixels between two of the finest and six times as many between two with a label.
 std::vector<RulerMark> RulerMarks(int length, double pixels_per_twip, LengthUnit unit, int least);
 
 // Which margin's end lies within `reach` twips of a place on the ruler; of two the nearer one.

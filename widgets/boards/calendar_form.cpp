@@ -115,14 +115,9 @@ std::vector<BoardAction> CalendarForm::MakeActions() {
       {{L"mnuCALPASTE", L"P&aste", L"Ctrl+V"}, [this] { Paste(); }, 'V', kCtrl},
       {{L"mnuCALPENS", L"&Pens"}, {}, 0, kPlain, {}, {}, [this] { return PenItems(); }, true}};
   std::ranges::move(WidthActions(), std::back_inserter(actions));
-  actions.push_back({{L"mnuCALPRINT", L"Print...", L"Ctrl+P"},
-                     [this] { CalendarPrint(); },
-                     'P',
-                     kCtrl,
-                     {},
-                     {},
-                     {},
-                     true});
+  actions.push_back(
+      {{L"mnuCALPRINT", L"Print...", L"Ctrl+P"}, [this] { CalendarPrint(); }, 'P', kCtrl});
+  actions.back().new_group = true;
   actions.push_back({{L"mnuCALPROPS", L"Ca&lendar properties..."},
                      [this] { services().program.OpenDialog(L"frmCALpr"); }});
   return actions;

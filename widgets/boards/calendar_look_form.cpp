@@ -262,9 +262,8 @@ void CalendarForm::CalendarPrint() {
   const CalendarGrid grid =
       LayOutCalendarGrid({shown.width * finer, shown.height * finer}, dpi() * finer);
   const MonthGrid month = GridOfMonth(calendar_.month(), calendar_.first_weekday(), false);
-  printing_.Show(std::make_shared<PicturePaper>(calendar_.title(), L"",
-                                                PictureOn(grid, month, board_.pixels()),
-                                                dpi() * finer));
+  printing_.Show(std::make_shared<PicturePaper>(
+      calendar_.title(), L"", PictureOn(grid, month, board_.pixels()), dpi() * finer));
 }
 
 Image CalendarForm::PictureOfBoard() {

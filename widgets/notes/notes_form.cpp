@@ -6,6 +6,10 @@
 #include "resources/control_ids.h"
 #include "widgets/notes/note_settings.h"
 #include "widgets/notes/notes_folder.h"
+#include "widgets/notes/pages/note_paper_win.h"
+#include "widgets/notes/pages/plain_document.h"
+#include "widgets/notes/rtf/rtf_reader.h"
+#include "win/system/user_units.h"
 #include "win/windows/edit_box.h"
 #include "win/windows/file_dialogs.h"
 #include "win/windows/hourglass.h"
@@ -44,9 +48,10 @@ constexpr wchar_t kExportFilter[] = L"Rich Text Paper (*.rtf)|*.rtf|Plain Text N
 }  // namespace
 
 NotesForm::NotesForm(Services& services, const FormEntry& entry, int index, NotesLink& link,
-                     SpellService& spelling)
+                     SpellService& spelling, PrintDesk& printing)
     : WidgetForm(services, entry, index),
       link_(link),
+      printing_(printing),
       editor_(services.files, EditorEvents()),
       edited_(editor_),
       formats_(editor_, services.settings),
@@ -249,8 +254,31 @@ void NotesForm::SaveState(SaveReason reason) {
   }
 }
 
+// What the editor holds, as it would be saved.
+RtfDocument NotesForm::NoteToPrint() {
+  if (editor_.rich()) {
+    const auto bytes = editor_.Bytes(NoteType::kRtf);
+    if (bytes) {
+      RtfReading reading = ReadRtf(*bytes, SystemRtfOrigin());
+      if (reading.fault == RtfFault::kNone) return std::move(reading.document);
+    }
+  }
+  CharFormat format;
+  constexpr int kMostPoints = 500;
+  format.half_points = static_cast<std::uint16_t>(
+      2 * ReadNumber(services().settings, kNoteFontSize, 1, kMostPoints));
+  return PlainDocument(editor_.edit().Units({0, editor_.edit().Length()}),
+                       {services().settings.Read(kNoteFontName), 1}, format);
+}
+
 void NotesForm::DocumentPrint() {
-  services().program.OpenDialog(L"frmNOTpp");
+  const HourglassPointer pointer;
+  const std::wstring& path = desk_.document().path();
+  // A note that is not saved yet has no file.
+  const std::size_t cut = path.rfind(L'\\');
+  printing_.Show(std::make_shared<NotePaper>(
+      desk_.document().title(), cut == std::wstring::npos ? std::wstring() : path.substr(cut + 1),
+      NoteToPrint(), UserDecimal()));
 }
 
 // --- the list

@@ -6,6 +6,7 @@
 #include <span>
 
 #include "frame/bar_label_win.h"
+#include "frame/pages/print_desk_win.h"
 #include "frame/side_list_win.h"
 #include "frame/widget_form.h"
 #include "widgets/notes/editor/editor_note_win.h"
@@ -30,7 +31,7 @@ class NotesForm : public WidgetForm,  // frmNOTwg
                   private NotesWidget {
  public:
   NotesForm(Services& services, const FormEntry& entry, int index, NotesLink& link,
-            SpellService& spelling);
+            SpellService& spelling, PrintDesk& printing);
 
   // --- documents
   void DocumentNew();
@@ -117,6 +118,7 @@ class NotesForm : public WidgetForm,  // frmNOTwg
   NoteEditor::Events EditorEvents();
   std::wstring Folder() const;
   void StartNote(NoteType type);
+  RtfDocument NoteToPrint();
   void OnEdited();
   void OnAddress(const std::wstring& address);
   void OnZoom(int notches);
@@ -196,6 +198,7 @@ class NotesForm : public WidgetForm,  // frmNOTwg
   bool Bulleted() const;
 
   NotesLink& link_;
+  PrintDesk& printing_;
   SystemRecycleBin bin_;
   NoteEditor editor_;
   EditorNote edited_;  // as the panels change it

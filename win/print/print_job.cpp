@@ -33,7 +33,9 @@ PrintFault FaultOf(int result, DWORD error) {
 }
 
 PrinterSide SideOf(HDC dc) {
-  return {dc, ::GetDeviceCaps(dc, LOGPIXELSX), ::GetDeviceCaps(dc, LOGPIXELSY),
+  return {dc,
+          ::GetDeviceCaps(dc, LOGPIXELSX),
+          ::GetDeviceCaps(dc, LOGPIXELSY),
           {-::GetDeviceCaps(dc, PHYSICALOFFSETX), -::GetDeviceCaps(dc, PHYSICALOFFSETY)}};
 }
 

@@ -23,18 +23,17 @@ int TwipsOf(int tenths) {
 }
 
 short TenthsOf(int twips) {
-  return static_cast<short>(std::clamp(static_cast<int>(twips / kTwipsPerTenth + 0.5), 1,
-                                       kMostTenths));
+  return static_cast<short>(
+      std::clamp(static_cast<int>(twips / kTwipsPerTenth + 0.5), 1, kMostTenths));
 }
 
 // The settings that the printer's driver has for the user; empty where it has none.
 std::vector<BYTE> ModeOf(const std::wstring& printer) {
-  auto* open = LateFunction<BOOL WINAPI(wchar_t*, HANDLE*, PRINTER_DEFAULTSW*)>(kSpooler,
-                                                                               "OpenPrinterW");
+  auto* open =
+      LateFunction<BOOL WINAPI(wchar_t*, HANDLE*, PRINTER_DEFAULTSW*)>(kSpooler, "OpenPrinterW");
   auto* close = LateFunction<BOOL WINAPI(HANDLE)>(kSpooler, "ClosePrinter");
-  auto* properties =
-      LateFunction<LONG WINAPI(HWND, HANDLE, wchar_t*, DEVMODEW*, DEVMODEW*, DWORD)>(
-          kSpooler, "DocumentPropertiesW");
+  auto* properties = LateFunction<LONG WINAPI(HWND, HANDLE, wchar_t*, DEVMODEW*, DEVMODEW*, DWORD)>(
+      kSpooler, "DocumentPropertiesW");
   std::wstring name = printer;
   HANDLE handle = nullptr;
   if (!open || !close || !properties || !open(name.data(), &handle, nullptr)) return {};
@@ -121,10 +120,12 @@ PaperQuery::PaperQuery(const std::wstring& printer) : shared_(std::make_shared<S
 }
 
 DWORD WINAPI PaperQuery::Run(void* shared) {
-  const std::unique_ptr<std::shared_ptr<Shared>> mine(static_cast<std::shared_ptr<Shared>*>(shared));
+  const std::unique_ptr<std::shared_ptr<Shared>> mine(
+      static_cast<std::shared_ptr<Shared>*>(shared));
   Shared& query = **mine;
-  auto* ask = LateFunction<int WINAPI(const wchar_t*, const wchar_t*, WORD, wchar_t*,
-                                      const DEVMODEW*)>(kSpooler, "DeviceCapabilitiesW");
+  auto* ask =
+      LateFunction<int WINAPI(const wchar_t*, const wchar_t*, WORD, wchar_t*, const DEVMODEW*)>(
+          kSpooler, "DeviceCapabilitiesW");
   const auto count_of = [&](WORD what, void* out) {
     return ask ? ask(query.printer.c_str(), nullptr, what, static_cast<wchar_t*>(out), nullptr)
                : -1;

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/metafile.h"
+#include "frame/pages/picture_paper_win.h"
 #include "win/graphics/pictures.h"
 
 namespace varnel {
@@ -147,6 +148,42 @@ RtfPicture PictureOfSize(PictureKind kind, std::string bytes, const Image& image
   return picture;
 }
 
+// A metafile is drawn anew at the size of the paper.
+class DrawnPicture : public PagePicture {
+ public:
+  // `crop`: what of the whole is cut away at each side, in millionths of what is left.
+  DrawnPicture(UniqueMetafile file, const Rect& crop, std::shared_ptr<const PagePicture> pixels)
+      : file_(std::move(file)), crop_(crop), pixels_(std::move(pixels)) {}
+
+  void Draw(HDC dc, const Rect& area, bool colour) const override {
+    if (!colour) return pixels_->Draw(dc, area, colour);
+    const auto part = [](int millionths, int side) {
+      return static_cast<LONG>(std::int64_t{millionths} * side / kWhole);
+    };
+    const RECT whole = {area.left - part(crop_.left, area.width()),
+                        area.top - part(crop_.top, area.height()),
+                        area.right + part(crop_.right, area.width()),
+                        area.bottom + part(crop_.bottom, area.height())};
+    const int saved = ::SaveDC(dc);
+    ::IntersectClipRect(dc, area.left, area.top, area.right, area.bottom);
+    ::PlayEnhMetaFile(dc, file_.get(), &whole);
+    ::RestoreDC(dc, saved);
+  }
+
+  static constexpr int kWhole = 1'000'000;
+
+ private:
+  UniqueMetafile file_;
+  Rect crop_;
+  std::shared_ptr<const PagePicture> pixels_;  // the same, for greys
+};
+
+UniqueMetafile MetafileIn(const RtfPicture& picture) {
+  if (picture.kind != PictureKind::kEmf) return {};
+  return UniqueMetafile(::SetEnhMetaFileBits(static_cast<UINT>(picture.bytes.size()),
+                                             reinterpret_cast<const BYTE*>(picture.bytes.data())));
+}
+
 }  // namespace
 
 std::optional<RtfPicture> PictureOfFile(std::string_view bytes) {
@@ -206,6 +243,30 @@ PictureLook LookOf(const RtfPicture& picture, int most_width) {
     size.width = most_width;
   }
   return {std::make_shared<UniqueMetafile>(MetafileOf(OnGround(part, kPaper))), size};
+}
+
+std::shared_ptr<const PagePicture> PrintedPicture(const RtfPicture& picture) {
+  const Image image = PixelsOf(picture);
+  if (image.empty()) return nullptr;
+  Size whole = WishedTwips(picture);
+  if (whole.width <= 0) whole.width = image.width() * kTwipsPerPixel;
+  if (whole.height <= 0) whole.height = image.height() * kTwipsPerPixel;
+  auto pixels = std::make_shared<Image>(OnGround(Cropped(image, picture, whole), kPaper));
+  const Rect all{0, 0, pixels->width(), pixels->height()};
+  auto painted = std::make_shared<ImagePicture>(std::move(pixels), all);
+  UniqueMetafile file = MetafileIn(picture);
+  if (!file) return painted;
+  const auto part = [](int crop, int left) {
+    return static_cast<int>(std::clamp<std::int64_t>(
+        std::int64_t{crop} * DrawnPicture::kWhole / std::max(left, 1), 0, 1'000'000'000));
+  };
+  const int across = whole.width - picture.crop_left - picture.crop_right;
+  const int down = whole.height - picture.crop_top - picture.crop_bottom;
+  return std::make_shared<DrawnPicture>(
+      std::move(file),
+      Rect{part(picture.crop_left, across), part(picture.crop_top, down),
+           part(picture.crop_right, across), part(picture.crop_bottom, down)},
+      std::move(painted));
 }
 
 }  // namespace varnel

@@ -2,12 +2,14 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "frame/pages/paged_document_win.h"
 #include "widgets/notes/rtf/rtf_document.h"
 #include "win/rich/rich_picture.h"
 
@@ -43,5 +45,9 @@ struct PictureLook {
 // What the editor shows of a picture, at most `most_width` hundredths of a millimetre wide. A
 // picture that cannot be read is a grey sheet.
 PictureLook LookOf(const RtfPicture& picture, int most_width);
+
+// The picture for paper, cropped: all pixels that there are, and metafiles as they were drawn. Null
+// for one that cannot be read.
+std::shared_ptr<const PagePicture> PrintedPicture(const RtfPicture& picture);
 
 }  // namespace varnel
