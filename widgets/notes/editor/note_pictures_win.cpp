@@ -5,6 +5,7 @@
 
 #include "base/metafile.h"
 #include "frame/pages/picture_paper_win.h"
+#include "widgets/notes/pages/picture_size.h"
 #include "win/graphics/pictures.h"
 
 namespace varnel {
@@ -37,18 +38,6 @@ std::uint32_t NumberAt(std::string_view bytes, std::size_t at, int count) {
 
 bool IsMetafile(PictureKind kind) {
   return kind == PictureKind::kEmf || kind == PictureKind::kWmf;
-}
-
-// Of the whole picture, before it is cropped.
-Size WishedTwips(const RtfPicture& picture) {
-  const auto side = [&](std::int32_t wished, std::int32_t stored) {
-    if (wished > 0) return wished;
-    // Metafiles are stored in hundredths of a millimetre.
-    return IsMetafile(picture.kind) ? static_cast<std::int32_t>(std::int64_t{stored} *
-                                                                kTwipsPerInch / kHundredthsPerInch)
-                                    : stored * kTwipsPerPixel;
-  };
-  return {side(picture.width_twips, picture.width), side(picture.height_twips, picture.height)};
 }
 
 // An old metafile as a file of its own, which begins with a header that tells its size.
