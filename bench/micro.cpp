@@ -12,6 +12,7 @@ namespace {
 void Run(std::span<char*> words) {
   std::vector<Probe> probes = EngineProbes();
   std::ranges::move(NotesProbes(), std::back_inserter(probes));
+  std::ranges::move(PageProbes(), std::back_inserter(probes));
   std::ranges::move(BoardProbes(), std::back_inserter(probes));
 #ifdef _WIN32
   std::ranges::move(PlatformProbes(), std::back_inserter(probes));

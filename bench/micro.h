@@ -56,6 +56,7 @@ struct Probe {
 
 std::vector<Probe> EngineProbes();
 std::vector<Probe> NotesProbes();
+std::vector<Probe> PageProbes();
 std::vector<Probe> BoardProbes();
 // Those that need the platform; none in a native build.
 std::vector<Probe> PlatformProbes();

@@ -80,7 +80,7 @@ std::vector<std::size_t> PlainEnds(std::wstring_view text, int width) {
 TEST(NotePages, EndLinesAsAPlainGreedyModelDoes) {
   Chance chance(1);
   PlainPageMeasure measure;
-  for (int round = 0; round < 2000; ++round) {
+  for (int round = 0; round < 800; ++round) {
     std::wstring text;
     for (int i = Below(chance, 200); i >= 0; --i) text += L"aaiiio  -"[Below(chance, 9)];
     const int width = 600 + Below(chance, 1500);

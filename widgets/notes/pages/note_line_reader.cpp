@@ -13,6 +13,9 @@ constexpr std::size_t kPiece = 64;      // units measured at once, so that littl
 constexpr std::size_t kMostMarks = 32;  // that a piece may take more to keep a character whole
 constexpr int kMostWidth = 1 << 18;     // twips of a cluster; whatever a measure answers
 
+// Its capital is a rare letter that few fonts have; in capitals it is written as it is.
+constexpr char32_t kSharpS = 0xDF;
+
 bool EndsLine(wchar_t unit) {
   return unit == kLineBreak || unit == kPageBreak;
 }
@@ -37,7 +40,7 @@ void AppendShown(const RtfDocument& document, std::size_t begin, std::size_t end
     const bool plain = one.point == 0x2011 || one.point == 0xA0;
     if (plain) {
       shown += one.point == 0xA0 ? L' ' : L'-';
-    } else if (capitals) {
+    } else if (capitals && one.point != kSharpS) {
       AppendCharacter(shown, CapitalOf(one.point));
     } else {
       shown.append(text, at, one.units);

@@ -120,7 +120,7 @@ void NoteLines::SetMark(NoteLine& line) {
   line.mark_width = reader_.Measure(line.mark_format, LetterCase::kAsTheyAre, line.mark, ends_);
   const int after = line.mark_start + line.mark_width;
   int text = line.mark_start + format.number_gap;
-  if (format.number_gap == 0 || text < after) text = StopAfter(after, format).at;
+  if (text <= after) text = StopAfter(after, format).at;
   if (format.first < 0) text = std::max(text, format.left);
   line.start = std::clamp(text, line.start, std::max(line.limit - kLeastLine, line.start));
 }
