@@ -140,8 +140,21 @@ void Stroke(std::span<const Point> points, MouseButton button) {
   ReleaseMouse(points.back(), button);
 }
 
+// When a window comes or goes beneath the pointer, Wine puts the keys into the state that the
+// display has them in, which knows nothing of ours: a held key was let go of once the program,
+// later on a busy machine, came to that. So the keys held so far are looked at before each further
+// one.
 HeldKeys::HeldKeys(std::initializer_list<WORD> keys) : keys_(keys) {
-  for (const WORD key : keys_) SendKey(key, 0);
+  constexpr int kTries = 20;
+  for (auto key = keys_.begin(); key != keys_.end(); ++key) {
+    for (int i = 0; i < kTries; ++i) {
+      const auto lost =
+          std::find_if(keys_.begin(), key, [](WORD held) { return ::GetAsyncKeyState(held) >= 0; });
+      if (lost == key) break;
+      SendKey(*lost, 0);
+    }
+    SendKey(*key, 0);
+  }
 }
 
 HeldKeys::~HeldKeys() {
