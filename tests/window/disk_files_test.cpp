@@ -7,9 +7,9 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <thread>
 
 #include "tests/support/file_store_contract.h"
+#include "win/files/file_fault.h"
 #include "win/files/system_recycle_bin.h"
 #include "win/system/debug_log.h"
 #include "win/system/handles.h"
@@ -71,19 +71,18 @@ TEST(DiskFiles, ReadersWhoLetNobodyWriteLeaveTheOldContent) {
   EXPECT_EQ(rig.files().Files(rig.folder()).files.size(), 1u);
 }
 
-TEST(DiskFiles, PassingReadersKeepNothingFromBeingReplaced) {
+TEST(DiskFiles, ReadersWhoShareEverythingAreNoLackOfRights) {
   DiskRig rig;
   const std::wstring path = rig.folder() + L"\\a.txt";
-  ASSERT_TRUE(rig.files().Replace(path, "0"));
-  std::jthread reader([&](const std::stop_token& stop) {
-    while (!stop.stop_requested()) {
-      DiskFiles().Read(path, 10);
-      ::Sleep(2);
-    }
-  });
-  for (int i = 1; i <= 60; ++i) {
-    EXPECT_EQ(rig.files().Replace(path, std::to_string(i)).result, FileResult::kDone) << i;
+  ASSERT_TRUE(rig.files().Replace(path, "old"));
+  {
+    const UniqueFile held(
+        ::CreateFileW(path.c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING, 0, nullptr));
+    ASSERT_TRUE(held);
+    EXPECT_NE(rig.files().Replace(path, "new").result, FileResult::kDenied);
   }
+  EXPECT_TRUE(rig.files().Replace(path, "newer"));
+  EXPECT_EQ(rig.files().Read(path, 10).bytes, "newer");
 }
 
 TEST(DebugLog, AnotherFileIsWrittenWhereItsOwnCannotBe) {

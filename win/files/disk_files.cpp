@@ -11,7 +11,7 @@
 namespace varnel {
 namespace {
 
-constexpr DWORD kMoveTries = 12;
+constexpr DWORD kMoveTries = 16;
 constexpr DWORD kMovePauseMs = 4;  // the first one; each is so much longer
 constexpr std::size_t kMostFiles = 100'000;
 
