@@ -1,0 +1,240 @@
+// Print preview and printing: what is looked at is what comes out.
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <algorithm>
+#include <random>
+
+#include "base/bmp.h"
+#include "base/number_text.h"
+#include "base/text.h"
+#include "resources/control_ids.h"
+#include "tests/rig/printer.h"
+#include "tests/rig/scene.h"
+#include "widgets/boards/board_folders.h"
+#include "widgets/boards/board_names.h"
+
+namespace varnel {
+namespace {
+
+using namespace rig;
+
+constexpr wchar_t kDetails[] = L"frmNOTpp\\Details";
+
+// Formatted paragraphs of every alignment, from a seed.
+std::string NoteOf(int paragraphs) {
+  static constexpr const char* kWords[] = {"the",   "quick",  "brown",      "fox",  "jumps",
+                                           "over",  "lazy",   "wizards",    "brew", "potions",
+                                           "under", "bridge", "remarkable", "a",    "stones"};
+  static constexpr const char* kAlignments[] = {"\\ql", "\\qj", "\\qr", "\\qc"};
+  std::mt19937 random(5);
+  std::string rtf =
+      "{\\rtf1\\ansi{\\fonttbl{\\f0 Times New Roman;}{\\f1 Arial;}}"
+      "{\\colortbl;\\red200\\green20\\blue20;}\\f0\\fs24 {\\b\\fs40 Heading}\\par ";
+  for (int i = 0; i < paragraphs; ++i) {
+    rtf += std::string("\\pard\\sa120") + kAlignments[random() % 4] + " ";
+    for (unsigned words = 20 + random() % 80; words > 0; --words) {
+      const std::string word = kWords[random() % std::size(kWords)];
+      const unsigned look = random() % 30;
+      rtf += look == 0   ? "{\\b " + word + "}"
+             : look == 1 ? "{\\cf1\\i " + word + "}"
+             : look == 2 ? "{\\f1\\fs32 " + word + "}"
+                         : word;
+      rtf += words > 1 ? " " : "";
+    }
+    rtf += "\\par ";
+  }
+  return rtf + "}";
+}
+
+class Printing : public Scene {
+ protected:
+  // Starts the program with one widget and opens the preview of what it shows.
+  void OpenPreview(const wchar_t* start, const wchar_t* form, const wchar_t* command) {
+    root().settings().SetText(L"frmVRNpr\\Details", start, L"True");
+    ASSERT_TRUE(program().Start(L"/tray"));
+    form_ = WaitForForm(program(), form);
+    ASSERT_TRUE(form_ && program().WaitUntilIdle());
+    ASSERT_TRUE(Activate(form_));
+    PrepareWidget();
+    Choose(form_, command);
+    preview_ = WaitForForm(program(), L"frmNOTpp");
+    ASSERT_TRUE(preview_);
+    ASSERT_SOON(PageCount() > 0);
+    ASSERT_TRUE(Activate(preview_));
+  }
+  void OpenNote(int paragraphs) {
+    WriteBytes(root().folder() + L"\\tavrin\\Journey.rtf", NoteOf(paragraphs));
+    OpenPreview(L"Start-Load-Notes", L"frmNOTwg", L"mnuNOTESPRINT");
+    ASSERT_SOON(Text(preview_).starts_with(L"Journey"));
+  }
+  void PrepareWidget() {
+    // The one document that there is.
+    HWND list = Control(form_, lvwFILES);
+    ASSERT_SOON(RowLabels(list).size() == 1);
+    const Rect rows = RectOf(list);
+    Click({rows.left + 40, rows.top + 14});
+    if (ClassOf(form_) == L"frmWBDwg") {
+      ASSERT_SOON(Text(form_).starts_with(L"Blue"));
+      return;
+    }
+    ASSERT_SOON(Text(Control(form_, rtbPAGEBOX)).find(L"Heading") != std::wstring::npos);
+  }
+  // Once all pages are laid out; 0 before.
+  int PageCount() {
+    const std::wstring text = Text(Control(preview_, lblPAGES));
+    if (!text.starts_with(L"of ") || text.ends_with(L"+")) return 0;
+    return static_cast<int>(WholeNumber(text.substr(3)).value_or(0));
+  }
+  std::wstring Page() { return Text(Control(preview_, txtPAGE)); }
+  std::wstring Status() { return Text(Control(preview_, lblSTATUS)); }
+  // The lines of every page as the preview shows them.
+  std::vector<PrintedLines> ShownPages() {
+    std::vector<PrintedLines> pages;
+    EXPECT_TRUE(ClickOn(Control(preview_, cmdFIRSTPAGE)) || Page() == L"1");
+    for (int page = 1, pages_in_all = PageCount(); page <= pages_in_all; ++page) {
+      EXPECT_SOON_EQ(Page(), NumberText(page));
+      pages.push_back(LinesOf(Text(Control(preview_, picSHEETS))));
+      if (page < pages_in_all) EXPECT_TRUE(ClickOn(Control(preview_, cmdNEXTPAGE)));
+    }
+    return pages;
+  }
+  void WithoutTexts() {
+    for (const wchar_t* name : {L"Header-Left", L"Header-Right", L"Footer-Centre"}) {
+      root().settings().SetText(kDetails, name, L"\"\"");
+    }
+  }
+  HWND PrintDialogOf() {
+    PressButton(preview_, cmdPRINT);
+    return WaitForDialog(program());
+  }
+  bool Kept(const wchar_t* name, const std::wstring& value) {
+    return WaitUntil([&] { return root().settings().Text(kDetails, name) == value; });
+  }
+
+  HWND form_ = nullptr;
+  HWND preview_ = nullptr;
+};
+
+TEST_F(Printing, AFivePageNoteComesOutAsItIsShown) {
+  const FilePrinter printer(root().folder());
+  ASSERT_TRUE(printer.ready());
+  WithoutTexts();
+  OpenNote(42);
+  ASSERT_SOON(PageCount() == 5) << PageCount();
+  const auto shown = ShownPages();
+  HWND dialog = PrintDialogOf();
+  ASSERT_TRUE(dialog);
+  ASSERT_TRUE(CloseDialog(dialog, IDOK));
+  ASSERT_SOON(Status().find(L"5 pages were sent to") != std::wstring::npos);
+  const auto printed = PrintedPages(printer.output());
+  ASSERT_EQ(printed.size(), shown.size());
+  for (std::size_t page = 0; page < shown.size(); ++page) {
+    ASSERT_EQ(printed[page].size(), shown[page].size()) << "page " << page + 1;
+    for (std::size_t line = 0; line < shown[page].size(); ++line) {
+      EXPECT_EQ(printed[page][line], shown[page][line]) << page + 1 << ", line " << line + 1;
+    }
+  }
+}
+
+TEST_F(Printing, WithoutAPrinterThePreviewWorksAndSaysSo) {
+  OpenNote(30);
+  EXPECT_SOON(Status().find(L"There is no printer") != std::wstring::npos);
+  HWND message = PrintDialogOf();
+  ASSERT_TRUE(message);
+  EXPECT_NE(DialogText(message).find(L"There is no printer on this computer"), std::wstring::npos);
+  EXPECT_TRUE(CloseDialog(message, IDOK));
+  ASSERT_TRUE(ClickOn(Control(preview_, picSHEETS)));
+  PressKey(VK_END);
+  EXPECT_SOON_EQ(Page(), NumberText(PageCount()));
+  PressKey(VK_HOME);
+  EXPECT_SOON_EQ(Page(), L"1");
+  PressKey(VK_NEXT);
+  EXPECT_SOON_EQ(Page(), L"2");
+  Chord({VK_CONTROL, '2'});
+  EXPECT_SOON_EQ(Text(Control(preview_, cboZOOM)), L"Page width");
+  Chord({VK_CONTROL, '1'});
+  EXPECT_SOON_EQ(Text(Control(preview_, cboZOOM)), L"100 %");
+  Chord({VK_CONTROL, VK_OEM_PLUS});
+  EXPECT_SOON_EQ(Text(Control(preview_, cboZOOM)), L"110 %");
+  Chord({VK_CONTROL, 'G'});
+  Type(L"1\n");
+  EXPECT_SOON_EQ(Page(), L"1");
+  ASSERT_TRUE(ClickOn(Control(preview_, picSHEETS)));
+  PressKey(VK_ESCAPE);
+  EXPECT_TRUE(WaitForNoForm(program(), L"frmNOTpp"));
+  EXPECT_TRUE(Kept(L"Zoom", L"110 %"));
+}
+
+TEST_F(Printing, MarginsAreDraggedAndTypedAndLeaveAColumn) {
+  root().settings().SetText(kDetails, L"Margin-Left", L"nonsense");
+  OpenNote(8);
+  HWND left = Control(preview_, txtMARGIN);
+  const std::wstring before = Text(left);
+  EXPECT_EQ(before, Text(Control(preview_, txtMARGIN + 2)));
+  const Rect sheets = RectOf(Control(preview_, picSHEETS));
+  // The end of the margin is where the ruler is marked by the system's colour.
+  const COLORREF mark = ::GetSysColor(COLOR_HIGHLIGHT);
+  const Picture still = StillPictureOf(Control(preview_, picSHEETS));
+  int at = 0;
+  for (int x = 0; x < still.size().width && at == 0; ++x) {
+    if (still.At({x, 10}) == mark) at = x;
+  }
+  ASSERT_GT(at, 0);
+  Drag({sheets.left + at + 1, sheets.top + 10}, {sheets.left + at + 41, sheets.top + 10});
+  EXPECT_SOON(Text(left) != before);
+  EXPECT_NE(root().settings().Text(kDetails, L"Margin-Left"), L"nonsense");
+  ASSERT_TRUE(ClickOn(left));
+  Chord({VK_CONTROL, 'A'});
+  SetText(left, L"40 cm");
+  PressKey(VK_RETURN);
+  // A page of 8.5 inches or 210 mm keeps 20 mm beside the other margin.
+  EXPECT_SOON(Text(left) == L"6.96 in" || Text(left) == L"170 mm");
+  SetText(left, L"wide");
+  PressKey(VK_RETURN);
+  EXPECT_SOON(Text(left) == L"6.96 in" || Text(left) == L"170 mm");
+}
+
+TEST_F(Printing, APrinterThatFailsIsToldInPlainWords) {
+  const FilePrinter printer(root().folder());
+  ASSERT_TRUE(printer.ready());
+  OpenNote(8);
+  HWND dialog = PrintDialogOf();
+  ASSERT_TRUE(dialog);
+  // What it writes to cannot be written any more.
+  ASSERT_TRUE(::CreateDirectoryW(printer.output().c_str(), nullptr));
+  ASSERT_TRUE(CloseDialog(dialog, IDOK));
+  HWND message = WaitForDialog(program());
+  ASSERT_TRUE(message);
+  EXPECT_NE(DialogText(message).find(printer.name()), std::wstring::npos) << DialogText(message);
+  EXPECT_TRUE(CloseDialog(message, IDOK));
+  EXPECT_SOON(IsEnabled(Control(preview_, cmdPRINT)));
+}
+
+TEST_F(Printing, AWhiteboardFillsThePage) {
+  const FilePrinter printer(root().folder());
+  ASSERT_TRUE(printer.ready());
+  Image board(400, 300, 0xFFFFFFFF);
+  board.Fill(Rect{100, 100, 300, 200}, 0xFF2060C0);
+  WriteBytes(root().folder() + std::wstring(kWhiteboardFolder.below_program) + L"Blue" +
+                 std::wstring(kBoardEnding),
+             WriteBmp(board, BmpDepth::k24Bits));
+  OpenPreview(L"Start-Load-Whiteboard", L"frmWBDwg", L"mnuWBOARDPRINT");
+  EXPECT_EQ(PageCount(), 1);
+  EXPECT_TRUE(IsEnabled(Control(preview_, optFITTED)));
+  HWND dialog = PrintDialogOf();
+  ASSERT_TRUE(dialog);
+  ASSERT_TRUE(CloseDialog(dialog, IDOK));
+  ASSERT_SOON(Status().find(L"1 page was sent to") != std::wstring::npos);
+  const Picture page = Picture::FromFile(PictureOfPage(printer.output(), 1, 36));
+  ASSERT_GT(page.size().width, 200);
+  if (!artifacts().empty()) page.Save(artifacts() + L"\\printed-board.bmp");
+  const Rect whole{0, 0, page.size().width, page.size().height};
+  const int blue = page.CountNear(whole, RGB(0x20, 0x60, 0xC0), 24);
+  // A sixth of the picture, which is as wide as the column.
+  const double column = page.size().width - 2 * 36 * 0.787;
+  EXPECT_NEAR(blue, column * column * 0.75 / 6, column * column * 0.02);
+}
+
+}  // namespace
+}  // namespace varnel
