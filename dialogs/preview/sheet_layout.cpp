@@ -37,7 +37,7 @@ SheetLayout::SheetLayout(const SheetRoom& room) : room_(room) {
   const int high = Rows() * RowHeight() + room.gap;
   whole_ = {std::max(wide, room.view.width), std::max(high, room.view.height)};
   left_ = (whole_.width - wide) / 2 + room.gap;
-  top_ = (whole_.height - high) / 2 + room.gap;
+  top_ = (room.from_top ? 0 : (whole_.height - high) / 2) + room.gap;
 }
 
 int SheetLayout::percent() const {

@@ -59,6 +59,7 @@ void SheetView::LayOut() {
   room.gap = Scaled(kind_ == Kind::kSheets ? kGap : kThumbGap, dpi());
   if (kind_ == Kind::kThumbs) {
     room.columns = kThumbColumns;
+    room.from_top = true;
     room.caption = Scaled(kThumbCaption, dpi());
   }
   layout_ = SheetLayout(room);
