@@ -93,7 +93,6 @@ void PreviewDialog::OnOpen() {
                  work.top + (work.height() - size.height) / 2, size.width, size.height,
                  SWP_NOZORDER | SWP_NOACTIVATE);
   Arrange();
-  ::SetFocus(picSHEETS_->handle());
 }
 
 void PreviewDialog::OnReopen() {

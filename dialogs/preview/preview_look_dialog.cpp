@@ -85,12 +85,9 @@ void PreviewDialog::ShowStatus() {
 
 void PreviewDialog::ShowZoom() {
   if (!picSHEETS_ || !picSHEETS_->handle()) return;
-  std::wstring text = ZoomText(settings_.zoom);
-  if (::GetFocus() == Control(cboZOOM) || ::IsChild(Control(cboZOOM), ::GetFocus())) {
-    // What is being written there stays until it is taken.
-    if (ControlText(cboZOOM) == text) return;
-  }
-  SetControlText(cboZOOM, text);
+  const std::wstring text = ZoomText(settings_.zoom);
+  // What is selected there stays so.
+  if (ControlText(cboZOOM) != text) SetControlText(cboZOOM, text);
   constexpr int kColumns[] = {1, 2, 4};
   for (int i = 0; i < 3; ++i) SetChecked(optSHEETS + i, kColumns[i] == settings_.columns);
   SetChecked(chkTHUMBS, settings_.thumbs);

@@ -211,8 +211,8 @@ void PreviewDialog::Apply() {
   if (printing()) return;
   pages_.SetUp(SetupOf(settings_));
   ShowSetup();
-  SetZoom(settings_.zoom);
   CountPages();
+  ShowZoom();
   ShowPage();
   WritePrintSettings(services_.settings, settings_);
   StartTicking();

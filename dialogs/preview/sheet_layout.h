@@ -12,11 +12,11 @@ struct SheetRoom {
   Size view;      // what shows them, in pixels
   int dpi = kDefaultDpi;
   SheetZoom zoom;
-  int columns = 1;      // sheets side by side, where there are so many
-  int gap = 16;         // around and between sheets, in pixels
-  int caption = 0;      // below each sheet, in pixels
+  int columns = 1;        // sheets side by side, where there are so many
+  int gap = 16;           // around and between sheets, in pixels
+  int caption = 0;        // below each sheet, in pixels
   bool from_top = false;  // else in the middle, where there is room
-  int extra_width = 0;  // of the view, which the sheets do not fill at page width: a scroll bar
+  int extra_width = 0;    // of the view, which the sheets do not fill at page width: a scroll bar
 };
 
 // Points and rectangles are in pixels of the whole, from its upper left corner; `scroll` is the
