@@ -12,6 +12,7 @@
 #include "tests/rig/files.h"
 #include "tests/rig/input.h"
 #include "tests/rig/menus.h"
+#include "tools/shots/preview_subjects.h"
 #include "tools/shots/sample_boards.h"
 #include "tools/shots/sample_month.h"
 
@@ -353,6 +354,7 @@ const std::vector<Subject>& Subjects() {
     std::vector<Subject> all = OtherSubjects();
     std::ranges::move(WhiteboardSubjects(), std::back_inserter(all));
     std::ranges::move(CalendarSubjects(), std::back_inserter(all));
+    std::ranges::move(PreviewSubjects(), std::back_inserter(all));
     return all;
   }();
   return subjects;
