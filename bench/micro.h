@@ -61,5 +61,6 @@ std::vector<Probe> BoardProbes();
 // Those that need the platform; none in a native build.
 std::vector<Probe> PlatformProbes();
 std::vector<Probe> BoardPlatformProbes();
+std::vector<Probe> PagePlatformProbes();
 
 }  // namespace varnel::bench
