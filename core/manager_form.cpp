@@ -1,7 +1,8 @@
 #include "core/manager_form.h"
 
 #include "base/number_text.h"
-#include "core/shared_menu.h"
+#include "core/manager_commands.h"
+#include "frame/command_id.h"
 #include "resources/control_ids.h"
 
 namespace varnel {
@@ -10,16 +11,6 @@ namespace {
 constexpr wchar_t kStar = L'\xE200';
 constexpr wchar_t kEmptyStar = L'\xE201';
 
-constexpr Command kBringToFront{L"mnuVRNFRONT", L"&Bring all to front"};
-constexpr Command kArrange{L"mnuVRNARRANGE", L"Arran&ge all"};
-constexpr Command kCloseAll{L"mnuVRNCLOSEALL", L"&Close all"};
-
-struct ManagerCommand {
-  Command command;
-  int mode;
-};
-constexpr ManagerCommand kCommands[] = {{kBringToFront, 0}, {kArrange, 3}, {kCloseAll, 8}};
-
 bool IsTile(int id) {
   return id >= lblNUMBER && id < lblNUMBER + kWidgetCount;
 }
@@ -27,9 +18,15 @@ bool IsTile(int id) {
 }  // namespace
 
 ManagerForm::ManagerForm(Services& services, WidgetHost& host)
-    : WidgetForm(services, kManagerForm, kManagerIndex),
+    : WidgetForm(services, kManagerForm, kManagerIndex, {kManagerCommands}),
       host_(host),
-      states_(services.settings, *this) {}
+      states_(services.settings, *this) {
+  const auto mode = [this](int mode) { return [this, mode] { WidgetSel(mode); }; };
+  const auto any_open = [this] { return states_.OpenCount() > 0; };
+  commands().Bind({{L"mnuVRNFRONT", mode(0), any_open},
+                   {L"mnuVRNARRANGE", mode(3), any_open},
+                   {L"mnuVRNCLOSEALL", mode(8), any_open}});
+}
 
 void ManagerForm::OnLoad() {
   for (int i = 0; i < kWidgetCount; ++i) {
@@ -138,26 +135,6 @@ std::wstring ManagerForm::StatusText() const {
   int available = 0;
   for (int i = 0; i < kWidgetCount; ++i) available += host_.Available(i) ? 1 : 0;
   return NumberText(states_.OpenCount()) + L" of " + NumberText(available) + L" open";
-}
-
-std::vector<MenuItem> ManagerForm::MenuGroup() const {
-  std::vector<MenuItem> items;
-  for (const ManagerCommand& entry : kCommands) {
-    // Apart from the others, where a slip of the mouse would cost more.
-    if (entry.mode == 8) items.push_back(MenuSeparator());
-    items.push_back(ItemOf(entry.command, states_.OpenCount() > 0));
-  }
-  return items;
-}
-
-bool ManagerForm::RunOwnCommand(int id) {
-  for (const ManagerCommand& entry : kCommands) {
-    if (CommandId(entry.command.name) == id) {
-      WidgetSel(entry.mode);
-      return true;
-    }
-  }
-  return false;
 }
 
 }  // namespace varnel

@@ -63,8 +63,6 @@ class ManagerForm : public WidgetForm, private WidgetWindows {  // frmVRNwg
   void DrawPanelButton(const ButtonPainting& painting) override;
   void OnControl(int id, int code) override;
   std::wstring StatusText() const override;
-  std::vector<MenuItem> MenuGroup() const override;
-  bool RunOwnCommand(int id) override;
   void OnCloseButton() override { services().program.ExitProgram(); }
 
   WidgetHost& host_;

@@ -62,6 +62,11 @@ void TextButtons::TellWord(int id, bool on) {
   if (found != buttons_.end()) found->tells_word = on;
 }
 
+void TextButtons::TellKey(int id, std::wstring key) {
+  const auto found = std::ranges::find(buttons_, id, &TextButton::id);
+  if (found != buttons_.end()) found->key = std::move(key);
+}
+
 void TextButtons::OnMouseOver(HWND control) {
   const auto found = std::ranges::find(buttons_, control, &TextButton::handle);
   if (found == buttons_.end() || found->id == hovered_) return;
@@ -73,7 +78,8 @@ void TextButtons::OnMouseOver(HWND control) {
 }
 
 void TextButtons::ShowTooltip(const TextButton& button) {
-  const std::wstring word = button.tells_word ? WindowText(button.handle) : L"";
+  std::wstring word = button.tells_word ? WindowText(button.handle) : L"";
+  if (!word.empty() && !button.key.empty()) word += L" (" + button.key + L")";
   tooltip_.Attach(owner_.handle(), button.handle, word);
 }
 

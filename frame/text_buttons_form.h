@@ -22,6 +22,7 @@ struct TextButton {
   wchar_t glyph = 0;    // drawn in place of the window text; 0 draws the text
   bool on_bar = false;  // on the title bar, else on the panel
   bool tells_word = false;
+  std::wstring key = {};  // which the tooltip tells behind the word
 };
 
 // One button about to be drawn.
@@ -50,6 +51,8 @@ class TextButtons {
   void Enable(int id, bool on);
   // Whether a tooltip tells the button's word; at first where a glyph stands in place of it.
   void TellWord(int id, bool on);
+  // The key that does the same; the tooltip tells it behind the word.
+  void TellKey(int id, std::wstring key);
   const std::vector<TextButton>& all() const { return buttons_; }
 
   // The button under the mouse, or null.

@@ -6,6 +6,7 @@
 #include "frame/frame_painter_win.h"
 #include "frame/frame_settings.h"
 #include "frame/on_top.h"
+#include "frame/pressed_key_win.h"
 #include "resources/control_ids.h"
 #include "theme/theme_store.h"
 #include "win/graphics/system_rect.h"
@@ -19,19 +20,17 @@ namespace {
 constexpr wchar_t kBarGlyphs[] = {L'\xE204', L'\xE203', L'\xE202'};
 constexpr const wchar_t* kBarWords[] = {L"Menu", L"Hide", L"Close"};
 
-bool KeyDown(int key) {
-  return ::GetKeyState(key) < 0;
-}
-
 }  // namespace
 
-WidgetForm::WidgetForm(Services& services, const FormEntry& entry, int index)
+WidgetForm::WidgetForm(Services& services, const FormEntry& entry, int index,
+                       std::vector<CommandTable::Rows> menus)
     : PaintedWindow(services.ui),
       services_(services),
       entry_(entry),
       index_(index),
       mover_(*this, services.settings, entry.form_name),
-      buttons_(*this) {}
+      buttons_(*this),
+      commands_(*this, buttons_, services.program, std::move(menus)) {}
 
 WidgetForm::~WidgetForm() {
   services_.forms.Remove(entry_.form_name, *this);
@@ -169,7 +168,7 @@ void WidgetForm::OnCommand(int id, int code, HWND control) {
     MinimiseToTaskBar(handle());
   } else if (code == BN_CLICKED && id == lablTBARTOP + 2) {
     OnCloseButton();
-  } else {
+  } else if (code != BN_CLICKED || !commands_.OnTool(id)) {
     OnControl(id, code);
   }
 }
@@ -275,18 +274,28 @@ void WidgetForm::SetSize(int width, int height) {
   mover_.SetSize({width, height});
 }
 
+Focus WidgetForm::FocusNow() const {
+  return FocusOf(::GetFocus());
+}
+
 bool WidgetForm::OnKey(const MSG& message) {
-  const bool down = message.message == WM_KEYDOWN;
-  if (down || message.message == WM_SYSKEYDOWN) buttons_.ShowFocus(true);
-  if (!down || !KeyDown(VK_CONTROL)) return false;
-  const WPARAM key = message.wParam;
-  const Point direction = {(key == VK_RIGHT) - (key == VK_LEFT), (key == VK_DOWN) - (key == VK_UP)};
-  if (direction == Point{}) return false;
-  if (KeyDown(VK_SHIFT)) {
-    mover_.SizeByStep(direction);
-  } else {
-    mover_.MoveByStep(direction);
+  const Focus focus = FocusNow();
+  if (focus == Focus::kRename) return false;
+  const bool down = message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN;
+  if (down) buttons_.ShowFocus(true);
+  if (OnFirstKey(message)) return true;
+  const CommandKey key = PressedKey(message);
+  return commands_.Run(commands_.OfKey(key, focus)) || MoveByKey(key, focus);
+}
+
+bool WidgetForm::MoveByKey(const CommandKey& key, Focus focus) {
+  const bool sizes = key.held == (kCtrlHeld | kShiftHeld);
+  const Point direction = {(key.code == kKeyRight) - (key.code == kKeyLeft),
+                           (key.code == kKeyDown) - (key.code == kKeyUp)};
+  if (direction == Point{} || (key.held != kCtrlHeld && !sizes) || FocusKeeps(focus, key)) {
+    return false;
   }
+  sizes ? mover_.SizeByStep(direction) : mover_.MoveByStep(direction);
   return true;
 }
 

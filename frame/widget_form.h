@@ -4,13 +4,12 @@
 #include <string>
 #include <vector>
 
-#include "base/menu.h"
+#include "frame/command_tools_form.h"
 #include "frame/form_registry.h"
 #include "frame/frame_layout.h"
 #include "frame/save_reason.h"
 #include "frame/services.h"
 #include "frame/sight_win.h"
-#include "frame/text_buttons_form.h"
 #include "frame/window_mover_win.h"
 #include "theme/text_painter_win.h"
 #include "theme/widget_paint.h"
@@ -20,8 +19,10 @@ namespace varnel {
 
 class WidgetForm : public PaintedWindow, public LiveForm {
  public:
-  // `entry` outlives the form; `index` is the widget's number or kManagerIndex.
-  WidgetForm(Services& services, const FormEntry& entry, int index);
+  // `entry` and the rows outlive the form; `index` is the widget's number or kManagerIndex. The
+  // first of `menus` stands above the shared commands.
+  WidgetForm(Services& services, const FormEntry& entry, int index,
+             std::vector<CommandTable::Rows> menus = {});
   ~WidgetForm() override;
 
   // Makes the window, hidden, in its place and theme. False when the system refuses.
@@ -67,10 +68,12 @@ class WidgetForm : public PaintedWindow, public LiveForm {
   // A button was clicked, or another control sent notification `code`.
   virtual void OnControl(int /*id*/, int /*code*/) {}
   virtual std::wstring StatusText() const { return {}; }
-  // The widget's own commands, shown above the shared ones; not the one of its FormEntry.
-  virtual std::vector<MenuItem> MenuGroup() const { return {}; }
-  // Runs one of them; false when `id` is none.
-  virtual bool RunOwnCommand(int /*id*/) { return false; }
+  virtual std::vector<MenuItem> MenuGroup() const { return commands_.Menu(); }
+  virtual bool RunOwnCommand(int id) { return commands_.Run(id); }
+  // What the focus of the moment is to the widget's commands.
+  virtual Focus FocusNow() const;
+  // Sees each key message before the commands do; true when it is dealt with.
+  virtual bool OnFirstKey(const MSG&) { return false; }
   // Whether the second of two quick clicks on a button counts like any other.
   virtual bool SecondClickCounts(int /*id*/) const { return true; }
   // The user wants the form closed.
@@ -78,6 +81,10 @@ class WidgetForm : public PaintedWindow, public LiveForm {
 
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
   bool OnKey(const MSG& message) override;
+
+  // The widget's own commands, but for the one of its FormEntry.
+  CommandTools& commands() { return commands_; }
+  const CommandTools& commands() const { return commands_; }
 
   Services& services() const { return services_; }
   const FrameLayout& layout() const { return layout_; }
@@ -95,6 +102,7 @@ class WidgetForm : public PaintedWindow, public LiveForm {
   void OnLookChanged();
   void Paint(Surface& surface) override;
   void OnCommand(int id, int code, HWND control);
+  bool MoveByKey(const CommandKey& key, Focus focus);
   void RunCommand(int id);
   void ShowMenu(Point at);
   // The name of the widget's command that keeps it on top.
@@ -120,6 +128,7 @@ class WidgetForm : public PaintedWindow, public LiveForm {
   bool on_top_ = false;
   HWND last_focus_ = nullptr;
   TextButtons buttons_;
+  CommandTools commands_;
 };
 
 }  // namespace varnel

@@ -15,7 +15,6 @@
 #include "win/graphics/pictures.h"
 #include "win/system/clipboard.h"
 #include "win/windows/message_box.h"
-#include "win/windows/popup_menu.h"
 
 namespace varnel {
 namespace {
@@ -27,8 +26,9 @@ constexpr int kPointsToAnInch = 72;
 constexpr int kStep = 1, kLongStep = 10;  // pixels that an object is moved by keys
 constexpr int kScrollStep = 40;           // pixels that a key scrolls
 
-constexpr std::array<std::wstring_view, kPens> kPenCaptions = {
-    L"&Black", L"&Red", L"&Orange", L"&Yellow", L"&Green", L"B&lue", L"&Purple", L"&Eraser"};
+// In the order of kPenWidths.
+constexpr std::array<std::wstring_view, kPenWidths.size()> kWidthCommands = {
+    L"PENTHIN", L"PENTHICK", L"PENMARKER", L"PENBROAD"};
 
 std::wstring_view FaultWords(PictureFault fault) {
   switch (fault) {
@@ -44,7 +44,7 @@ std::wstring_view FaultWords(PictureFault fault) {
   return L"is damaged";
 }
 
-std::wstring NameOf(const std::wstring& path) {
+std::wstring FileNameOf(const std::wstring& path) {
   return path.substr(path.rfind(L'\\') + 1);
 }
 
@@ -71,8 +71,8 @@ std::optional<Point> ArrowOf(WPARAM key) {
 }  // namespace
 
 BoardForm::BoardForm(Services& services, const FormEntry& entry, int index,
-                     const BoardTraits& traits, std::uint32_t ground)
-    : WidgetForm(services, entry, index),
+                     const BoardTraits& traits, CommandTable::Rows rows, std::uint32_t ground)
+    : WidgetForm(services, entry, index, {rows}),
       board_(ground),
       picMAINBOARD_(services.ui, board_, *this),
       tmrDRAW_(*this, kRepaintMs,
@@ -87,7 +87,9 @@ BoardForm::BoardForm(Services& services, const FormEntry& entry, int index,
                    }),
       traits_(traits),
       title_label_(services.ui),
-      pen_label_(services.ui) {}
+      pen_label_(services.ui) {
+  BindCommands();
+}
 
 // --- saving
 
@@ -165,12 +167,12 @@ void BoardForm::FloatPicture(const Image& straight) {
 void BoardForm::FloatPictureFile(const std::wstring& path) {
   const FileRead read = services().files.Read(path, kMostPictureBytes);
   if (!read) {
-    TellTrouble(L"\"" + NameOf(path) + L"\" " + std::wstring(FileTrouble(read.result)));
+    TellTrouble(L"\"" + FileNameOf(path) + L"\" " + std::wstring(FileTrouble(read.result)));
     return;
   }
   const DecodedPicture decoded = DecodePicture(read.bytes);
   if (decoded.fault != PictureFault::kNone) {
-    TellTrouble(L"\"" + NameOf(path) + L"\" " + std::wstring(FaultWords(decoded.fault)));
+    TellTrouble(L"\"" + FileNameOf(path) + L"\" " + std::wstring(FaultWords(decoded.fault)));
     return;
   }
   FloatPicture(decoded.image);
@@ -201,92 +203,55 @@ void BoardForm::Paste() {
 
 // --- commands
 
-std::vector<MenuItem> BoardForm::PenItems() const {
-  std::vector<MenuItem> items;
-  for (int i = 0; i < kPens; ++i) {
-    MenuItem item;
-    item.id = ArrayCommandId(traits_.pen_commands, i);
-    item.caption = kPenCaptions[static_cast<std::size_t>(i)];
-    item.key = i == kEraser ? L"E" : NumberText(i + 1);
-    item.checked = std::min(board_.PenColorIndex(), kEraser) == i;
-    items.push_back(std::move(item));
-  }
-  return items;
+std::wstring BoardForm::NameOf(std::wstring_view command) const {
+  return std::wstring(traits_.commands).append(command);
 }
 
-std::vector<BoardAction> BoardForm::WidthActions() {
-  std::vector<BoardAction> actions;
+void BoardForm::BindCommands() {
+  const auto step_width = [this](int step) {
+    return [this, step] { SetPenWidth(NextPenWidth(board_.pen_width(), step)); };
+  };
+  commands().Bind({{NameOf(L"UNDO"), [this] { Undo(); }, [this] { return board_.CanUndo(); }},
+                   {NameOf(L"REDO"), [this] { Redo(); }, [this] { return board_.CanRedo(); }},
+                   {NameOf(L"COPY"), [this] { Copy(); }},
+                   {NameOf(L"PASTE"), [this] { Paste(); }},
+                   {NameOf(L"PENS"), [this] { DropPens(); }},
+                   {NameOf(L"PENWIDTH"), [this] { DropWidths(); }},
+                   {NameOf(L"PENTHINNER"), step_width(-1)},
+                   {NameOf(L"PENTHICKER"), step_width(1)}});
+  commands().BindArray(
+      NameOf(L"PENSUB"), kPens, [this](int pen) { SetPen(pen); },
+      [this](int pen) { return std::min(board_.PenColorIndex(), kEraser) == pen; });
   for (std::size_t i = 0; i < kPenWidths.size(); ++i) {
     const int pixels = kPenWidths[i].pixels;
-    BoardAction action{traits_.widths[i], [this, pixels] { SetPenWidth(pixels); }};
-    action.checked = [this, pixels] { return board_.pen_width() == pixels; };
-    actions.push_back(std::move(action));
+    commands().Bind({{.name = NameOf(kWidthCommands[i]),
+                      .run = [this, pixels] { SetPenWidth(pixels); },
+                      .checked = [this, pixels] { return board_.pen_width() == pixels; }}});
   }
-  return actions;
 }
 
-std::vector<MenuItem> BoardForm::MenuGroup() const {
+void BoardForm::DropPens() {
+  commands().DropMenu(cmdPENS, commands().Item(*commands().OfName(NameOf(L"PENS"))).children);
+}
+
+void BoardForm::DropWidths() {
   std::vector<MenuItem> items;
-  for (const BoardAction& action : actions_) {
-    if (action.new_group && !items.empty()) items.push_back(MenuSeparator());
-    const bool usable = action.children || (action.run && (!action.usable || action.usable()));
-    items.push_back(ItemOf(action.command, usable, action.checked && action.checked()));
-    if (action.children) items.back().children = action.children();
+  for (const std::wstring_view width : kWidthCommands) {
+    items.push_back(commands().Item(*commands().OfName(NameOf(width))));
   }
-  return items;
-}
-
-const BoardAction* BoardForm::ActionOf(int id) const {
-  const auto found = std::ranges::find(
-      actions_, id, [](const BoardAction& action) { return int{CommandId(action.command.name)}; });
-  return found == actions_.end() ? nullptr : &*found;
-}
-
-bool BoardForm::RunOwnCommand(int id) {
-  if (const int pen = ArrayCommandIndex(traits_.pen_commands, kPens, id); pen >= 0) {
-    SetPen(pen);
-    return true;
-  }
-  const BoardAction* action = ActionOf(id);
-  if (!action) return false;
-  if (action->run && (!action->usable || action->usable())) action->run();
-  return true;
-}
-
-void BoardForm::OnControl(int id, int code) {
-  if (code != BN_CLICKED) return;
-  if (id >= cmdPEN && id < cmdPEN + kPens) {
-    SetPen(id - cmdPEN);
-  } else if (id == cmdPENS) {
-    DropMenu(id, PenItems());
-  } else if (id == traits_.width_tool) {
-    std::vector<MenuItem> items;
-    for (const Command& width : traits_.widths) {
-      const BoardAction* action = ActionOf(CommandId(width.name));
-      items.push_back(ItemOf(width, true, action && action->checked()));
-    }
-    DropMenu(id, items);
-  }
-}
-
-void BoardForm::DropMenu(int button, const std::vector<MenuItem>& items) {
-  RECT box = {};
-  ::GetWindowRect(::GetDlgItem(handle(), button), &box);
-  const Point corner{static_cast<int>(box.left), static_cast<int>(box.bottom)};
-  const int chosen = ShowPopupMenu(handle(), corner, items);
-  if (handle()) RunOwnCommand(chosen);
+  commands().DropMenu(traits_.width_tool, items);
 }
 
 // --- keys and other messages
 
-bool BoardForm::OnBoardKey(const MSG& message) {
-  if (message.message == WM_CHAR) return OnCharacter(static_cast<wchar_t>(message.wParam));
+bool BoardForm::OnFirstKey(const MSG& message) {
   if (message.message != WM_KEYDOWN) return false;
-  return (board_.floating() && OnFloatKey(message.wParam)) || RunKey(message.wParam);
-}
-
-bool BoardForm::OnKey(const MSG& message) {
-  return OnBoardKey(message) || WidgetForm::OnKey(message);
+  if (board_.floating() && OnFloatKey(message.wParam)) return true;
+  const auto arrow = ArrowOf(message.wParam);
+  const bool scrolls = picMAINBOARD_.scrollable() && ::GetFocus() == picMAINBOARD_.handle();
+  if (!arrow || !scrolls || Held(VK_CONTROL) || Held(VK_MENU)) return false;
+  picMAINBOARD_.ScrollBy(arrow->x * kScrollStep, arrow->y * kScrollStep);
+  return true;
 }
 
 bool BoardForm::OnFloatKey(WPARAM key) {
@@ -302,37 +267,6 @@ bool BoardForm::OnFloatKey(WPARAM key) {
   if (!arrow || Held(VK_CONTROL)) return false;
   const int step = Held(VK_SHIFT) ? kLongStep : kStep;
   picMAINBOARD_.Repaint(board_.MoveFloat(arrow->x * step, arrow->y * step));
-  return true;
-}
-
-// Pens and widths go by what is written on the keys, wherever a keyboard has them.
-bool BoardForm::OnCharacter(wchar_t character) {
-  if (Held(VK_CONTROL) && !Held(VK_MENU)) return false;
-  if (character >= L'1' && character < L'0' + kPens) {
-    SetPen(character - L'1');
-  } else if (character == L'e' || character == L'E') {
-    SetPen(kEraser);
-  } else if (character == L'[' || character == L']') {
-    SetPenWidth(NextPenWidth(board_.pen_width(), character == L'[' ? -1 : 1));
-  } else {
-    return false;
-  }
-  return true;
-}
-
-bool BoardForm::RunKey(WPARAM key) {
-  if (Held(VK_MENU)) return false;
-  const bool ctrl = Held(VK_CONTROL);
-  // The second key of many programs for the same.
-  if (ctrl && Held(VK_SHIFT) && key == 'Z') key = 'Y';
-  const auto found = std::ranges::find_if(actions_, [&](const BoardAction& action) {
-    return key != 0 && action.key == key && (action.held == BoardAction::Held::kCtrl) == ctrl;
-  });
-  if (found != actions_.end()) return RunOwnCommand(CommandId(found->command.name));
-  const auto arrow = ArrowOf(key);
-  const bool scrolls = picMAINBOARD_.scrollable() && ::GetFocus() == picMAINBOARD_.handle();
-  if (!arrow || ctrl || !scrolls) return false;
-  picMAINBOARD_.ScrollBy(arrow->x * kScrollStep, arrow->y * kScrollStep);
   return true;
 }
 

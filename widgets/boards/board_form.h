@@ -3,14 +3,11 @@
 #pragma once
 
 #include <array>
-#include <functional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "base/settings.h"
 #include "frame/bar_label_win.h"
-#include "frame/command.h"
 #include "frame/widget_form.h"
 #include "widgets/boards/board_document.h"
 #include "widgets/boards/board_surface_win.h"
@@ -20,25 +17,10 @@ namespace varnel {
 // By which one widget with a board differs from another.
 struct BoardTraits {
   Setting pen, pen_width, text_size;
-  std::wstring_view pen_commands;  // the array of the menu's pens
-  std::array<Command, kPenWidths.size()> widths;
-  int title_label;  // numbers of controls: the board's name on the title bar,
-  int pen_label;    // the pen on the bottom strip,
-  int width_tool;   // and the button of the pen's width
-};
-
-// One command of the widget: how it is told in the menu, its key, and what it does.
-struct BoardAction {
-  enum class Held { kNothing, kCtrl };
-
-  Command command;
-  std::function<void()> run;
-  WORD key = 0;  // 0: none
-  Held held = Held::kNothing;
-  std::function<bool()> usable = {};                     // none: always
-  std::function<bool()> checked = {};                    // none: never
-  std::function<std::vector<MenuItem>()> children = {};  // of a submenu
-  bool new_group = false;                                // in the menu
+  std::wstring_view commands;  // how their names begin
+  int title_label;             // numbers of controls: the board's name on the title bar,
+  int pen_label;               // the pen on the bottom strip,
+  int width_tool;              // and the button of the pen's width
 };
 
 class BoardForm : public WidgetForm, protected BoardSurfaceOwner {
@@ -47,9 +29,9 @@ class BoardForm : public WidgetForm, protected BoardSurfaceOwner {
   void SaveState(SaveReason reason) override;
 
  protected:
-  // `traits` outlive the form; `ground` as for a DrawingBoard.
+  // `traits` and `rows` outlive the form; `ground` as for a DrawingBoard.
   BoardForm(Services& services, const FormEntry& entry, int index, const BoardTraits& traits,
-            std::uint32_t ground);
+            CommandTable::Rows rows, std::uint32_t ground);
 
   virtual BoardDocument& document() = 0;
   const BoardDocument& document() const { return const_cast<BoardForm*>(this)->document(); }
@@ -57,8 +39,6 @@ class BoardForm : public WidgetForm, protected BoardSurfaceOwner {
   virtual Image PictureOfBoard() = 0;
   // The width to which a text is wrapped, in pixels of the board.
   virtual int TextWidth() const { return picMAINBOARD_.View().width(); }
-  // Made once, when the form is loaded.
-  virtual std::vector<BoardAction> MakeActions() = 0;
 
   // What stands at the left of the strip, beside the pen.
   virtual std::wstring StripText() const { return StatusText(); }
@@ -67,12 +47,7 @@ class BoardForm : public WidgetForm, protected BoardSurfaceOwner {
   void OnUnload() override;
   void RefreshContent() override;
   std::wstring StatusText() const override;
-  std::vector<MenuItem> MenuGroup() const override;
-  bool RunOwnCommand(int id) override;
-  void OnControl(int id, int code) override;
-  // What the board's own keys do; true when it was one of them.
-  bool OnBoardKey(const MSG& message);
-  bool OnKey(const MSG& message) override;
+  bool OnFirstKey(const MSG& message) override;
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
   void OnBoardChanged() override;
 
@@ -90,10 +65,6 @@ class BoardForm : public WidgetForm, protected BoardSurfaceOwner {
 
   void SetPen(int index);
   void SetPenWidth(int pixels);
-  // The submenu of pens, and the widths.
-  std::vector<MenuItem> PenItems() const;
-  std::vector<BoardAction> WidthActions();
-  void DropMenu(int button, const std::vector<MenuItem>& items);
 
   // Brings what depends on a change up to date a little later.
   void AfterChange(const Rect& shown);
@@ -116,17 +87,17 @@ class BoardForm : public WidgetForm, protected BoardSurfaceOwner {
   Timer draft_timer_;
 
  private:
-  const BoardAction* ActionOf(int id) const;
+  std::wstring NameOf(std::wstring_view command) const;
+  void BindCommands();
+  void DropPens();
+  void DropWidths();
   bool OnFloatKey(WPARAM key);
-  bool OnCharacter(wchar_t character);
-  bool RunKey(WPARAM key);
   std::wstring PenText() const;
   void DrawPen(const ButtonPainting& painting, int pen);
   void DrawWidth(const ButtonPainting& painting);
   void Dot(Surface& surface, const Rect& box, int diameter, Colour face, Colour outline) const;
 
   const BoardTraits& traits_;
-  std::vector<BoardAction> actions_;
   BarLabel title_label_;
   ThemedLabel pen_label_;
 };

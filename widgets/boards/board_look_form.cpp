@@ -30,13 +30,6 @@ constexpr int kHalf = 128;
 constexpr int kMostly = 200;
 constexpr Colour kGray = 0xA0A0A0;
 
-constexpr wchar_t kPenGlyph = L'\xE239';
-constexpr wchar_t kEraserGlyph = L'\xE232';
-
-constexpr const wchar_t* kPenWords[kPens] = {L"Black pen",  L"Red pen",   L"Orange pen",
-                                             L"Yellow pen", L"Green pen", L"Blue pen",
-                                             L"Purple pen", L"Eraser"};
-
 Colour InkOn(Colour ground) {
   return RelativeLuminance(ground) > kMiddle ? kBlack : kWhite;
 }
@@ -52,13 +45,13 @@ Rect Centred(const Rect& box, Size size) {
 void BoardForm::OnLoad() {
   title_label_.Load(handle(), traits_.title_label);
   for (int i = 0; i < kPens; ++i) {
-    buttons().Add(cmdPEN + i, kPenWords[i], i == kEraser ? kEraserGlyph : kPenGlyph, false);
+    const std::wstring name = ElementName(NameOf(L"PENSUB"), static_cast<std::size_t>(i));
+    commands().AddTool(cmdPEN + i, commands().OfName(name));
   }
-  buttons().Add(cmdPENS, L"Pens", kPenGlyph, false);
+  commands().AddTool(cmdPENS, commands().OfName(NameOf(L"PENS")));
   picMAINBOARD_.Load(handle(), picMAINBOARD, L"Board");
   pen_label_.Load(handle(), traits_.pen_label);
   ::DragAcceptFiles(handle(), TRUE);
-  actions_ = MakeActions();
   const Settings& settings = services().settings;
   board_.SetPen(static_cast<int>(ReadNumber(settings, traits_.pen, 0, 1'000'000)));
   board_.SetPenWidth(static_cast<int>(ReadNumber(settings, traits_.pen_width, 0, 1'000)));
@@ -98,6 +91,7 @@ std::wstring BoardForm::PenText() const {
 }
 
 void BoardForm::RefreshContent() {
+  commands().RefreshTools();
   PlacePenLabel();
 }
 

@@ -4,13 +4,13 @@
 #include <windowsx.h>
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
 
 #include "base/number_text.h"
 #include "base/resample.h"
 #include "resources/control_ids.h"
 #include "widgets/boards/board_folders.h"
+#include "widgets/boards/calendar_commands.h"
 #include "widgets/boards/calendar_settings.h"
 #include "win/graphics/pictures.h"
 #include "win/system/user_week.h"
@@ -21,11 +21,7 @@ namespace {
 constexpr BoardTraits kTraits{kCalendarPen,
                               kCalendarPenWidth,
                               kCalendarTextSize,
-                              L"mnuCALPENSUB",
-                              {{{L"mnuCALPENTHIN", L"T&hin pen"},
-                                {L"mnuCALPENTHICK", L"Thic&k pen"},
-                                {L"mnuCALPENMARKER", L"&Marker"},
-                                {L"mnuCALPENBROAD", L"Broa&d pen"}}},
+                              L"mnuCAL",
                               lblMONTHBAR,
                               lblTest,
                               cmdCALTOOL + static_cast<int>(CalendarTool::kPenWidth)};
@@ -47,7 +43,7 @@ Image Premultiplied(const Image& straight) {
 
 CalendarForm::CalendarForm(Services& services, const FormEntry& entry, int index,
                            CalendarLink& link, PrintDesk& printing)
-    : BoardForm(services, entry, index, kTraits, Canvas::kClearSheet),
+    : BoardForm(services, entry, index, kTraits, kCalendarCommands, Canvas::kClearSheet),
       link_(link),
       printing_(printing),
       calendar_(services.files, services.formatter, board_,
@@ -62,65 +58,19 @@ CalendarForm::CalendarForm(Services& services, const FormEntry& entry, int index
              [this] {
                if (calendar_.Refresh()) MonthShown();
              }),
-      midnight_timer_(*this, kOneDayMs, [this] { OnNewDay(); }) {}
-
-std::vector<BoardAction> CalendarForm::MakeActions() {
-  constexpr auto kCtrl = BoardAction::Held::kCtrl;
-  constexpr auto kPlain = BoardAction::Held::kNothing;
+      midnight_timer_(*this, kOneDayMs, [this] { OnNewDay(); }) {
   const auto by_months = [this](int months) { return [this, months] { ShowMonthBeside(months); }; };
-  std::vector<BoardAction> actions = {
-      {{L"mnuCALTODAY", L"&Today", L"Home"}, [this] { GoToToday(); }, VK_HOME},
-      {{L"mnuCALPREVIOUS", L"Pre&vious month", L"Page Up"}, by_months(-1), VK_PRIOR},
-      {{L"mnuCALNEXT", L"&Next month", L"Page Down"}, by_months(1), VK_NEXT},
-      {{L"mnuCALPREVIOUSYEAR", L"A year &back", L"Ctrl+Page Up"},
-       by_months(-kMonthsOfAYear),
-       VK_PRIOR,
-       kCtrl},
-      {{L"mnuCALNEXTYEAR", L"A year &on", L"Ctrl+Page Down"},
-       by_months(kMonthsOfAYear),
-       VK_NEXT,
-       kCtrl},
-      {{L"mnuCALSAVE", L"&Save", L"Ctrl+S"},
-       [this] { SaveMonth(); },
-       'S',
-       kCtrl,
-       [this] { return board_.BoardModified(); }},
-      {{L"mnuCALUNDO", L"&Undo", L"Ctrl+Z"},
-       [this] { Undo(); },
-       'Z',
-       kCtrl,
-       [this] { return board_.CanUndo(); },
-       {},
-       {},
-       true},
-      {{L"mnuCALREDO", L"&Redo", L"Ctrl+Y"},
-       [this] { Redo(); },
-       'Y',
-       kCtrl,
-       [this] { return board_.CanRedo(); }},
-      {{L"mnuCALSCREENCLR", L"&Clear the month"}, [this] { Clear(); }},
-      {{L"mnuCALINSTXT", L"&Insert text...", L"Ctrl+T"},
-       [this] { CalendarInsertText(); },
-       'T',
-       kCtrl,
-       {},
-       {},
-       {},
-       true},
-      {{L"mnuCALINSPIC", L"Insert a pictur&e...", L"Ctrl+I"},
-       [this] { CalendarInsertChoose(); },
-       'I',
-       kCtrl},
-      {{L"mnuCALCOPY", L"Cop&y the month", L"Ctrl+C"}, [this] { Copy(); }, 'C', kCtrl},
-      {{L"mnuCALPASTE", L"P&aste", L"Ctrl+V"}, [this] { Paste(); }, 'V', kCtrl},
-      {{L"mnuCALPENS", L"&Pens"}, {}, 0, kPlain, {}, {}, [this] { return PenItems(); }, true}};
-  std::ranges::move(WidthActions(), std::back_inserter(actions));
-  actions.push_back(
-      {{L"mnuCALPRINT", L"Print...", L"Ctrl+P"}, [this] { CalendarPrint(); }, 'P', kCtrl});
-  actions.back().new_group = true;
-  actions.push_back({{L"mnuCALPROPS", L"Ca&lendar properties..."},
-                     [this] { services().program.OpenDialog(L"frmCALpr"); }});
-  return actions;
+  commands().Bind(
+      {{L"mnuCALTODAY", [this] { GoToToday(); }},
+       {L"mnuCALPREVIOUS", by_months(-1), [this] { return calendar_.month() != kFirstMonth; }},
+       {L"mnuCALNEXT", by_months(1), [this] { return calendar_.month() != kLastMonth; }},
+       {L"mnuCALPREVIOUSYEAR", by_months(-kMonthsOfAYear)},
+       {L"mnuCALNEXTYEAR", by_months(kMonthsOfAYear)},
+       {L"mnuCALSAVE", [this] { SaveMonth(); }, [this] { return board_.BoardModified(); }},
+       {L"mnuCALSCREENCLR", [this] { Clear(); }},
+       {L"mnuCALINSTXT", [this] { CalendarInsertText(); }},
+       {L"mnuCALINSPIC", [this] { CalendarInsertChoose(); }},
+       {L"mnuCALPRINT", [this] { CalendarPrint(); }}});
 }
 
 // --- months
@@ -277,32 +227,6 @@ void CalendarForm::InsertIcon(const OfferedPicture& picture) {
 }
 
 // --- messages
-
-void CalendarForm::OnControl(int id, int code) {
-  BoardForm::OnControl(id, code);
-  if (code != BN_CLICKED || id < cmdCALTOOL ||
-      id >= cmdCALTOOL + static_cast<int>(kCalendarTools)) {
-    return;
-  }
-  switch (static_cast<CalendarTool>(id - cmdCALTOOL)) {
-    case CalendarTool::kPrevious:
-      return ShowMonthBeside(-1);
-    case CalendarTool::kNext:
-      return ShowMonthBeside(1);
-    case CalendarTool::kToday:
-      return GoToToday();
-    case CalendarTool::kPenWidth:
-      return;
-    case CalendarTool::kText:
-      return CalendarInsertText();
-    case CalendarTool::kIcon:
-      return CalendarInsertChoose();
-    case CalendarTool::kUndo:
-      return Undo();
-    case CalendarTool::kRedo:
-      return Redo();
-  }
-}
 
 // A notch is a month, with Ctrl a year; an object that floats is scaled.
 void CalendarForm::OnWheel(int turn, bool ctrl) {

@@ -26,7 +26,7 @@ class CalendarForm : public BoardForm, private CalendarWidget {  // frmCALwg
   void CalendarRefreshBoard();
   void CalendarPrint();
   // Brings the tools up to date.
-  void ShowIconsCal();
+  void ShowIconsCal() { commands().RefreshTools(); }
 
  private:
   void OnLoad() override;
@@ -35,7 +35,6 @@ class CalendarForm : public BoardForm, private CalendarWidget {  // frmCALwg
   void RefreshContent() override;
   void PaintPanel(Surface& surface, const Rect& panel) override;
   void DrawPanelButton(const ButtonPainting& painting) override;
-  void OnControl(int id, int code) override;
   // The labels on the strip say it.
   std::wstring StatusText() const override { return {}; }
   std::wstring StripText() const override;
@@ -44,7 +43,6 @@ class CalendarForm : public BoardForm, private CalendarWidget {  // frmCALwg
   BoardDocument& document() override { return calendar_; }
   Image PictureOfBoard() override;
   int TextWidth() const override;
-  std::vector<BoardAction> MakeActions() override;
   void PaintBoard(Surface& surface, const Rect& part) override;
   Size BoardSize() const override { return grid_.size; }
   void OnBoardRepaint(const Rect& shown) override { stale_ = Union(stale_, shown); }

@@ -22,16 +22,6 @@ constexpr int kStripGap = 12;
 constexpr int kPrintedWidth = 2400;    // pixels that a printed month has at least, where it can
 constexpr Size kUsualBoard{470, 240};  // of a file that is written while nothing is shown
 
-struct ToolFace {
-  const wchar_t* word;
-  wchar_t glyph;
-};
-// In the order of CalendarTool.
-constexpr ToolFace kToolFaces[kCalendarTools] = {
-    {L"Previous month", L'\xE210'}, {L"Next month", L'\xE211'},  {L"Today", L'\xE227'},
-    {L"Pen width", L'\xE236'},      {L"Insert text", L'\xE233'}, {L"Insert a picture", L'\xE23C'},
-    {L"Undo", L'\xE222'},           {L"Redo", L'\xE223'}};
-
 int ToolId(CalendarTool tool) {
   return cmdCALTOOL + static_cast<int>(tool);
 }
@@ -42,8 +32,7 @@ void CalendarForm::OnLoad() {
   // Tab goes from tool to tool as they stand.
   constexpr auto kAfterPens = static_cast<int>(CalendarTool::kPenWidth);
   const auto add = [this](int tool) {
-    const ToolFace& face = kToolFaces[tool];
-    buttons().Add(cmdCALTOOL + tool, face.word, face.glyph, false);
+    commands().AddTool(cmdCALTOOL + tool, commands().OfTool(tool));
   };
   for (int i = 0; i < kAfterPens; ++i) add(i);
   BoardForm::OnLoad();
@@ -159,17 +148,9 @@ std::wstring CalendarForm::StripText() const {
 }
 
 void CalendarForm::RefreshContent() {
-  ShowIconsCal();
   PlaceStripLabels();
   BoardForm::RefreshContent();
   ::SetWindowTextW(handle(), (calendar_.title() + L" - " + std::wstring(entry().title)).c_str());
-}
-
-void CalendarForm::ShowIconsCal() {
-  buttons().Enable(ToolId(CalendarTool::kPrevious), calendar_.month() != kFirstMonth);
-  buttons().Enable(ToolId(CalendarTool::kNext), calendar_.month() != kLastMonth);
-  buttons().Enable(ToolId(CalendarTool::kUndo), board_.CanUndo());
-  buttons().Enable(ToolId(CalendarTool::kRedo), board_.CanRedo());
 }
 
 // --- painting

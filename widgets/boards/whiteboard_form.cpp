@@ -3,14 +3,12 @@
 #include <windows.h>
 #include <windowsx.h>
 
-#include <algorithm>
-#include <iterator>
-
 #include "base/bmp.h"
 #include "frame/pages/picture_paper_win.h"
 #include "resources/control_ids.h"
 #include "widgets/boards/board_folders.h"
 #include "widgets/boards/board_settings.h"
+#include "widgets/boards/whiteboard_commands.h"
 #include "win/graphics/system_rect.h"
 #include "win/windows/file_dialogs.h"
 #include "win/windows/message_box.h"
@@ -23,11 +21,7 @@ constexpr int kThumbnailMs = 10;
 constexpr BoardTraits kTraits{kBoardPen,
                               kBoardPenWidth,
                               kBoardTextSize,
-                              L"mnuWBOARDPENSUB",
-                              {{{L"mnuWBOARDPENTHIN", L"T&hin pen"},
-                                {L"mnuWBOARDPENTHICK", L"Thic&k pen"},
-                                {L"mnuWBOARDPENMARKER", L"&Marker"},
-                                {L"mnuWBOARDPENBROAD", L"Br&oad pen"}}},
+                              L"mnuWBOARD",
                               lblWhiteboard,
                               lblTestfrmWBDwg,
                               cmdBOARDTOOL + static_cast<int>(BoardTool::kPenWidth)};
@@ -47,93 +41,24 @@ constexpr wchar_t kPictureFilter[] =
 
 WhiteboardForm::WhiteboardForm(Services& services, const FormEntry& entry, int index,
                                BoardLink& link, PrintDesk& printing)
-    : BoardForm(services, entry, index, kTraits, Canvas::kWhiteBoard),
+    : BoardForm(services, entry, index, kTraits, kWhiteboardCommands, Canvas::kWhiteBoard),
       link_(link),
       printing_(printing),
       whiteboard_(services.files, bin_, services.clock, board_),
       lvwFILES_(services.ui, *this),
       watch_(services.ui, [this] { SideBarRefresh(); }),
-      thumbnail_timer_(*this, kThumbnailMs, [this] { MakeThumbnail(); }) {}
-
-std::vector<BoardAction> WhiteboardForm::FileActions() {
-  constexpr auto kCtrl = BoardAction::Held::kCtrl;
-  constexpr auto kPlain = BoardAction::Held::kNothing;
+      thumbnail_timer_(*this, kThumbnailMs, [this] { MakeThumbnail(); }) {
   const auto has_file = [this] { return HasFile(); };
-  return {{{L"mnuWBOARDNEW", L"&New board", L"Ctrl+N"}, [this] { BoardNew(); }, 'N', kCtrl},
-          {{L"mnuWBOARDSAVE", L"&Save", L"Ctrl+S"},
-           [this] { BoardSave(); },
-           'S',
-           kCtrl,
-           [this] { return board_.BoardModified(); }},
-          {{L"mnuWBOARDRENAME", L"Rena&me", L"F2"},
-           [this] { WhiteboardRenameShow(); },
-           VK_F2,
-           kPlain,
-           has_file},
-          {{L"mnuWBOARDDELETE", L"&Delete...", L"Del"},
-           [this] { BoardDelete(); },
-           VK_DELETE,
-           kPlain,
-           has_file}};
-}
-
-std::vector<BoardAction> WhiteboardForm::MakeActions() {
-  constexpr auto kCtrl = BoardAction::Held::kCtrl;
-  constexpr auto kPlain = BoardAction::Held::kNothing;
-  std::vector<BoardAction> actions = FileActions();
-  std::ranges::move(
-      std::vector<BoardAction>{
-          {{L"mnuWBOARDUNDO", L"&Undo", L"Ctrl+Z"},
-           [this] { Undo(); },
-           'Z',
-           kCtrl,
-           [this] { return board_.CanUndo(); },
-           {},
-           {},
-           true},
-          {{L"mnuWBOARDREDO", L"Red&o", L"Ctrl+Y"},
-           [this] { Redo(); },
-           'Y',
-           kCtrl,
-           [this] { return board_.CanRedo(); }},
-          {{L"mnuWBOARDCLEAR", L"&Clear the board"}, [this] { Clear(); }},
-          {{L"mnuWBOARDINSTEXT", L"Insert &text...", L"Ctrl+T"},
-           [this] { BoardInsertObject(L"TEXT"); },
-           'T',
-           kCtrl,
-           {},
-           {},
-           {},
-           true},
-          {{L"mnuWBOARDINSPIC", L"Insert a p&icture...", L"Ctrl+I"},
-           [this] { BoardInsertObject(L"PICTURE"); },
-           'I',
-           kCtrl},
-          {{L"mnuWBOARDCOPY", L"Cop&y the board", L"Ctrl+C"}, [this] { Copy(); }, 'C', kCtrl},
-          {{L"mnuWBOARDPASTE", L"P&aste", L"Ctrl+V"}, [this] { Paste(); }, 'V', kCtrl},
-          {{L"mnuWBOARDPENS", L"&Pens"},
-           {},
-           0,
-           kPlain,
-           {},
-           {},
-           [this] { return PenItems(); },
-           true}},
-      std::back_inserter(actions));
-  std::ranges::move(WidthActions(), std::back_inserter(actions));
-  actions.push_back({{L"mnuWBOARDLIST", L"Show the &list", L"Ctrl+L"},
-                     [this] { ToggleList(); },
-                     'L',
-                     kCtrl,
-                     {},
-                     [this] { return list_wanted_; },
-                     {},
-                     true});
-  actions.push_back(
-      {{L"mnuWBOARDPRINT", L"Prin&t...", L"Ctrl+P"}, [this] { BoardPrint(); }, 'P', kCtrl});
-  actions.push_back({{L"mnuWBOARDPROPS", L"Whiteboard p&roperties..."},
-                     [this] { services().program.OpenDialog(L"frmWBDpr"); }});
-  return actions;
+  commands().Bind(
+      {{L"mnuWBOARDNEW", [this] { BoardNew(); }},
+       {L"mnuWBOARDSAVE", [this] { BoardSave(); }, [this] { return board_.BoardModified(); }},
+       {L"mnuWBOARDRENAME", [this] { WhiteboardRenameShow(); }, has_file},
+       {L"mnuWBOARDDELETE", [this] { BoardDelete(); }, has_file},
+       {L"mnuWBOARDCLEAR", [this] { Clear(); }},
+       {L"mnuWBOARDINSTEXT", [this] { BoardInsertObject(L"TEXT"); }},
+       {L"mnuWBOARDINSPIC", [this] { BoardInsertObject(L"PICTURE"); }},
+       {L"mnuWBOARDLIST", [this] { ToggleList(); }, {}, [this] { return list_wanted_; }},
+       {L"mnuWBOARDPRINT", [this] { BoardPrint(); }}});
 }
 
 std::wstring WhiteboardForm::Folder() const {
@@ -292,33 +217,10 @@ void WhiteboardForm::ToggleList() {
   ShowBoard();
 }
 
-void WhiteboardForm::OnControl(int id, int code) {
-  BoardForm::OnControl(id, code);
-  const int tool = id - cmdBOARDTOOL;
-  if (code != BN_CLICKED || tool < 0 || tool >= static_cast<int>(kBoardTools)) return;
-  switch (static_cast<BoardTool>(tool)) {
-    case BoardTool::kPenWidth:
-      return;
-    case BoardTool::kText:
-      return BoardInsertObject(L"TEXT");
-    case BoardTool::kPicture:
-      return BoardInsertObject(L"PICTURE");
-    case BoardTool::kUndo:
-      return Undo();
-    case BoardTool::kRedo:
-      return Redo();
-    case BoardTool::kNew:
-      return BoardNew();
-    case BoardTool::kList:
-      return ToggleList();
-  }
-}
-
-bool WhiteboardForm::OnKey(const MSG& message) {
-  if (lvwFILES_.renaming()) return false;
-  if (OnBoardKey(message)) return true;
+bool WhiteboardForm::OnFirstKey(const MSG& message) {
+  if (BoardForm::OnFirstKey(message)) return true;
   lvwFILES_.OnKey(message);
-  return WidgetForm::OnKey(message);
+  return false;
 }
 
 void WhiteboardForm::OnWheel(WPARAM wparam, LPARAM lparam, bool across) {

@@ -40,9 +40,8 @@ class WhiteboardForm : public BoardForm,  // frmWBDwg
   void RefreshContent() override;
   void PaintPanel(Surface& surface, const Rect& panel) override;
   void DrawPanelButton(const ButtonPainting& painting) override;
-  void OnControl(int id, int code) override;
   std::wstring StatusText() const override;
-  bool OnKey(const MSG& message) override;
+  bool OnFirstKey(const MSG& message) override;
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
   std::wstring RowText(std::size_t row) const override { return whiteboard_.boards().Title(row); }
   void PaintRow(Surface& surface, const SideRow& row) override;
@@ -50,14 +49,12 @@ class WhiteboardForm : public BoardForm,  // frmWBDwg
   void OnRowRenamed(std::size_t row, const std::wstring& text) override;
   BoardDocument& document() override { return whiteboard_; }
   Image PictureOfBoard() override { return board_.Picture(); }
-  std::vector<BoardAction> MakeActions() override;
   void PaintBoard(Surface& surface, const Rect& part) override;
   Size BoardSize() const override { return board_.size(); }
   void InsertText(const std::wstring& text, int points) override;
   bool SaveBoards() override;
   void FolderChanged() override;
 
-  std::vector<BoardAction> FileActions();
   std::wstring Folder() const;
   Size ViewSize() const;
   // After another board was taken up, and after the list has changed.

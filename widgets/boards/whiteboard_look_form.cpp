@@ -20,16 +20,6 @@ constexpr double kMiddle = 0.18;  // the luminance as far from black as from whi
 
 constexpr wchar_t kUnknownGlyph = L'\xE20A';
 
-struct ToolFace {
-  const wchar_t* word;
-  wchar_t glyph;
-};
-// In the order of BoardTool.
-constexpr ToolFace kToolFaces[kBoardTools] = {
-    {L"Pen width", L'\xE236'},     {L"Insert text", L'\xE233'}, {L"Insert a picture", L'\xE234'},
-    {L"Undo", L'\xE222'},          {L"Redo", L'\xE223'},        {L"New board", L'\xE214'},
-    {L"List of boards", L'\xE226'}};
-
 int ToolId(BoardTool tool) {
   return cmdBOARDTOOL + static_cast<int>(tool);
 }
@@ -40,8 +30,8 @@ void WhiteboardForm::OnLoad() {
   BoardForm::OnLoad();
   link_.widget = this;
   for (std::size_t i = 0; i < kBoardTools; ++i) {
-    buttons().Add(cmdBOARDTOOL + static_cast<int>(i), kToolFaces[i].word, kToolFaces[i].glyph,
-                  false);
+    const int tool = static_cast<int>(i);
+    commands().AddTool(cmdBOARDTOOL + tool, commands().OfTool(tool));
   }
   lvwFILES_.Load(handle(), lvwFILES, L"Boards", SideListKind::kDocuments);
   list_wanted_ = ReadFlag(services().settings, kBoardList);
@@ -92,8 +82,6 @@ void WhiteboardForm::RefreshContent() {
   const std::wstring name = whiteboard_.name();
   PlaceTitle(name);
   ::SetWindowTextW(handle(), (name + L" - " + std::wstring(entry().title)).c_str());
-  buttons().Enable(ToolId(BoardTool::kUndo), board_.CanUndo());
-  buttons().Enable(ToolId(BoardTool::kRedo), board_.CanRedo());
   BoardForm::RefreshContent();
 }
 

@@ -4,8 +4,9 @@
 
 #include "base/number_text.h"
 #include "base/path.h"
-#include "frame/command.h"
+#include "frame/pressed_key_win.h"
 #include "resources/control_ids.h"
+#include "widgets/calculator/calculator_commands.h"
 #include "widgets/calculator/pasted_number.h"
 #include "win/system/clipboard.h"
 #include "win/windows/message_box.h"
@@ -13,20 +14,12 @@
 namespace varnel {
 namespace {
 
-constexpr Command kShowHistory{L"mnuCALCSHOWHIST", L"Show &log"};
-constexpr Command kDeleteSelected{L"mnuCALCDELETESELECTED", L"&Delete selected sums", L"Ctrl+Del"};
-constexpr Command kClearHistory{L"mnuCALCCLEARHISTORY", L"Clear lo&g..."};
-
 constexpr wchar_t kLogFile[] = L"calc2.dat";
 constexpr int kStruckMs = 120;
 constexpr int kRetryMs = 2000;
 constexpr int kMostPastedUnits = 1000;
 constexpr int kStepsToANotch = 3;
 
-int ShiftState() {
-  const auto held = [](int key, int bit) { return ::GetKeyState(key) < 0 ? bit : 0; };
-  return held(VK_SHIFT, kShiftHeld) | held(VK_CONTROL, kCtrlHeld) | held(VK_MENU, kAltHeld);
-}
 constexpr Message kClearQuestion{L"Clear log", L"Delete every sum of the log?",
                                  MessageKind::kQuestion};
 
@@ -46,14 +39,23 @@ std::optional<CalculatorKey> KeyOf(int id) {
 }
 
 CalculatorForm::CalculatorForm(Services& services, const FormEntry& entry, int index)
-    : WidgetForm(services, entry, index),
+    : WidgetForm(services, entry, index, {kCalculatorCommands}),
       log_(services.files, AddTrailingSeparator(services.program_folder) + kLogFile),
       lbl01234567890_(services.ui),
       lblDISPLAYFUNC_(services.ui),
       lblSUB_(services.ui),
       lvwFILES_(services.ui, *this),
       release_timer_(*this, kStruckMs, [this] { ReleaseStruck(); }),
-      log_timer_(*this, kRetryMs, [this] { RetryLog(); }) {}
+      log_timer_(*this, kRetryMs, [this] { RetryLog(); }) {
+  commands().Bind(
+      {{L"mnuCALCSHOWHIST", [this] { HistoryShow(); }, {}, [this] { return history_shown_; }},
+       {L"mnuCALCDELETESELECTED", [this] { DeleteSelected(); },
+        [this] { return !lvwFILES_.Selected().empty(); }},
+       {L"mnuCALCCLEARHISTORY", [this] { ClearHistory(); }, [this] { return log_.count() > 0; }},
+       {L"mnuCALCCOPY", [this] { Copy(); }},
+       {L"mnuCALCPASTE", [this] { PasteNumber(); }},
+       {L"mnuCALCSELECTALL", [this] { lvwFILES_.SelectAll(); }}});
+}
 
 void CalculatorForm::OnLoad() {
   lbl01234567890_.Load(handle(), lbl01234567890);
@@ -109,40 +111,17 @@ void CalculatorForm::Press(CalculatorKey key) {
   RefreshContent();
 }
 
-bool CalculatorForm::OnKey(const MSG& message) {
-  if (message.message == WM_KEYDOWN && OnKeyDown(static_cast<int>(message.wParam))) return true;
-  lvwFILES_.OnKey(message);
-  return WidgetForm::OnKey(message);
-}
-
-bool CalculatorForm::OnKeyDown(int virtual_key) {
-  const int shift_state = ShiftState();
-  if (lvwFILES_.HasFocus() && virtual_key == 'A' && shift_state == kCtrlHeld) {
-    lvwFILES_.SelectAll();
-    return true;
+bool CalculatorForm::OnFirstKey(const MSG& message) {
+  const CommandKey pressed = PressedKey(message);
+  if (const auto key = KeyFor(pressed)) {
+    Strike(*key);
+  } else if (pressed.code == kKeyApplications && pressed.held != kTyped) {
+    ::SendMessageW(handle(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(handle()), -1);
+  } else {
+    lvwFILES_.OnKey(message);
+    return false;
   }
-  const KeyStroke stroke = StrokeFor(virtual_key, shift_state);
-  switch (stroke.action) {
-    case StrokeAction::kPress:
-      Strike(stroke.key);
-      return true;
-    case StrokeAction::kDeleteSelected:
-      DeleteSelected();
-      return true;
-    case StrokeAction::kOpenMenu:
-      ::SendMessageW(handle(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(handle()), -1);
-      return true;
-    case StrokeAction::kCopyDisplay:
-      Copy();
-      return true;
-    case StrokeAction::kPasteNumber:
-      PasteNumber();
-      return true;
-    case StrokeAction::kFrame:
-    case StrokeAction::kNone:
-      break;
-  }
-  return false;
+  return true;
 }
 
 // The button is seen going down for a moment, as if it had been clicked.
@@ -225,25 +204,6 @@ void CalculatorForm::ClearHistory() {
   if (!Ask(handle(), kClearQuestion) || !handle()) return;
   log_.Clear();
   ShowLog(0);
-}
-
-std::vector<MenuItem> CalculatorForm::MenuGroup() const {
-  return {ItemOf(kShowHistory, true, history_shown_),
-          ItemOf(kDeleteSelected, !lvwFILES_.Selected().empty()),
-          ItemOf(kClearHistory, log_.count() > 0)};
-}
-
-bool CalculatorForm::RunOwnCommand(int id) {
-  if (id == CommandId(kShowHistory.name)) {
-    HistoryShow();
-  } else if (id == CommandId(kDeleteSelected.name)) {
-    DeleteSelected();
-  } else if (id == CommandId(kClearHistory.name)) {
-    ClearHistory();
-  } else {
-    return false;
-  }
-  return true;
 }
 
 // A turn of the wheel scrolls the number under the pointer, and from anywhere else the log.

@@ -36,16 +36,13 @@ class CalculatorForm : public WidgetForm, private SideListOwner {  // frmCLCwg
   void DrawPanelButton(const ButtonPainting& painting) override;
   void OnControl(int id, int code) override;
   std::wstring StatusText() const override;
-  std::vector<MenuItem> MenuGroup() const override;
-  bool RunOwnCommand(int id) override;
-  bool OnKey(const MSG& message) override;
+  bool OnFirstKey(const MSG& message) override;
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
   std::wstring RowText(std::size_t row) const override { return log_.Line(row); }
   void PaintRow(Surface& surface, const SideRow& row) override;
   void OnRowChosen(std::size_t row) override;
 
   void Press(CalculatorKey key);
-  bool OnKeyDown(int virtual_key);
   void Strike(CalculatorKey key);
   void ReleaseStruck();
   void Copy();

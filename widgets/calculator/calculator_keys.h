@@ -2,7 +2,10 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string_view>
+
+#include "frame/command_key.h"
 
 namespace varnel {
 
@@ -39,29 +42,7 @@ constexpr CalculatorKey DigitKey(int digit) {
 std::wstring_view KeyFace(CalculatorKey key);
 std::wstring_view KeyName(CalculatorKey key);
 
-// Shift state bits, as the keyboard handler gets them.
-inline constexpr int kShiftHeld = 1;
-inline constexpr int kCtrlHeld = 2;
-inline constexpr int kAltHeld = 4;
-
-enum class StrokeAction {
-  kNone,
-  kPress,           // press the key that goes with it
-  kDeleteSelected,  // `DeleteSelected`
-  kOpenMenu,        // the widget's menu, as from the title bar
-  kFrame,           // the widget frame handles the stroke
-  kCopyDisplay,     // the display to the clipboard
-  kPasteNumber,     // a number from the clipboard to the display
-};
-
-struct KeyStroke {
-  StrokeAction action = StrokeAction::kNone;
-  CalculatorKey key{};  // for kPress
-  bool operator==(const KeyStroke&) const = default;
-};
-
-// What pressing the key with the virtual key code does while exactly the modifiers of `shift_state`
-// are held.
-KeyStroke StrokeFor(int virtual_key, int shift_state);
+// The key that a key of the keyboard presses; nothing for the others.
+std::optional<CalculatorKey> KeyFor(const CommandKey& pressed);
 
 }  // namespace varnel

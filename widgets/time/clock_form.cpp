@@ -1,21 +1,19 @@
 #include "widgets/time/clock_form.h"
 
-#include "frame/command.h"
 #include "frame/frame_painter_win.h"
 #include "resources/control_ids.h"
+#include "widgets/time/clock_commands.h"
 #include "win/graphics/font_measure.h"
 
 namespace varnel {
 namespace {
 
 constexpr int kTickMs = 100;
-constexpr Command kProperties{L"mnuCLOCKPROPS", L"Clock &properties..."};
-constexpr Command kAlarms{L"mnuCLOCKALARMSET", L"A&larms..."};
 
 }  // namespace
 
 ClockForm::ClockForm(Services& services, const FormEntry& entry, int index)
-    : WidgetForm(services, entry, index),
+    : WidgetForm(services, entry, index, {kClockCommands}),
       lblPANECLOCK_(services.ui),
       lblSECS_(services.ui),
       lblSTYLE_(services.ui),
@@ -84,21 +82,6 @@ std::wstring ClockForm::StatusText() const {
   // A date that the panel has no room for stands in the strip.
   if (labels_.date.shown()) return {};
   return DateOf(shown_, strip_date_);
-}
-
-std::vector<MenuItem> ClockForm::MenuGroup() const {
-  return {ItemOf(kProperties), ItemOf(kAlarms, services().program.HasDialog(L"frmCLKas"))};
-}
-
-bool ClockForm::RunOwnCommand(int id) {
-  if (id == CommandId(kProperties.name)) {
-    services().program.OpenDialog(L"frmCLKpr");
-  } else if (id == CommandId(kAlarms.name)) {
-    services().program.OpenDialog(L"frmCLKas");
-  } else {
-    return false;
-  }
-  return true;
 }
 
 }  // namespace varnel

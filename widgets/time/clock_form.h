@@ -17,8 +17,6 @@ class ClockForm : public WidgetForm {  // frmCLKwg
   void LayOutPanel(const Rect& panel) override;
   void RefreshContent() override;
   std::wstring StatusText() const override;
-  std::vector<MenuItem> MenuGroup() const override;
-  bool RunOwnCommand(int id) override;
 
   void OnTick();
   void ShowTime(const LocalTime& now);

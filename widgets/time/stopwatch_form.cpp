@@ -1,6 +1,7 @@
 #include "widgets/time/stopwatch_form.h"
 
 #include "resources/control_ids.h"
+#include "widgets/time/clock_commands.h"
 #include "widgets/time/timer_layout.h"
 #include "win/graphics/font_measure.h"
 #include "win/system/clipboard.h"
@@ -13,9 +14,11 @@ constexpr int kTickMs = 100;
 }  // namespace
 
 StopwatchForm::StopwatchForm(Services& services, const FormEntry& entry, int index)
-    : WidgetForm(services, entry, index),
+    : WidgetForm(services, entry, index, {kStopwatchCommands}),
       display_(services.ui),
-      tmrSTOPWATCH_(*this, kTickMs, [this] { OnTick(); }) {}
+      tmrSTOPWATCH_(*this, kTickMs, [this] { OnTick(); }) {
+  commands().Bind({{L"mnuSTWCOPY", [this] { CopyText(handle(), engine_.shown()); }}});
+}
 
 void StopwatchForm::OnLoad() {
   display_.Load(handle(), lblELAPSED);
@@ -66,14 +69,6 @@ void StopwatchForm::OnControl(int id, int code) {
     ShowState();
     WidgetRefresh();
   }
-}
-
-bool StopwatchForm::OnKey(const MSG& message) {
-  if (message.message == WM_KEYDOWN && message.wParam == 'C' && ::GetKeyState(VK_CONTROL) < 0) {
-    CopyText(handle(), engine_.shown());
-    return true;
-  }
-  return WidgetForm::OnKey(message);
 }
 
 std::wstring StopwatchForm::Unfinished() const {

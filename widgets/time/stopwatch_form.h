@@ -18,7 +18,6 @@ class StopwatchForm : public WidgetForm {  // frmSTWwg
   void RefreshContent() override;
   void OnControl(int id, int code) override;
   std::wstring Unfinished() const override;
-  bool OnKey(const MSG& message) override;
   std::wstring StatusText() const override;
 
   void OnTick();

@@ -2,10 +2,10 @@
 
 #include "base/image.h"
 #include "base/rounded_box.h"
-#include "frame/command.h"
 #include "frame/frame_painter_win.h"
 #include "resources/control_ids.h"
 #include "widgets/weather/live_source.h"
+#include "widgets/weather/weather_commands.h"
 #include "widgets/weather/weather_glyphs.h"
 #include "widgets/weather/weather_service_win.h"
 #include "win/graphics/font_measure.h"
@@ -20,14 +20,11 @@ constexpr int kMinuteMs = 60 * 1000;
 constexpr int kStripGap = 12;  // at 96 dpi
 constexpr double kCardCorner = 6;
 
-constexpr Command kProperties{L"mnuWEATHERPROPS", L"Weather propert&ies..."};
-constexpr Command kRefresh{L"mnuWEATHERREFRESH", L"Re&fresh now", L"F5"};
-
 }  // namespace
 
 WeatherForm::WeatherForm(Services& services, const FormEntry& entry, int index,
                          WeatherService& weather)
-    : WidgetForm(services, entry, index),
+    : WidgetForm(services, entry, index, {kWeatherCommands}),
       weather_(weather),
       lblWeatherCountry_(services.ui),
       lblWeathersymbol_(services.ui),
@@ -43,7 +40,9 @@ WeatherForm::WeatherForm(Services& services, const FormEntry& entry, int index,
       minutely_(*this, kMinuteMs, [this] {
         weather_.KeepUpToDate();
         RefreshContent();  // the data may be of yesterday by now
-      }) {}
+      }) {
+  commands().Bind({{L"mnuWEATHERREFRESH", [this] { weather_.WeatherRefresh(); }}});
+}
 
 void WeatherForm::OnLoad() {
   lblWeatherCountry_.Load(handle(), lblWeatherCountry);
@@ -161,28 +160,6 @@ LRESULT WeatherForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     return TRUE;
   }
   return result;
-}
-
-bool WeatherForm::OnKey(const MSG& message) {
-  if (message.message == WM_KEYDOWN && message.wParam == VK_F5) {
-    return RunOwnCommand(CommandId(kRefresh.name));
-  }
-  return WidgetForm::OnKey(message);
-}
-
-std::vector<MenuItem> WeatherForm::MenuGroup() const {
-  return {ItemOf(kProperties), ItemOf(kRefresh)};
-}
-
-bool WeatherForm::RunOwnCommand(int id) {
-  if (id == CommandId(kProperties.name)) {
-    services().program.OpenDialog(L"frmWTHpr");
-  } else if (id == CommandId(kRefresh.name)) {
-    weather_.WeatherRefresh();
-  } else {
-    return false;
-  }
-  return true;
 }
 
 }  // namespace varnel

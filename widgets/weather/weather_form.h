@@ -32,9 +32,6 @@ class WeatherForm : public WidgetForm {  // frmWTHwg
   void DrawPanelButton(const ButtonPainting& painting) override;
   void OnControl(int id, int code) override;
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
-  bool OnKey(const MSG& message) override;
-  std::vector<MenuItem> MenuGroup() const override;
-  bool RunOwnCommand(int id) override;
 
   void PlaceLabels(const Rect& panel);
   void PlaceStrip();

@@ -8,4 +8,9 @@ std::wstring WindowText(HWND window) {
   return text;
 }
 
+std::wstring ClassName(HWND window) {
+  wchar_t name[257] = {};  // the longest that there is
+  return std::wstring(name, static_cast<std::size_t>(::GetClassNameW(window, name, 257)));
+}
+
 }  // namespace varnel

@@ -1,4 +1,4 @@
-// The text of any window or control.
+// The text of any window or control, and its kind.
 #pragma once
 
 #include <windows.h>
@@ -9,5 +9,6 @@ namespace varnel {
 
 // Empty for no window.
 std::wstring WindowText(HWND window);
+std::wstring ClassName(HWND window);
 
 }  // namespace varnel
