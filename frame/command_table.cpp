@@ -74,8 +74,8 @@ const CommandTable::Command* CommandTable::OfKey(const CommandKey& pressed, Focu
 
 bool CommandTable::Usable(const Command& command) const {
   const CommandDeed& deed = command.deed;
-  if (deed.run) return !deed.usable || deed.usable();
-  return !command.row->dialog.empty() && program_.HasDialog(command.row->dialog);
+  if (deed.usable && !deed.usable()) return false;
+  return deed.run || (!command.row->dialog.empty() && program_.HasDialog(command.row->dialog));
 }
 
 bool CommandTable::Run(const Command* command) const {

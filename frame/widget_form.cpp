@@ -219,7 +219,7 @@ void WidgetForm::RunCommand(int id) {
   services_.program.SetCurrentWidget(entry_.form_name);
   if (id == CommandId(TopCommand())) {
     SetOnTop(!on_top_);
-  } else if (!RunOwnCommand(id)) {
+  } else if (!commands_.Run(id)) {
     services_.program.RunCommand(id);
   }
 }
@@ -230,7 +230,7 @@ std::wstring_view WidgetForm::TopCommand() const {
 
 void WidgetForm::ShowMenu(Point at) {
   services_.program.SetCurrentWidget(entry_.form_name);
-  std::vector<MenuItem> items = MenuGroup();
+  std::vector<MenuItem> items = commands_.Menu();
   if (!items.empty()) items.push_back(MenuSeparator());
   for (MenuItem& item : services_.program.SharedMenu()) {
     // The widget's own command stands in for the shared one: nobody wants both.

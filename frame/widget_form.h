@@ -68,8 +68,6 @@ class WidgetForm : public PaintedWindow, public LiveForm {
   // A button was clicked, or another control sent notification `code`.
   virtual void OnControl(int /*id*/, int /*code*/) {}
   virtual std::wstring StatusText() const { return {}; }
-  virtual std::vector<MenuItem> MenuGroup() const { return commands_.Menu(); }
-  virtual bool RunOwnCommand(int id) { return commands_.Run(id); }
   // What the focus of the moment is to the widget's commands.
   virtual Focus FocusNow() const;
   // Sees each key message before the commands do; true when it is dealt with.
@@ -80,7 +78,7 @@ class WidgetForm : public PaintedWindow, public LiveForm {
   virtual void OnCloseButton();
 
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
-  bool OnKey(const MSG& message) override;
+  bool OnKey(const MSG& message) final;
 
   // The widget's own commands, but for the one of its FormEntry.
   CommandTools& commands() { return commands_; }

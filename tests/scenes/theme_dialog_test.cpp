@@ -286,7 +286,7 @@ void DismissAll(const Program& program) {
 // Chooses a command, waits until it has been carried out, and closes what it opened.
 void RunCommand(const Program& program, HWND form, int id) {
   const auto is = [id](const wchar_t* name) { return id == CommandId(name); };
-  if (is(L"mnuDCHELP") || is(L"mnuCALCCLEARHISTORY")) {  // these ask and wait
+  if (is(L"mnuDCHELP")) {  // asks and waits
     ::PostMessageW(form, WM_COMMAND, static_cast<WPARAM>(id), 0);
     EXPECT_TRUE(WaitForDialog(program)) << "command " << id;
   } else {

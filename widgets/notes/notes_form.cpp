@@ -49,7 +49,7 @@ constexpr wchar_t kExportFilter[] = L"Rich Text Paper (*.rtf)|*.rtf|Plain Text N
 
 NotesForm::NotesForm(Services& services, const FormEntry& entry, int index, NotesLink& link,
                      SpellService& spelling, PrintDesk& printing)
-    : WidgetForm(services, entry, index),
+    : WidgetForm(services, entry, index, Menus()),
       link_(link),
       printing_(printing),
       editor_(services.files, EditorEvents()),
@@ -82,7 +82,10 @@ NotesForm::NotesForm(Services& services, const FormEntry& entry, int index, Note
                       desk_.Tell({});
                       ShowNotice();
                     }),
-      search_timer_(*this, kSearchTickMs, [this] { GoOnSearching(); }) {}
+      search_timer_(*this, kSearchTickMs, [this] { GoOnSearching(); }) {
+  BindCommands();
+  BindTextCommands();
+}
 
 NoteEditor::Events NotesForm::EditorEvents() {
   return {.on_edit = [this] { OnEdited(); },
@@ -98,12 +101,7 @@ NoteEditor::Events NotesForm::EditorEvents() {
 
 void NotesForm::OnLoad() {
   lblNotes_.Load(handle(), lblNotes);
-  for (const int tool : {kToolNew, kToolSave, kToolList}) {
-    constexpr std::pair<const wchar_t*, wchar_t> kFaces[] = {
-        {L"New note", L'\xE214'}, {L"Save", L'\xE215'}, {L"List of notes", L'\xE256'}};
-    const auto& [word, glyph] = kFaces[tool == kToolList ? 2 : tool];
-    buttons().Add(lablTOOLSINS + tool, word, glyph, false);
-  }
+  for (const int tool : {kToolNew, kToolSave, kToolList}) AddTool(tool);
   LoadPanels();
   search_box_ = CreateEditBox(handle(), txtSEARCHNOTES, WS_TABSTOP, kMostQuery);
   ::SendMessageW(search_box_, EM_SETCUEBANNER, TRUE, reinterpret_cast<LPARAM>(L"Search"));

@@ -3,7 +3,6 @@
 
 #include <array>
 #include <memory>
-#include <span>
 
 #include "frame/bar_label_win.h"
 #include "frame/pages/print_desk_win.h"
@@ -77,11 +76,6 @@ class NotesForm : public WidgetForm,  // frmNOTwg
   void SaveState(SaveReason reason) override;
 
  private:
-  struct Action;
-  template <class Run>
-  struct KeyAction;
-  enum class Scope { kAnywhere, kEditor, kList };  // where the focus has to be
-
   void OnLoad() override;
   void OnUnload() override;
   void LayOutPanel(const Rect& panel) override;
@@ -89,9 +83,8 @@ class NotesForm : public WidgetForm,  // frmNOTwg
   void PaintPanel(Surface& surface, const Rect& panel) override;
   void DrawPanelButton(const ButtonPainting& painting) override;
   void OnControl(int id, int code) override;
-  std::vector<MenuItem> MenuGroup() const override;
-  bool RunOwnCommand(int id) override;
-  bool OnKey(const MSG& message) override;
+  Focus FocusNow() const override;
+  bool OnFirstKey(const MSG& message) override;
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
 
   std::wstring RowText(std::size_t row) const override;
@@ -141,12 +134,14 @@ class NotesForm : public WidgetForm,  // frmNOTwg
 
   // --- the tool strip and its panels
   static constexpr int kNoPanel = -1;
+  void AddTool(int tool);
   void LoadPanels();
   void TellPanels();
   void OpenFind();
   void FindNext();
   void FindPrevious();
   NotePanel* OpenPanel() const;
+  bool MayOpen(int tool) const;
   void OnTool(int tool);
   void ClosePanel();
   void ShowPanel(int tool);
@@ -158,44 +153,22 @@ class NotesForm : public WidgetForm,  // frmNOTwg
   Colour PaperColour() const;
 
   // --- commands
-  static std::span<const Action> NoteActions();
-  static std::span<const Action> TextActions();
-  std::vector<MenuItem> ItemsOf(std::span<const Action> actions) const;
+  static std::vector<CommandTable::Rows> Menus();
+  void BindCommands();
+  void BindTextCommands();
   void ShowEditorMenu(LPARAM position);
-  bool InScope(Scope scope) const;
-  template <class Keys, class Run>
-  bool RunFrom(const Keys& keys, WORD key, int held, Run run);
-  bool RunPlainKey(WORD key, int held);
-  bool RunNumberedKey(WORD key, int held);
-  bool RunKey(WORD key);
   template <class Command, class... Arguments>
   void Format(Command command, Arguments... arguments) {
     (formats_.*command)(arguments...);
     Formatted();
   }
   void Save() { DocumentSaveFile(desk_.document().type(), desk_.document().path()); }
-  void Export() { DocumentSaveAsNew(); }
-  void CloseNote() { DocumentClose(); }
   void RefreshAll();
-  void Properties();
-  void ShowVersions();
   void ShowCountsInStrip();
   void ToggleList();
-  void ToggleOnTop() { SetOnTop(!on_top()); }
-  void DoNothing() {}
-  bool HasRow() const { return SelectedNote().has_value(); }
-  bool HasVersions() const { return !desk_.Versions().empty(); }
   bool CanPrint() const;
-  bool ListWanted() const { return list_wanted_; }
-  bool OnTop() const { return on_top(); }
   bool CanUndo() const { return editor_.edit().CanUndo() || edited_.CanUndo(); }
   bool CanRedo() const { return editor_.edit().CanRedo() || edited_.CanRedo(); }
-  bool HasSelection() const { return !editor_.edit().Selection().empty(); }
-  bool Rich() const { return editor_.rich(); }
-  bool Bold() const { return formats_.characters().bold.value_or(false); }
-  bool Italic() const { return formats_.characters().italic.value_or(false); }
-  bool Underlined() const { return formats_.characters().underline.value_or(false); }
-  bool Bulleted() const;
 
   NotesLink& link_;
   PrintDesk& printing_;

@@ -38,7 +38,7 @@ constexpr wchar_t kPlainGlyph = L'\xE21C';
 void NotesForm::LayOutPanel(const Rect& panel) {
   NotesWishes wishes;
   for (int tool = 0; tool < kToolCount; ++tool) {
-    if (buttons().Find(lablTOOLSINS + tool)) wishes.tools.push_back(tool);
+    wishes.tools.push_back(tool);
   }
   wishes.list = list_wanted_;
   if (const NotePanel* open = OpenPanel()) {
@@ -147,10 +147,7 @@ void NotesForm::ShowNote() {
   lblNotes_.SetText(document.title());
   TellPanels();
   const bool rich = document.type() == NoteType::kRtf;
-  for (const int tool : {kToolFonts, kToolParagraph, kToolPicture, kToolText}) {
-    buttons().Enable(lablTOOLSINS + tool, rich);
-    buttons().Repaint(lablTOOLSINS + tool);
-  }
+  commands().RefreshTools();
   // Through its tool, as a click would.
   if (const NotePanel* open = OpenPanel(); open && !rich && !open->ForPlainText()) {
     OnTool(open_panel_);

@@ -53,11 +53,6 @@ void NotesForm::OnControl(int id, int code) {
     if (code == EN_CHANGE) StartSearch();
     return;
   }
-  const int tool = id - lablTOOLSINS;
-  if (tool >= 0 && tool < kToolCount) {
-    if (code == BN_CLICKED) OnTool(tool);
-    return;
-  }
   if (NotePanel* open = OpenPanel()) open->OnControl(id, code);
 }
 
@@ -66,22 +61,21 @@ NotePanel* NotesForm::OpenPanel() const {
 }
 
 void NotesForm::OnTool(int tool) {
-  if (tool == kToolNew) {
-    DocumentNew();
-  } else if (tool == kToolSave) {
-    Save();
-  } else if (tool == kToolList) {
-    ToggleList();
-  } else if (tool == open_panel_) {
+  if (tool == open_panel_) {
     ClosePanel();
   } else {
     ShowPanel(tool);
   }
 }
 
+bool NotesForm::MayOpen(int tool) const {
+  const auto& panel = panels_[static_cast<std::size_t>(tool)];
+  return panel && (editor_.rich() || panel->ForPlainText());
+}
+
 void NotesForm::ShowPanel(int tool) {
+  if (!MayOpen(tool)) return;
   NotePanel* panel = panels_[static_cast<std::size_t>(tool)].get();
-  if (!panel || (!editor_.rich() && !panel->ForPlainText())) return;
   if (tool != open_panel_) {
     open_panel_ = tool;
     panel->OnOpened();
@@ -142,10 +136,6 @@ void NotesForm::TextCopy() {
   ::SendMessageW(editor_.handle(), WM_COPY, 0, 0);
 }
 
-bool NotesForm::Bulleted() const {
-  return formats_.paragraph().numbering == RichNumbering::kBullets;
-}
-
 bool NotesForm::CanPrint() const {
   return services().program.HasDialog(L"frmNOTpp");
 }
@@ -156,14 +146,6 @@ void NotesForm::RefreshAll() {
 }
 
 // --- the rest
-
-void NotesForm::Properties() {
-  services().program.OpenDialog(L"frmNOTpr");
-}
-
-void NotesForm::ShowVersions() {
-  services().program.OpenDialog(L"frmNOTvr");
-}
 
 void NotesForm::ShowCountsInStrip() {
   editor_.TakeText();
@@ -182,21 +164,25 @@ void NotesForm::OnZoom(int notches) {
   ShowNotice();
 }
 
+void NotesForm::AddTool(int tool) {
+  commands().AddTool(lablTOOLSINS + tool, commands().OfTool(tool));
+}
+
 void NotesForm::LoadPanels() {
   NotePanelHost& host = *this;
-  const auto add = [this](int tool, wchar_t glyph, std::unique_ptr<NotePanel> panel) {
-    buttons().Add(lablTOOLSINS + tool, panel->name(), glyph, false);
+  const auto add = [this](int tool, std::unique_ptr<NotePanel> panel) {
+    AddTool(tool);
     panel->Load();
     panels_[static_cast<std::size_t>(tool)] = std::move(panel);
   };
-  add(kToolFonts, L'\xE24D', std::make_unique<FontsPanel>(host));
-  add(kToolParagraph, L'\xE244', std::make_unique<ParagraphPanel>(host));
+  add(kToolFonts, std::make_unique<FontsPanel>(host));
+  add(kToolParagraph, std::make_unique<ParagraphPanel>(host));
   auto find = std::make_unique<FindPanel>(host, edited_);
   pfrFIND_ = find.get();
-  add(kToolFind, L'\xE219', std::move(find));
-  add(kToolSpelling, L'\xE24C', std::make_unique<SpellPanel>(host, edited_, spelling_.checker()));
-  add(kToolText, L'\xE21A', std::make_unique<TextPanel>(host));
-  add(kToolPicture, L'\xE234', std::make_unique<PicturePanel>(host));
+  add(kToolFind, std::move(find));
+  add(kToolSpelling, std::make_unique<SpellPanel>(host, edited_, spelling_.checker()));
+  add(kToolText, std::make_unique<TextPanel>(host));
+  add(kToolPicture, std::make_unique<PicturePanel>(host));
 }
 
 }  // namespace varnel

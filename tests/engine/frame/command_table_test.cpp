@@ -11,6 +11,7 @@
 #include "widgets/boards/whiteboard_commands.h"
 #include "widgets/calculator/calculator_commands.h"
 #include "widgets/calculator/calculator_keys.h"
+#include "widgets/notes/notes_commands.h"
 #include "widgets/time/clock_commands.h"
 #include "widgets/weather/weather_commands.h"
 
@@ -20,8 +21,10 @@ namespace {
 // --- the tables of all widgets
 
 const std::vector<std::vector<CommandTable::Rows>> kWidgets = {
-    {kManagerCommands}, {kClockCommands},      {kStopwatchCommands}, {kCalculatorCommands},
-    {kWeatherCommands}, {kWhiteboardCommands}, {kCalendarCommands}};
+    {kManagerCommands},   {kClockCommands},
+    {kStopwatchCommands}, {kCalculatorCommands},
+    {kWeatherCommands},   {kWhiteboardCommands},
+    {kCalendarCommands},  {kNotesCommands, kNoteTextCommands}};
 
 // The faces of rows and of the elements of their arrays, with the commands' names.
 std::vector<std::pair<std::wstring, const CommandFace*>> FacesOf(CommandTable::Rows rows) {
