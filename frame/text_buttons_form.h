@@ -59,8 +59,8 @@ class TextButtons {
   const TextButton* hovered() const { return hovered_ ? Find(hovered_) : nullptr; }
   // The mouse is over `control` (any window). A button lights up until the mouse has left it.
   void OnMouseOver(HWND control);
-  // While not allowed no button tells its word.
-  void AllowTooltip(bool allowed) { tooltip_.Allow(allowed); }
+  // No button tells its word until the mouse comes to one.
+  void HideTooltip() { tooltip_.Detach(); }
 
   // Whether the button that has the focus is to be seen to have it; not at first.
   void ShowFocus(bool shown);

@@ -316,9 +316,8 @@ LRESULT WidgetForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
       OnContextMenu(lparam);
       return 0;
     case WM_ENTERMENULOOP:
-    case WM_EXITMENULOOP:
       // A tooltip would lie over the menu that its button opened.
-      buttons_.AllowTooltip(message == WM_EXITMENULOOP);
+      buttons_.HideTooltip();
       break;
     case WM_SETCURSOR:
       if (OnMouseOver(reinterpret_cast<HWND>(wparam))) return TRUE;

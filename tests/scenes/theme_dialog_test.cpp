@@ -250,6 +250,14 @@ TEST_F(ThemeDialogScene, AGlyphTellsItsWordWhenTheMouseRests) {
   EXPECT_SOON(!IsShown(tip)) << "it would lie over the menu";
   PressKey(VK_ESCAPE);
   EXPECT_TRUE(WaitForMenus(program(), 0));
+  // Nor one that waits for its moment when a quick hand clicks.
+  MoveMouse({1200, 700});
+  ASSERT_TRUE(ClickOn(Control(stopwatch_, lablTBARTOP)));
+  ASSERT_TRUE(WaitForMenus(program(), 1));
+  EXPECT_FALSE(
+      WaitUntil([&] { return IsShown(tip); }, 3 * static_cast<int>(::GetDoubleClickTime())));
+  PressKey(VK_ESCAPE);
+  EXPECT_TRUE(WaitForMenus(program(), 0));
 }
 
 // Every command of the shared menu but the one that ends the program; those that open or close a

@@ -5,6 +5,18 @@
 #include "win/windows/common_controls.h"
 
 namespace varnel {
+namespace {
+
+TTTOOLINFOW ToolOf(HWND form, HWND control) {
+  TTTOOLINFOW tool = {};
+  tool.cbSize = sizeof tool;
+  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+  tool.hwnd = form;
+  tool.uId = reinterpret_cast<UINT_PTR>(control);
+  return tool;
+}
+
+}  // namespace
 
 void Tooltip::Attach(HWND form, HWND control, const std::wstring& text) {
   if (!window_ && !text.empty() && LoadCommonControls(ICC_BAR_CLASSES)) {
@@ -15,22 +27,23 @@ void Tooltip::Attach(HWND form, HWND control, const std::wstring& text) {
                           CW_USEDEFAULT, CW_USEDEFAULT, form, nullptr, nullptr, nullptr);
   }
   if (!window_) return;
+  Detach();
+  if (text.empty()) return;
   std::wstring shown = text;
-  TTTOOLINFOW tool = {};
-  tool.cbSize = sizeof tool;
-  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
-  tool.hwnd = form;
-  tool.uId = reinterpret_cast<UINT_PTR>(control_);
-  if (control_) ::SendMessageW(window_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
-  control_ = text.empty() ? nullptr : control;
-  if (!control_) return;
-  tool.uId = reinterpret_cast<UINT_PTR>(control);
+  TTTOOLINFOW tool = ToolOf(form, control);
   tool.lpszText = shown.data();
-  ::SendMessageW(window_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+  if (::SendMessageW(window_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool))) {
+    form_ = form;
+    control_ = control;
+  }
 }
 
-void Tooltip::Allow(bool allowed) {
-  if (window_) ::SendMessageW(window_, TTM_ACTIVATE, allowed, 0);
+// Switching the window off alone would let a tooltip appear that already waits for its moment.
+void Tooltip::Detach() {
+  if (!control_) return;
+  TTTOOLINFOW tool = ToolOf(form_, control_);
+  ::SendMessageW(window_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+  control_ = nullptr;
 }
 
 }  // namespace varnel

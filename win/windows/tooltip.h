@@ -14,11 +14,12 @@ class Tooltip {
   // `text` appears when the mouse rests on `control`, which it has just come to; an empty one does
   // not.
   void Attach(HWND form, HWND control, const std::wstring& text);
-  // While not allowed none appears, and one that is shown goes.
-  void Allow(bool allowed);
+  // What is shown, or was about to be, goes; nothing appears until the next Attach.
+  void Detach();
 
  private:
   HWND window_ = nullptr;
+  HWND form_ = nullptr;
   HWND control_ = nullptr;  // the last one; each is attached anew, for its text may have changed
 };
 
