@@ -8,6 +8,7 @@
 #include "frame/on_top.h"
 #include "frame/pressed_key_win.h"
 #include "resources/control_ids.h"
+#include "theme/text_field_win.h"
 #include "theme/theme_store.h"
 #include "win/graphics/system_rect.h"
 #include "win/windows/message_box.h"
@@ -303,6 +304,7 @@ LRESULT WidgetForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
   if (OnSightMessage(message, wparam, lparam)) return 0;
   if (const auto result = mover_.OnMessage(message, wparam, lparam)) return *result;
   if (OnChange(message, wparam)) return 0;
+  if (const auto result = TextField::OnParentMessage(message, wparam, lparam)) return *result;
   switch (message) {
     case WM_DRAWITEM:
       buttons_.Draw(ui(), *reinterpret_cast<const DRAWITEMSTRUCT*>(lparam), paint_,

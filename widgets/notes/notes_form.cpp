@@ -10,7 +10,6 @@
 #include "widgets/notes/pages/plain_document.h"
 #include "widgets/notes/rtf/rtf_reader.h"
 #include "win/system/user_units.h"
-#include "win/windows/edit_box.h"
 #include "win/windows/file_dialogs.h"
 #include "win/windows/hourglass.h"
 #include "win/windows/message_box.h"
@@ -103,8 +102,7 @@ void NotesForm::OnLoad() {
   lblNotes_.Load(handle(), lblNotes);
   for (const int tool : {kToolNew, kToolSave, kToolList}) AddTool(tool);
   LoadPanels();
-  search_box_ = CreateEditBox(handle(), txtSEARCHNOTES, WS_TABSTOP, kMostQuery);
-  ::SendMessageW(search_box_, EM_SETCUEBANNER, TRUE, reinterpret_cast<LPARAM>(L"Search"));
+  search_field_.Load(handle(), txtSEARCHNOTES, {.most = kMostQuery, .hint = L"Search"});
   lvwFILES_.Load(handle(), lvwFILES, L"Notes", SideListKind::kDocuments);
   editor_.Load(handle(), rtbPAGEBOX, NoteBaseFormat(services().settings));
   lblCHARS_.Load(handle(), lblCHARS);

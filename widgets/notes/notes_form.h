@@ -8,6 +8,7 @@
 #include "frame/pages/print_desk_win.h"
 #include "frame/side_list_win.h"
 #include "frame/widget_form.h"
+#include "theme/text_field_win.h"
 #include "widgets/notes/editor/editor_note_win.h"
 #include "widgets/notes/editor/note_editor_win.h"
 #include "widgets/notes/editor/note_formats_win.h"
@@ -96,6 +97,7 @@ class NotesForm : public WidgetForm,  // frmNOTwg
   int PanelDpi() const override { return dpi(); }
   TextButtons& PanelButtons() override { return buttons(); }
   TextStyle PanelText() const override;
+  TextStyle PanelBoxStyle() const override;
   HFONT PanelFont() override;
   NoteEditor& Editor() override { return editor_; }
   NoteFormats& Formats() override { return formats_; }
@@ -187,7 +189,7 @@ class NotesForm : public WidgetForm,  // frmNOTwg
   int open_panel_ = kNoPanel;    // a tool
   NotesLayout places_;
   NoteSearch search_;
-  HWND search_box_ = nullptr;
+  TextField search_field_;
   UniqueFont panel_font_;
   int panel_font_dpi_ = 0;
   SideList lvwFILES_;

@@ -2,7 +2,6 @@
 #include <algorithm>
 
 #include "widgets/notes/notes_form.h"
-#include "win/windows/window_text.h"
 
 namespace varnel {
 namespace {
@@ -40,7 +39,7 @@ std::wstring NotesForm::RowText(std::size_t row) const {
 }
 
 void NotesForm::StartSearch() {
-  search_.Start(WindowText(search_box_), desk_.notes());
+  search_.Start(search_field_.text(), desk_.notes());
   search_timer_.Stop();
   if (!search_.done(desk_.notes())) {
     GoOnSearching();

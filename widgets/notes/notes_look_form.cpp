@@ -10,7 +10,6 @@
 #include "widgets/notes/notes_form.h"
 #include "widgets/notes/text/note_spacing.h"
 #include "win/graphics/font_measure.h"
-#include "win/windows/edit_box.h"
 
 namespace varnel {
 namespace {
@@ -70,7 +69,7 @@ void NotesForm::PlaceTools(const Rect& panel) {
 
 void NotesForm::PlacePanel(const Rect& panel) {
   if (panel_font_dpi_ != dpi()) {
-    panel_font_ = MakeFont({L"Tahoma", Scaled(kPanelFont, dpi()), false});
+    panel_font_ = MakeFont(PanelBoxStyle().font);
     panel_font_dpi_ = dpi();
   }
   for (int tool = 0; tool < kToolCount; ++tool) {
@@ -90,15 +89,15 @@ void NotesForm::PlaceList(const Rect& panel) {
       ButtonColours(paint(), ButtonLook::kNormal, services().colours).first;
   look.row_height = Scaled(kRowHeight, dpi());
   // What cannot be seen must not have the focus.
-  const bool search_lost = places_.search.empty() && ::GetFocus() == search_box_;
+  const bool search_lost = places_.search.empty() && search_field_.HasFocus();
   if (search_lost || (places_.list.empty() && lvwFILES_.HasFocus())) ::SetFocus(editor_.handle());
-  const Rect box = Within(panel, places_.search);
-  PlaceEditBox(
-      search_box_,
-      Inset({box.left + Scaled(4, dpi()), box.top + Scaled(3, dpi()), box.right, box.bottom},
-            Scaled(2, dpi())),
-      panel_font_.get());
-  ::ShowWindow(search_box_, places_.search.empty() ? SW_HIDE : SW_SHOWNA);
+  Rect field;
+  if (!places_.search.empty()) {
+    const Rect box = Within(panel, places_.search);
+    field = Inset({box.left + Scaled(4, dpi()), box.top + Scaled(3, dpi()), box.right, box.bottom},
+                  Scaled(2, dpi()));
+  }
+  search_field_.Place(field, PanelBoxStyle());
   lvwFILES_.Place(places_.list.empty() ? Rect{} : Within(panel, places_.list), look);
 }
 
@@ -213,6 +212,10 @@ TextStyle NotesForm::PanelText() const {
   TextStyle style = PanelTextStyle(Scaled(kPanelFont, dpi()));
   style.ground = CardColours(paint(), services().colours).first;
   return style;
+}
+
+TextStyle NotesForm::PanelBoxStyle() const {
+  return SystemBoxStyle({L"Tahoma", Scaled(kPanelFont, dpi()), false});
 }
 
 HFONT NotesForm::PanelFont() {

@@ -7,7 +7,7 @@
 #include "frame/frame_settings.h"
 #include "frame/screens_win.h"
 #include "resources/control_ids.h"
-#include "theme/field_colours_win.h"
+#include "theme/text_field_win.h"
 #include "theme/theme_store.h"
 #include "win/graphics/system_rect.h"
 #include "win/windows/user_look.h"

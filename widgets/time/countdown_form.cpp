@@ -2,20 +2,16 @@
 
 #include "resources/control_ids.h"
 #include "theme/contrast.h"
-#include "theme/field_colours_win.h"
 #include "win/graphics/font_measure.h"
 #include "win/system/sound.h"
-#include "win/windows/edit_box.h"
 #include "win/windows/message_box.h"
-#include "win/windows/window_text.h"
 
 namespace varnel {
 namespace {
 
-constexpr UINT kSelectField = WM_APP;  // wparam: the field's number
 constexpr int kTickMs = 1000;
-constexpr int kMostDigits = 3;
-constexpr DWORD kFieldStyle = ES_CENTER | ES_NUMBER;
+constexpr TextFieldKind kDigits{
+    .most = 3, .digits_only = true, .centred = true, .chosen_whole = true};
 constexpr int kOutlineRoom = 3;  // at 96 dpi, between a field and its outline
 constexpr CountdownField kFields[] = {CountdownField::kHours, CountdownField::kMinutes,
                                       CountdownField::kSeconds};
@@ -32,9 +28,8 @@ CountdownForm::CountdownForm(Services& services, const FormEntry& entry, int ind
 }
 
 void CountdownForm::OnLoad() {
-  filling_ = true;
-  for (int i = 0; i < 3; ++i) CreateEditBox(handle(), txtHRS + i, kFieldStyle, kMostDigits);
-  for (int i = 0; i < 3; ++i) CreateEditBox(handle(), txtSUBHRS + i, kFieldStyle, kMostDigits);
+  for (int i = 0; i < 3; ++i) fields_[i].Load(handle(), txtHRS + i, kDigits);
+  for (int i = 0; i < 3; ++i) interval_fields_[i].Load(handle(), txtSUBHRS + i, kDigits);
   for (int i = 0; i < 2; ++i) {
     separators_[i]->Load(handle(), lblSEP1 + i);
     separators_[i]->SetText(L":");
@@ -45,7 +40,6 @@ void CountdownForm::OnLoad() {
   }
   buttons().Add(lblStart, std::wstring(engine_.start_caption()), 0, false);
   buttons().Add(lblStop, std::wstring(engine_.stop_caption()), 0, false);
-  filling_ = false;
   ShowFields(0);
 }
 
@@ -62,13 +56,8 @@ void CountdownForm::LayOutPanel(const Rect& panel) {
   const CountdownLayout place =
       LayOutCountdown({panel.width(), panel.height()}, dpi(), std::wstring(laid_out_digits_, L'0'),
                       FontMeasure(ui().fonts, theme().strTHEMEPANELFONTNAME, false));
-  display_font_height_ = place.font_height;
   const TextStyle style = FieldStyle(place.font_height);
-  UniqueFont font = MakeFont(style.font);
-  for (int i = 0; i < 3; ++i) {
-    PlaceEditBox(::GetDlgItem(handle(), txtHRS + i), Within(panel, place.fields[i]), font.get());
-  }
-  display_font_ = std::move(font);
+  for (int i = 0; i < 3; ++i) fields_[i].Place(Within(panel, place.fields[i]), style);
   for (int i = 0; i < 2; ++i) {
     separators_[i]->Place(Within(panel, place.separators[i]), style);
     separators_[i]->Show(true);
@@ -92,14 +81,10 @@ void CountdownForm::PlaceInterval(const CountdownLayout& place, const Rect& pane
     interval_labels_[i]->Place(Within(panel, box), style);
     interval_labels_[i]->Show(shown);
   }
-  UniqueFont font = MakeFont(style.font);
   for (int i = 0; i < 3; ++i) {
-    HWND field = ::GetDlgItem(handle(), txtSUBHRS + i);
     interval_boxes_[i] = shown ? place.interval_fields[i] : Rect{};
-    PlaceEditBox(field, Within(panel, place.interval_fields[i]), font.get());
-    ::ShowWindow(field, shown ? SW_SHOWNA : SW_HIDE);
+    interval_fields_[i].Place(shown ? Within(panel, interval_boxes_[i]) : Rect{}, style);
   }
-  interval_font_ = std::move(font);
 }
 
 void CountdownForm::PaintPanel(Surface& surface, const Rect& panel) {
@@ -116,14 +101,10 @@ void CountdownForm::RefreshContent() {
 }
 
 void CountdownForm::ShowFields(int edited_id) {
-  filling_ = true;
   for (int i = 0; i < 3; ++i) {
-    SetEditText(::GetDlgItem(handle(), txtHRS + i), engine_.DisplayText(kFields[i]));
-    // The field that is being typed in is left to the user.
-    if (txtSUBHRS + i == edited_id) continue;
-    SetEditText(::GetDlgItem(handle(), txtSUBHRS + i), engine_.IntervalText(kFields[i]));
+    fields_[i].SetText(engine_.DisplayText(kFields[i]));
+    if (txtSUBHRS + i != edited_id) interval_fields_[i].SetText(engine_.IntervalText(kFields[i]));
   }
-  filling_ = false;
   // The font follows the number of digits.
   if (MostDigits() != laid_out_digits_) LayOutPanel(layout().pfrPANEL);
 }
@@ -172,39 +153,16 @@ void CountdownForm::OnControl(int id, int code) {
       engine_.PressStop();
     }
     ShowState();
-  } else if (code == EN_CHANGE && (display || interval) && !filling_) {
+  } else if (code == EN_CHANGE && (display || interval)) {
     OnFieldChanged(id);
-  } else if (code == EN_SETFOCUS && (display || interval)) {
-    // Later, for the click that brings the focus sets the caret after this.
-    ::PostMessageW(handle(), kSelectField, id, 0);
   }
 }
 
 void CountdownForm::OnFieldChanged(int id) {
   const int index = id >= txtSUBHRS ? id - txtSUBHRS : id - txtHRS;
-  HWND field = ::GetDlgItem(handle(), id);
-  std::wstring digits = WindowText(field);
-  std::erase_if(digits, [](wchar_t unit) { return unit < L'0' || unit > L'9'; });
-  filling_ = true;
-  SetEditText(field, digits);  // what was pasted may hold more than digits
-  filling_ = false;
-  engine_.Edit(kFields[index], digits);
+  engine_.Edit(kFields[index], (id >= txtSUBHRS ? interval_fields_ : fields_)[index].text());
   ShowFields(id);
   RepaintStatus();
-}
-
-LRESULT CountdownForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
-  if (message == kSelectField) {
-    ::ReleaseCapture();  // or the mouse, still down, would go on selecting by itself
-    ::SendMessageW(::GetDlgItem(handle(), static_cast<int>(wparam)), EM_SETSEL, 0, -1);
-    return 0;
-  }
-  if (message == WM_CTLCOLOREDIT) {
-    const bool of_display = ::GetDlgCtrlID(reinterpret_cast<HWND>(lparam)) < txtSUBHRS;
-    return ColourField(reinterpret_cast<HDC>(wparam),
-                       PanelTextStyle(of_display ? display_font_height_ : 1));
-  }
-  return WidgetForm::OnMessage(message, wparam, lparam);
 }
 
 std::wstring CountdownForm::Unfinished() const {

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "frame/widget_form.h"
+#include "theme/text_field_win.h"
 #include "theme/themed_label_win.h"
 #include "widgets/time/countdown_engine.h"
 #include "widgets/time/timer_layout.h"
@@ -23,12 +24,12 @@ class CountdownForm : public WidgetForm {  // frmCDNwg
   void PaintPanel(Surface& surface, const Rect& panel) override;
   void OnControl(int id, int code) override;
   std::wstring Unfinished() const override;
-  LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
   std::wstring StatusText() const override;
 
   void OnTick();
   void AnnounceEnd();
   void OnFieldChanged(int id);
+  // The set field with the number `edited_id` is left to the user, who is typing in it.
   void ShowFields(int edited_id);
   // Of the display's longest field.
   std::size_t MostDigits() const;
@@ -38,13 +39,11 @@ class CountdownForm : public WidgetForm {  // frmCDNwg
 
   CountdownEngine engine_;
   std::size_t laid_out_digits_ = 2;
-  bool filling_ = false;  // the fields are being written by the program
+  std::array<TextField, 3> fields_;           // of the display
+  std::array<TextField, 3> interval_fields_;  // what it is set to
   std::array<std::unique_ptr<ThemedLabel>, 2> separators_;
   std::array<std::unique_ptr<ThemedLabel>, 4> interval_labels_;  // a word, then three units
   std::array<Rect, 3> interval_boxes_;  // in pixels of the panel; empty where not shown
-  int display_font_height_ = 1;
-  UniqueFont display_font_;  // in use by the edit boxes
-  UniqueFont interval_font_;
   Timer tmrTIMER_;
 };
 

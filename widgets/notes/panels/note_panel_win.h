@@ -24,6 +24,8 @@ class NotePanelHost {
   virtual TextButtons& PanelButtons() = 0;
   // Of captions on the panel.
   virtual TextStyle PanelText() const = 0;
+  // Of fields, which look like the system's boxes beside them.
+  virtual TextStyle PanelBoxStyle() const = 0;
   virtual HFONT PanelFont() = 0;  // of boxes; borrowed until the panel is placed anew
   virtual NoteEditor& Editor() = 0;
   virtual NoteFormats& Formats() = 0;

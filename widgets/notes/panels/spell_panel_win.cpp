@@ -4,9 +4,7 @@
 
 #include "resources/control_ids.h"
 #include "win/graphics/system_rect.h"
-#include "win/windows/edit_box.h"
 #include "win/windows/hourglass.h"
-#include "win/windows/window_text.h"
 
 namespace varnel {
 namespace {
@@ -74,10 +72,9 @@ void SpellPanel::AddList(int id, const wchar_t* word) {
 }
 
 void SpellPanel::Load() {
-  AddWindow(
-      txtSUGG,
-      CreateEditBox(host().PanelParent(), txtSUGG, WS_BORDER, static_cast<int>(kLongestListWord)),
-      {112});
+  txtSUGG_.Load(host().PanelParent(), txtSUGG,
+                {.most = static_cast<int>(kLongestListWord), .bordered = true});
+  AddWindow(txtSUGG, txtSUGG_.handle(), {112});
   AddButton(btnCHANGE, L"Change", 0, {58});
   AddButton(btnIGNORE, L"Ignore", 0, {54});
   AddButton(btnINCLUDE, L"Include", 0, {56});
@@ -119,15 +116,15 @@ void SpellPanel::Place(const Rect& box) {
     cells.left = list_.right;
   }
   NotePanel::Place(cells);
-  for (const int id : {txtSUGG, lstSUGGESTIONS, lstOWNWORDS}) {
+  for (const int id : {lstSUGGESTIONS, lstOWNWORDS}) {
     ::SendMessageW(Control(id), WM_SETFONT, reinterpret_cast<WPARAM>(host().PanelFont()), TRUE);
   }
   // The box is as high as its text asks, in the middle of its row.
-  const Rect row = PlaceInForm(Control(txtSUGG));
+  const Rect row = PlaceInForm(txtSUGG_.handle());
   const int spare = row.height() - Scaled(kBoxHeight, dpi);
   if (!row.empty()) {
-    PlaceWindow(Control(txtSUGG),
-                {row.left, row.top + spare / 2, row.right, row.bottom - (spare - spare / 2)});
+    txtSUGG_.Place({row.left, row.top + spare / 2, row.right, row.bottom - (spare - spare / 2)},
+                   host().PanelBoxStyle());
   }
   ShowLists();
 }
@@ -232,7 +229,7 @@ void SpellPanel::Step(void (SpellDesk::*step)()) {
 void SpellPanel::Change(void (SpellDesk::*step)(const std::wstring& replacement)) {
   {
     const HourglassPointer pointer;
-    (desk_.*step)(WindowText(Control(txtSUGG)));
+    (desk_.*step)(txtSUGG_.text());
   }
   ShowStep(true);
 }
@@ -254,22 +251,22 @@ void SpellPanel::ShowStep(bool take_focus) {
   std::vector<std::wstring> words = desk_.suggestions().words;
   if (words.empty() && !desk_.word().empty()) words.emplace_back(kNoSuggestion);
   FillList(list, words);
-  SetEditText(Control(txtSUGG), desk_.suggestions().proposed);
+  txtSUGG_.SetText(desk_.suggestions().proposed);
   const auto proposed = std::ranges::find(words, desk_.suggestions().proposed);
   if (proposed != words.end()) {
     ::SendMessageW(list, LB_SETCURSEL, static_cast<WPARAM>(proposed - words.begin()), 0);
   }
   if (own_words_) FillList(Control(lstOWNWORDS), checker_.own_words());
-  if (take_focus && ::IsWindowVisible(Control(txtSUGG))) {
-    ::SetFocus(Control(txtSUGG));
-    ::SendMessageW(Control(txtSUGG), EM_SETSEL, 0, -1);
+  if (take_focus && ::IsWindowVisible(txtSUGG_.handle())) {
+    ::SetFocus(txtSUGG_.handle());
+    txtSUGG_.SelectAll();
   }
   EnableButtons();
 }
 
 void SpellPanel::EnableButtons() {
   const bool word = !desk_.word().empty();
-  const bool replacement = word && !WindowText(Control(txtSUGG)).empty();
+  const bool replacement = word && !txtSUGG_.text().empty();
   TextButtons& buttons = host().PanelButtons();
   for (const int id : {btnCHANGE, btnCHANGEALL}) buttons.Enable(id, replacement);
   for (const int id : {btnIGNORE, btnIGNORENOTE, btnINCLUDE}) buttons.Enable(id, word);
@@ -279,7 +276,7 @@ void SpellPanel::EnableButtons() {
 void SpellPanel::TakeSuggestion() {
   const std::wstring chosen = SelectedRow(Control(lstSUGGESTIONS));
   if (!chosen.empty() && !desk_.suggestions().words.empty()) {
-    SetEditText(Control(txtSUGG), chosen);
+    txtSUGG_.SetText(chosen);
   }
   EnableButtons();
 }

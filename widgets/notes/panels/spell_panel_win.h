@@ -1,6 +1,7 @@
 // The panel that checks the spelling.
 #pragma once
 
+#include "theme/text_field_win.h"
 #include "widgets/notes/panels/note_panel_win.h"
 #include "widgets/notes/panels/panel_voice_win.h"
 #include "widgets/notes/spelling/spell_desk.h"
@@ -43,6 +44,7 @@ class SpellPanel : public NotePanel {  // pfrSPELL
   PanelVoice voice_;
   clsNOTsp& checker_;
   SpellDesk desk_;
+  TextField txtSUGG_;
   Rect list_;
   bool own_words_ = false;  // are shown in place of suggestions
 };
