@@ -1,17 +1,24 @@
 // The thin wrappers around the platform: what they promise beyond it.
 #include <gtest/gtest.h>
+#include <windows.h>
 
+#include <commctrl.h>
+
+#include <algorithm>
 #include <stdexcept>
 
 #include "core/settings_store.h"
+#include "tests/rig/input.h"
 #include "tests/support/cases.h"
 #include "tests/window/window_aid.h"
 #include "win/files/disk_files.h"
 #include "win/system/local_time.h"
 #include "win/system/system_registry.h"
 #include "win/windows/message_loop.h"
+#include "win/windows/monitors.h"
 #include "win/windows/painted_window.h"
 #include "win/windows/timer.h"
+#include "win/windows/tooltip.h"
 
 namespace varnel {
 namespace {
@@ -104,6 +111,90 @@ TEST(Timer, NeverAfterStopNorWhileItsHandlerRuns) {
   window.Destroy();
   timer.Start();  // without a window: nothing
   EXPECT_FALSE(timer.enabled());
+}
+
+class TooltipTest : public test::Hosted {
+ protected:
+  HWND Button(int left) {
+    return ::CreateWindowExW(0, L"BUTTON", L"", WS_CHILD | WS_VISIBLE, left, 100, 100, 40,
+                             host_.handle(), nullptr, nullptr, nullptr);
+  }
+  // The tooltip's window, or null; other programs have some, too.
+  static HWND TipWindow() {
+    HWND found = nullptr;
+    const auto look = [](HWND window, LPARAM result) -> BOOL {
+      wchar_t name[64] = {};
+      ::GetClassNameW(window, name, 64);
+      const bool tip = std::wstring_view(name) == TOOLTIPS_CLASSW;
+      if (tip) *reinterpret_cast<HWND*>(result) = window;
+      return !tip;
+    };
+    ::EnumThreadWindows(::GetCurrentThreadId(), look, reinterpret_cast<LPARAM>(&found));
+    return found;
+  }
+  // The texts that it holds ready, at the most two.
+  static std::vector<std::wstring> Texts() {
+    std::vector<std::wstring> texts;
+    for (UINT i = 0; i < 2; ++i) {
+      wchar_t text[200] = {};
+      TTTOOLINFOW tool = {};
+      tool.cbSize = sizeof tool;
+      tool.lpszText = text;
+      if (::SendMessageW(TipWindow(), TTM_ENUMTOOLSW, i, reinterpret_cast<LPARAM>(&tool))) {
+        texts.emplace_back(text);
+      }
+    }
+    return texts;
+  }
+  static bool IsShown() { return ::IsWindowVisible(TipWindow()) != FALSE; }
+
+  Tooltip tooltip_;
+};
+
+TEST_F(TooltipTest, HoldsTheTextOfTheLastControlAlone) {
+  HWND one = Button(20);
+  HWND other = Button(220);
+  tooltip_.Allow(true);
+  tooltip_.Attach(host_.handle(), one, L"");
+  EXPECT_EQ(TipWindow(), nullptr) << "made for nothing";
+  tooltip_.Attach(host_.handle(), one, L"Open & close");
+  EXPECT_EQ(Texts(), std::vector<std::wstring>{L"Open & close"});
+  tooltip_.Attach(host_.handle(), one, L"Close");
+  EXPECT_EQ(Texts(), std::vector<std::wstring>{L"Close"});
+  tooltip_.Attach(host_.handle(), other, L"Other");
+  EXPECT_EQ(Texts(), std::vector<std::wstring>{L"Other"});
+  tooltip_.Attach(host_.handle(), one, L"");
+  EXPECT_EQ(Texts(), std::vector<std::wstring>{});
+}
+
+TEST_F(TooltipTest, AppearsWhereTheMouseRestsUnlessNotAllowed) {
+  tooltip_.Attach(host_.handle(), Button(20), L"Open");
+  rig::ResetInput();
+  rig::MoveMouse({100, 150});
+  rig::MoveMouse({101, 151});
+  ASSERT_TRUE(test::RunMessagesUntil([] { return IsShown(); }, 10'000));
+  tooltip_.Allow(false);
+  EXPECT_TRUE(test::RunMessagesUntil([] { return !IsShown(); }));
+}
+
+TEST(Monitors, AreThoseOfTheDesktopThePrimaryOneFirst) {
+  const std::vector<MonitorInfo> monitors = Monitors();
+  ASSERT_FALSE(monitors.empty());
+  EXPECT_EQ(monitors[0].area,
+            RectAt({0, 0}, {::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN)}));
+  for (const MonitorInfo& monitor : monitors) {
+    EXPECT_FALSE(monitor.work_area.empty());
+    EXPECT_EQ(Intersection(monitor.work_area, monitor.area), monitor.work_area);
+    EXPECT_GE(monitor.dpi, 72);
+    EXPECT_EQ(MonitorAt(Inset(monitor.area, 10)).area, monitor.area);
+  }
+  // Far from all there is the nearest one.
+  for (const Point outside : {Point{-90'000, 0}, Point{0, 90'000}}) {
+    const Rect area = MonitorAt(RectAt(outside, {10, 10})).area;
+    EXPECT_TRUE(std::ranges::any_of(
+        monitors, [&](const MonitorInfo& monitor) { return monitor.area == area; }));
+  }
+  EXPECT_GE(SystemDpi(), 72);
 }
 
 TEST(SystemRegistry, KeepsTheRulesOfTheStoreOnTheRealRegistry) {
