@@ -38,12 +38,14 @@ void FolderDialog::Browse() {
 
 void FolderDialog::Choose() {
   std::wstring folder = Trim(ControlText(txtLOCATION));
-  if (folder != shown_) {
+  const bool changed = folder != shown_;
+  if (changed) {
     if (!IsAbsolutePath(folder)) {
       Ask(handle(), kNoPath, {folder});
       return;
     }
-    folder = DocumentFolderIn(folder, texts_.subfolder);
+    folder = texts_.append == Subfolder::kOfAnyChosen ? DocumentFolderIn(folder, texts_.subfolder)
+                                                      : AddTrailingSeparator(folder);
   }
   if (!MayChange()) return;
   if (!EnsureFolder(services_.files, folder, folder)) {
@@ -51,8 +53,9 @@ void FolderDialog::Choose() {
     return;
   }
   services_.settings.Write(setting_.section, setting_.name, folder);
+  Store();
   Close();
-  OnChosen();
+  OnChosen(changed);
 }
 
 }  // namespace varnel

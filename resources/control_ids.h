@@ -274,8 +274,8 @@
 #define cboFONTSIZETEXT 1891
 #define picCOLORBAR 1892
 #define cmdEdit 1893
-#define optDOCTYPE 1894  // 0 rich text, 1 plain text
-#define cmdBrowsefrmNOTpr 1896
+#define optDOCTYPE 1894         // 0 rich text, 1 plain text
+#define cmdBrowsefrmNOTpr 1651  // that of every folder dialog
 #define cmdOKfrmNOTpr 1
 #define cmdCancelfrmNOTpr 2
 

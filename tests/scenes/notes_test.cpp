@@ -238,6 +238,39 @@ TEST_F(Notes, AreFoundAndGoBackToAnEarlierVersion) {
   EXPECT_SOON(Saved(Folder() + L"Cake.rtf").text == L"plums and flour");
 }
 
+TEST_F(Notes, ThePropertiesAreKeptOnceTheFolderIsThere) {
+  Start();
+  const auto open = [this] {
+    Choose(form_, L"mnuNOTESPROPS");
+    return WaitForForm(program(), L"frmNOTpr");
+  };
+  const auto details = [this](const wchar_t* name) {
+    return root().settings().Text(L"frmNOTpr\\Details", name);
+  };
+  HWND dialog = open();
+  ASSERT_TRUE(dialog);
+  EXPECT_SOON_EQ(Text(Control(dialog, txtLOCATION)), Folder());
+  SetText(Control(dialog, txtLOCATION), L"no path");
+  SetText(Control(dialog, cboFONTSIZETEXT), L"20");
+  Send(Control(dialog, optDOCTYPE + 1), BM_CLICK);
+  PressButton(dialog, cmdOKfrmNOTpr);
+  HWND refusal = WaitForDialog(program());
+  ASSERT_TRUE(refusal);
+  EXPECT_NE(DialogText(refusal).find(L"\"no path\""), std::wstring::npos);
+  ASSERT_TRUE(CloseDialog(refusal, IDOK));
+  EXPECT_TRUE(::IsWindow(dialog));
+  EXPECT_NE(details(L"Font Size"), L"20");
+
+  const std::wstring elsewhere = root().folder() + L"\\elsewhere";
+  SetText(Control(dialog, txtLOCATION), elsewhere);
+  PressButton(dialog, cmdOKfrmNOTpr);
+  EXPECT_SOON(!::IsWindow(dialog));
+  EXPECT_TRUE(FolderExists(elsewhere)) << "what is typed is taken as it is";
+  EXPECT_EQ(details(L"Notes Folder Location"), elsewhere + L"\\");
+  EXPECT_EQ(details(L"Font Size"), L"20");
+  EXPECT_EQ(details(L"Document Type"), L"1");
+}
+
 TEST_F(Notes, ClosingAsksAndAKilledProgramLosesNothing) {
   Start();
   Type(L"first words");

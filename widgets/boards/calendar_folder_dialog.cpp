@@ -24,7 +24,7 @@ void CalendarFolderDialog::ListMonths() {
   SetControlText(lblSelectedFolder, folder);
   HWND list = Control(flbLIST);
   ::SendMessageW(list, LB_RESETCONTENT, 0, 0);
-  for (const std::wstring& name : services_.files.FileNames(folder, kBoardEnding)) {
+  for (const std::wstring& name : services().files.FileNames(folder, kBoardEnding)) {
     ::SendMessageW(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name.c_str()));
   }
 }

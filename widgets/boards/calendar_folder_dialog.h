@@ -13,20 +13,18 @@ class CalendarFolderDialog : public FolderDialog {  // frmCALpr
       // The whiteboard's wording, kept as it is.
       : FolderDialog(services, {L"frmCALpr", L"Choose a new whiteboard location", L"calendar"},
                      kCalendarFolder),
-        services_(services),
         link_(link) {}
 
  private:
   void OnOpen() override;
   void OnCommand(int id, int code) override;
   bool MayChange() override { return !link_.widget || link_.widget->SaveMonth(); }
-  void OnChosen() override {
+  void OnChosen(bool /*changed*/) override {
     if (link_.widget) link_.widget->FolderChanged();
   }
   // The months that are kept in the folder that is named.
   void ListMonths();
 
-  Services& services_;
   CalendarLink& link_;
 };
 

@@ -16,7 +16,7 @@ class WhiteboardFolderDialog : public FolderDialog {  // frmWBDpr
 
  private:
   bool MayChange() override { return !link_.widget || link_.widget->SaveBoards(); }
-  void OnChosen() override {
+  void OnChosen(bool /*changed*/) override {
     if (link_.widget) link_.widget->FolderChanged();
   }
 
