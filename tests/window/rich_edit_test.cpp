@@ -5,6 +5,7 @@
 
 #include "tests/rig/input.h"
 #include "tests/window/window_aid.h"
+#include "win/rich/rich_guard.h"
 #include "win/system/clipboard.h"
 
 namespace varnel {
@@ -264,6 +265,33 @@ TEST_F(Editor, AThousandPicturesLeaveNothingBehind) {
     EXPECT_GT(look.use_count(), 1);
   }
   EXPECT_EQ(look.use_count(), 1);
+}
+
+TEST_F(Editor, WhatIsDroppedGetsInOnlyAsItsOwnerSays) {
+  struct Case {
+    ClipboardContent dropped;
+    RtfGate gate;
+    UINT taken;  // 0: nothing is
+  };
+  const ClipboardContent both{L"text", R"({\rtf1 text})"};
+  const auto says = [](bool answer) { return [answer](const std::string&) { return answer; }; };
+  const auto fails = [](const std::string&) -> bool { throw std::runtime_error("no memory"); };
+  const Case cases[] = {{both, says(true), RtfFormat()},
+                        {both, says(false), CF_UNICODETEXT},
+                        {both, {}, CF_UNICODETEXT},
+                        {both, fails, 0},
+                        {{L"text", {}}, fails, CF_UNICODETEXT},
+                        {{{}, both.rtf}, says(false), 0}};
+  for (const Case& drop : cases) {
+    ASSERT_TRUE(CopyContent(host_.handle(), drop.dropped));
+    ComPointer<IDataObject> data;
+    ASSERT_EQ(::OleGetClipboard(data.Receive()), S_OK);
+    CLIPFORMAT format = 0;
+    const HRESULT answer =
+        MakeRichGuard(drop.gate)->QueryAcceptData(data.get(), &format, RECO_DROP, TRUE, nullptr);
+    EXPECT_EQ(answer, drop.taken ? S_OK : E_ACCESSDENIED) << &drop - cases;
+    EXPECT_EQ(format, drop.taken) << &drop - cases;
+  }
 }
 
 }  // namespace

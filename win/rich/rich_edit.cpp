@@ -5,6 +5,8 @@
 #include <shellapi.h>
 
 #include <algorithm>
+#include <new>
+#include <stdexcept>
 
 #include "win/system/clipboard.h"
 #include "win/system/late_function.h"
@@ -27,9 +29,14 @@ DWORD CALLBACK ReadPiece(DWORD_PTR cookie, BYTE* buffer, LONG size, LONG* count)
   return 0;
 }
 
+// Nothing may be thrown through the control, so that want of memory becomes an error.
 DWORD CALLBACK WritePiece(DWORD_PTR cookie, BYTE* buffer, LONG size, LONG* count) {
-  reinterpret_cast<std::string*>(cookie)->append(reinterpret_cast<const char*>(buffer),
-                                                 static_cast<std::size_t>(size));
+  try {
+    reinterpret_cast<std::string*>(cookie)->append(reinterpret_cast<const char*>(buffer),
+                                                   static_cast<std::size_t>(size));
+  } catch (const std::bad_alloc&) {
+    return ERROR_OUTOFMEMORY;
+  }
   *count = size;
   return 0;
 }
@@ -218,6 +225,8 @@ std::string RichEdit::StreamOut(UINT format) const {
   std::string bytes;
   EDITSTREAM stream = {reinterpret_cast<DWORD_PTR>(&bytes), 0, WritePiece};
   SendTo(EM_STREAMOUT, format, stream);
+  // Half a text must never be taken for the whole.
+  if (stream.dwError != 0) throw std::runtime_error("the editor did not give its text");
   return bytes;
 }
 

@@ -72,6 +72,7 @@ class RichEdit {
   bool PutText(std::wstring_view text, Scope scope = Scope::kAll);
   // Replaces what is selected; one step to undo.
   void Replace(const std::wstring& text);
+  // What is in the control. Both throw where it does not give all of that.
   std::string Rtf(Scope scope = Scope::kAll) const;
   // With lines that end in CR LF.
   std::wstring Text(Scope scope = Scope::kAll) const;

@@ -64,11 +64,15 @@ class RichGuard final : public IRichEditOleCallback {
   }
   HRESULT STDMETHODCALLTYPE QueryAcceptData(IDataObject* data, CLIPFORMAT* format, DWORD,
                                             WINBOOL really, HGLOBAL) override {
-    const bool rtf =
-        Offers(*data, RtfFormat()) && (!really || (gate_ && gate_(BytesOf(*data, RtfFormat()))));
-    if (!rtf && !Offers(*data, CF_UNICODETEXT)) return E_ACCESSDENIED;
-    *format = static_cast<CLIPFORMAT>(rtf ? RtfFormat() : CF_UNICODETEXT);
-    return S_OK;
+    try {
+      const bool rtf = Offers(*data, RtfFormat()) && (!really || LetsIn(*data));
+      if (!rtf && !Offers(*data, CF_UNICODETEXT)) return E_ACCESSDENIED;
+      *format = static_cast<CLIPFORMAT>(rtf ? RtfFormat() : CF_UNICODETEXT);
+      return S_OK;
+    } catch (...) {
+      // Nothing may be thrown through the control. What cannot be looked at does not get in.
+      return E_ACCESSDENIED;
+    }
   }
 
   HRESULT STDMETHODCALLTYPE DeleteObject(IOleObject*) override { return S_OK; }
@@ -89,6 +93,8 @@ class RichGuard final : public IRichEditOleCallback {
 
  private:
   ~RichGuard() = default;
+
+  bool LetsIn(IDataObject& data) const { return gate_ && gate_(BytesOf(data, RtfFormat())); }
 
   ULONG references_ = 1;  // used by one thread
   RtfGate gate_;
