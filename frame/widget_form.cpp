@@ -325,6 +325,7 @@ LRESULT WidgetForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
       if (OnMouseOver(reinterpret_cast<HWND>(wparam))) return TRUE;
       break;
     case WM_LBUTTONDOWN:
+      buttons_.ShowFocus(KeyboardPreferred());
       OnLeftButtonDown({static_cast<short>(LOWORD(lparam)), static_cast<short>(HIWORD(lparam))});
       return 0;
     case WM_PARENTNOTIFY:

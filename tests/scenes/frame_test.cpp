@@ -122,6 +122,32 @@ TEST_F(Frame, KeysMoveAndSizeTheWindowAndWalkTheButtons) {
   EXPECT_TRUE(WaitForNoForm(program(), L"frmCLKwg"));
 }
 
+// On a system whose user has not said that they work by keyboard. A program asks that only once.
+class FrameByMouse : public Frame {
+ protected:
+  FrameByMouse() {
+    ::SystemParametersInfoW(SPI_GETKEYBOARDPREF, 0, &former_, 0);
+    ::SystemParametersInfoW(SPI_SETKEYBOARDPREF, FALSE, nullptr, 0);
+  }
+  ~FrameByMouse() override { ::SystemParametersInfoW(SPI_SETKEYBOARDPREF, former_, nullptr, 0); }
+
+ private:
+  BOOL former_ = FALSE;
+};
+
+TEST_F(FrameByMouse, TheFocusIsShownFromTheFirstKeyToTheNextClick) {
+  const HWND button = Control(clock_, lablTBARTOP);
+  const Rect place = RectOf(clock_);
+  ASSERT_TRUE(Activate(clock_));
+  const Picture plain = StillPictureOf(button);
+  PressKey(VK_TAB);
+  EXPECT_SOON(FocusedWindow() == button);
+  EXPECT_SOON(PictureOf(button) != plain);
+  Click({place.left + 30, place.bottom - 8});
+  EXPECT_SOON(PictureOf(button) == plain);
+  EXPECT_EQ(FocusedWindow(), button);
+}
+
 TEST_F(Frame, MenuByMouseAndByKey) {
   const Rect place = RectOf(clock_);
   Click({place.left + 60, place.top + 12}, MouseButton::kRight);
