@@ -61,7 +61,7 @@ inline std::vector<Seen> SeenUnits(const RtfDocument& document) {
 inline std::string TextFault(const PlacedText& text, const Rect& column) {
   if (text.ends.size() != text.text.size() || text.text.empty()) return "ends do not fit the text";
   if (!std::ranges::is_sorted(text.ends) || text.ends.front() < 0) return "ends are not in order";
-  if (text.source == kNoSource) return {};
+  if (text.source == kNoSource || text.width() == 0) return {};
   const bool one =
       std::ranges::all_of(text.ends, [&text](int end) { return end == text.ends.front(); });
   const bool may_cross = one && text.width() > std::min(kNarrowestLine, column.width());
