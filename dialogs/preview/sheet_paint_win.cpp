@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/box_shrink.h"
 #include "base/number_text.h"
 #include "dialogs/preview/sheet_view_win.h"
 #include "win/graphics/system_rect.h"
@@ -11,7 +12,10 @@ namespace {
 
 constexpr long long kMostKeptPixels = 8LL * 1024 * 1024;  // of all sheets together
 constexpr long long kMostSheetPixels =
-    3LL * 1024 * 1024;      // of one; larger ones are painted in part
+    3LL * 1024 * 1024;             // of one; larger ones are painted in part
+constexpr double kFineDots = 192;  // to the inch, at which letters are true enough
+constexpr int kMostFiner = 4;
+constexpr long long kMostFinePixels = 6LL * 1024 * 1024;
 constexpr int kShadow = 5;  // pixels at 96 dpi
 constexpr int kLeastMark = 5;
 constexpr int kMarkFont = 9;
@@ -53,9 +57,7 @@ const Surface* SheetView::Kept(int page, Size size) {
   }
   kept_.push_front({page, size, pages_.version(), Surface(size)});
   Surface& surface = kept_.front().surface;
-  FillRectangle(surface.dc(), RectAt({0, 0}, size), RGB(0xFF, 0xFF, 0xFF));
-  const double scale = layout_.pixels_per_twip();
-  painter_.Paint(*pages_.At(page), {surface.dc(), scale, scale, {}, pages_.setup().colour});
+  PaintKept(surface, page);
   long long pixels = 0;
   for (auto sheet = kept_.begin(); sheet != kept_.end();) {
     pixels += static_cast<long long>(sheet->size.width) * sheet->size.height;
@@ -63,6 +65,23 @@ const Surface* SheetView::Kept(int page, Size size) {
         pixels > kMostKeptPixels && sheet != kept_.begin() ? kept_.erase(sheet) : std::next(sheet);
   }
   return &surface;
+}
+
+// Letters of a small page stand where paper has them only when they are painted larger: the
+// platform's own small ones are as wide as whole pixels let them be.
+void SheetView::PaintKept(Surface& surface, int page) {
+  const Size size = surface.size();
+  const double scale = layout_.pixels_per_twip();
+  const double dots = scale * kTwipsPerInch;
+  const long long pixels = static_cast<long long>(size.width) * size.height;
+  int factor = std::clamp(static_cast<int>(std::ceil(kFineDots / dots)), 1, kMostFiner);
+  while (factor > 1 && pixels * factor * factor > kMostFinePixels) --factor;
+  const Size fine{size.width * factor, size.height * factor};
+  Surface large(fine);
+  FillRectangle(large.dc(), RectAt({0, 0}, fine), RGB(0xFF, 0xFF, 0xFF));
+  painter_.Paint(*pages_.At(page),
+                 {large.dc(), scale * factor, scale * factor, {}, pages_.setup().colour});
+  BoxShrink(large.pixels(), size, factor, surface.pixels());
 }
 
 void SheetView::PaintSheet(Surface& surface, int page) {

@@ -80,6 +80,7 @@ class SheetView : public PaintedWindow {
   std::optional<PageEdge> EdgeAt(Point at) const;
 
   void PaintSheet(Surface& surface, int page);
+  void PaintKept(Surface& surface, int page);
   void PaintRulers(Surface& surface);
   void PaintRuler(Surface& surface, bool across);
   void PaintMarks(Surface& surface, bool across, const Rect& ruler, int origin);

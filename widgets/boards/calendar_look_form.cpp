@@ -19,7 +19,8 @@ constexpr int kTodayLineFont = 10;
 constexpr int kBoardInset = 2;
 constexpr int kStripGap = 12;
 
-constexpr int kPrintedWidth = 2400;    // pixels that a printed month has at least, where it can
+constexpr int kPrintedWidth = 2400;  // pixels that a printed month has at least, where it can
+constexpr int kLongestPrinted = 8000;
 constexpr Size kUsualBoard{470, 240};  // of a file that is written while nothing is shown
 
 int ToolId(CalendarTool tool) {
@@ -235,13 +236,15 @@ Image CalendarForm::PictureOn(const CalendarGrid& grid, const MonthGrid& month,
   return picture;
 }
 
-// As it is shown, but with letters and ink as fine as paper has them.
+// As wide as it is shown, in the proportions of the sheet, with letters and ink as fine as paper
+// has them.
 void CalendarForm::CalendarPrint() {
   picMAINBOARD_.EndStroke();
-  const Size shown = grid_.size.width > 0 && grid_.size.height > 0 ? grid_.size : kUsualBoard;
-  const int finer = std::clamp(kPrintedWidth / shown.width, 1, 4);
+  const int shown = grid_.size.width > 0 ? grid_.size.width : kUsualBoard.width;
+  const int finer = std::clamp(kPrintedWidth / shown, 1, 4);
+  const int width = std::min(shown * finer, kLongestPrinted);
   const CalendarGrid grid =
-      LayOutCalendarGrid({shown.width * finer, shown.height * finer}, dpi() * finer);
+      LayOutCalendarGrid({width, width * kSheetSize.height / kSheetSize.width}, dpi() * finer);
   const MonthGrid month = GridOfMonth(calendar_.month(), calendar_.first_weekday(), false);
   printing_.Show(std::make_shared<PicturePaper>(
       calendar_.title(), L"", PictureOn(grid, month, board_.pixels()), dpi() * finer));

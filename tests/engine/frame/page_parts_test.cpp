@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <random>
 
+#include "base/box_shrink.h"
 #include "dialogs/preview/preview_layout.h"
 #include "frame/pages/page_text.h"
 #include "frame/pages/page_texts.h"
@@ -97,6 +98,18 @@ TEST(PicturePages, ShowEveryPixelOnce) {
   EXPECT_EQ(PlacePicture({30'000, 30'000}, 24, {0, 0, 2000, 2000}, false).size(), 400u);
   PicturePages none(PlacePicture({0, 5}, 96, column, true));
   EXPECT_TRUE(none.At(7).pictures.empty());
+}
+
+TEST(BoxShrink, IsTheMeanOfWhatAPixelStandsFor) {
+  const std::vector<std::uint32_t> large = {0xFFFF0000, 0x000000, 0x0000FF, 0x0000FF,
+                                            0x000000,   0x000000, 0x0000FF, 0x0000FE};
+  std::vector<std::uint32_t> small(2, 7);
+  BoxShrink(large, {2, 1}, 2, small);
+  EXPECT_EQ(small, (std::vector<std::uint32_t>{0x400000, 0x0000FF}));
+  BoxShrink(large, {2, 1}, 3, small);  // there are not so many
+  EXPECT_EQ(small[0], 0x400000u);
+  BoxShrink(large, {2, 1}, 1, small);
+  EXPECT_EQ(small[0], 0xFF0000u);
 }
 
 TEST(PreviewLayout, PartsNeverOverlapAndToolsAreAllThere) {
