@@ -154,7 +154,6 @@ class TooltipTest : public test::Hosted {
 TEST_F(TooltipTest, HoldsTheTextOfTheLastControlAlone) {
   HWND one = Button(20);
   HWND other = Button(220);
-  tooltip_.Allow(true);
   tooltip_.Attach(host_.handle(), one, L"");
   EXPECT_EQ(TipWindow(), nullptr) << "made for nothing";
   tooltip_.Attach(host_.handle(), one, L"Open & close");
@@ -167,13 +166,13 @@ TEST_F(TooltipTest, HoldsTheTextOfTheLastControlAlone) {
   EXPECT_EQ(Texts(), std::vector<std::wstring>{});
 }
 
-TEST_F(TooltipTest, AppearsWhereTheMouseRestsUnlessNotAllowed) {
+TEST_F(TooltipTest, AppearsWhereTheMouseRestsAndGoesWhenDetached) {
   tooltip_.Attach(host_.handle(), Button(20), L"Open");
   rig::ResetInput();
   rig::MoveMouse({100, 150});
   rig::MoveMouse({101, 151});
   ASSERT_TRUE(test::RunMessagesUntil([] { return IsShown(); }, 10'000));
-  tooltip_.Allow(false);
+  tooltip_.Detach();
   EXPECT_TRUE(test::RunMessagesUntil([] { return !IsShown(); }));
 }
 
