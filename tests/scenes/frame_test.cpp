@@ -122,17 +122,27 @@ TEST_F(Frame, KeysMoveAndSizeTheWindowAndWalkTheButtons) {
   EXPECT_TRUE(WaitForNoForm(program(), L"frmCLKwg"));
 }
 
-// On a system whose user has not said that they work by keyboard. A program asks that only once.
-class FrameByMouse : public Frame {
- protected:
-  FrameByMouse() {
+// The system's user has not said that they work by keyboard. A program asks that only once.
+class WorksByMouse {
+ public:
+  WorksByMouse() {
     ::SystemParametersInfoW(SPI_GETKEYBOARDPREF, 0, &former_, 0);
     ::SystemParametersInfoW(SPI_SETKEYBOARDPREF, FALSE, nullptr, 0);
   }
-  ~FrameByMouse() override { ::SystemParametersInfoW(SPI_SETKEYBOARDPREF, former_, nullptr, 0); }
+  WorksByMouse(const WorksByMouse&) = delete;
+  WorksByMouse& operator=(const WorksByMouse&) = delete;
+  ~WorksByMouse() { ::SystemParametersInfoW(SPI_SETKEYBOARDPREF, former_, nullptr, 0); }
 
  private:
   BOOL former_ = FALSE;
+};
+
+class FrameByMouse : public Frame {
+  WorksByMouse user_;
+};
+
+class BoardByMouse : public Scene {
+  WorksByMouse user_;
 };
 
 TEST_F(FrameByMouse, TheFocusIsShownFromTheFirstKeyToTheNextClick) {
@@ -146,6 +156,28 @@ TEST_F(FrameByMouse, TheFocusIsShownFromTheFirstKeyToTheNextClick) {
   Click({place.left + 30, place.bottom - 8});
   EXPECT_SOON(PictureOf(button) == plain);
   EXPECT_EQ(FocusedWindow(), button);
+}
+
+TEST_F(BoardByMouse, APenKeepsNoFocusMarkAfterATextWasTyped) {
+  root().settings().SetText(L"frmVRNpr\\Details", L"Start-Load-Whiteboard", L"True");
+  ASSERT_TRUE(program().Start(L"/tray"));
+  HWND form = WaitForForm(program(), L"frmWBDwg");
+  ASSERT_TRUE(form && Activate(form));
+  HWND pen = Control(form, cmdPEN + 2);
+  ASSERT_TRUE(ClickOn(pen));
+  EXPECT_SOON(FocusedWindow() == pen);
+  ResetInput();
+  const Picture chosen = StillPictureOf(pen);
+  Choose(form, L"mnuWBOARDINSTEXT");
+  HWND dialog = WaitForForm(program(), L"frmWBDit");
+  ASSERT_TRUE(dialog);
+  ASSERT_TRUE(ClickOn(Control(dialog, txtINSE)));
+  Type(L"pond");
+  EXPECT_SOON_EQ(Text(Control(dialog, txtINSE)), L"pond");
+  ASSERT_TRUE(ClickOn(Control(dialog, cmdOKfrmWBDit)));
+  ASSERT_TRUE(WaitForNoForm(program(), L"frmWBDit"));
+  ResetInput();
+  EXPECT_SOON(PictureOf(pen) == chosen);
 }
 
 TEST_F(Frame, MenuByMouseAndByKey) {
