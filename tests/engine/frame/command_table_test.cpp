@@ -95,7 +95,7 @@ TEST(CommandTables, NoLetterOfAMenuStandsForTwoItems) {
 // --- keys
 
 TEST(CommandKeys, AreToldInWords) {
-  const test::Cases<CommandKey, const wchar_t*> cases = {{{}, L""},
+  const test::Cases<CommandKey, const wchar_t*> cases = {{CommandKey{}, L""},
                                                          {Ctrl('S'), L"Ctrl+S"},
                                                          {CtrlShift('V'), L"Ctrl+Shift+V"},
                                                          {CtrlAlt('1'), L"Ctrl+Alt+1"},
