@@ -39,7 +39,7 @@ class PlainPageMeasure : public PageMeasure {
   std::size_t units = 0;  // measured so far
 };
 
-// One twip of width is enough for the last of these to be wrong.
+// What is left of a line, however far its paragraph is indented.
 inline constexpr int kNarrowestLine = 567;
 
 // What of a document is to be seen on paper, for each unit.

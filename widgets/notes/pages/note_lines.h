@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <vector>
 
 #include "widgets/notes/pages/note_line.h"
@@ -29,7 +28,6 @@ class NoteLines {
   LinePlace End() const { return {paragraphs_.size(), document_.text.size()}; }
   const ParagraphFormat& FormatOf(std::size_t paragraph) const;
   NoteLineReader& reader() { return reader_; }
-  Size column() const { return column_; }
 
  private:
   // A line while it is filled.

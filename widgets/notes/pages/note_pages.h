@@ -28,6 +28,8 @@ class NotePages final : public PageSource {
   // change; the index of a placed picture is that in RtfDocument::pictures.
   NotePages(const RtfDocument& document, const Rect& column, PageMeasure& measure,
             wchar_t decimal_point = L'.');
+  NotePages(const NotePages&) = delete;  // its parts know each other
+  NotePages& operator=(const NotePages&) = delete;
 
   PageCount Count() const override;
   PageCount Settle(std::size_t pages) override;
