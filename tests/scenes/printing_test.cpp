@@ -13,6 +13,8 @@
 #include "tests/rig/scene.h"
 #include "widgets/boards/board_folders.h"
 #include "widgets/boards/board_names.h"
+#include "win/graphics/pictures.h"
+#include "win/system/com.h"
 
 namespace varnel {
 namespace {
@@ -47,6 +49,38 @@ std::string NoteOf(int paragraphs) {
   return rtf + "}";
 }
 
+// A heading, a picture, and a line for every format.
+std::string FormatsNote() {
+  const ComApartment apartment;
+  Image picture(160, 80, 0xFF3060C0);
+  picture.Fill(Rect{40, 20, 120, 60}, 0xFFF0C020);
+  std::string hex;
+  for (const char byte : EncodePng(picture)) {
+    constexpr char kDigits[] = "0123456789abcdef";
+    hex += kDigits[static_cast<unsigned char>(byte) >> 4];
+    hex += kDigits[byte & 15];
+  }
+  return "{\\rtf1\\ansi{\\fonttbl{\\f0 Times New Roman;}{\\f1 Arial;}}"
+         "{\\colortbl;\\red200\\green20\\blue20;\\red255\\green240\\blue150;}\\f1\\fs40\\b "
+         "Heading\\par\\f0\\fs28\\b0 "
+         "{\\pict\\pngblip\\picw160\\pich80\\picwgoal4800\\pichgoal2400 " +
+         hex +
+         "}\\par {\\b heavy} {\\i slanted} {\\ul lined} {\\strike struck} {\\super raised} "
+         "{\\sub lowered}\\par {\\highlight2 on yellow} {\\cf1 in red}\\par \\pard\\qr right\\par "
+         "\\pard\\qc centre\\par \\pard\\li1440 indented\\par \\pard\\tx4320 a\\tab tab\\par "
+         "{\\f1\\fs60 large}}";
+}
+
+// How dark a part of a picture is on the whole: 0 white to 255 black.
+int Darkness(const Picture& picture, Point corner, int side) {
+  long long sum = 0;
+  for (int i = 0; i < side * side; ++i) {
+    const COLORREF colour = picture.At({corner.x + i % side, corner.y + i / side});
+    sum += 255 - (GetRValue(colour) + GetGValue(colour) + GetBValue(colour)) / 3;
+  }
+  return static_cast<int>(sum / (side * side));
+}
+
 class Printing : public Scene {
  protected:
   // Starts the program with one widget and opens the preview of what it shows.
@@ -63,8 +97,9 @@ class Printing : public Scene {
     ASSERT_SOON(PageCount() > 0);
     ASSERT_TRUE(Activate(preview_));
   }
-  void OpenNote(int paragraphs) {
-    WriteBytes(root().folder() + L"\\tavrin\\Journey.rtf", NoteOf(paragraphs));
+  void OpenNote(int paragraphs) { OpenNote(NoteOf(paragraphs)); }
+  void OpenNote(const std::string& rtf) {
+    WriteBytes(root().folder() + L"\\tavrin\\Journey.rtf", rtf);
     OpenPreview(L"Start-Load-Notes", L"frmNOTwg", L"mnuNOTESPRINT");
     ASSERT_SOON(Text(preview_).starts_with(L"Journey"));
   }
@@ -139,6 +174,43 @@ TEST_F(Printing, AFivePageNoteComesOutAsItIsShown) {
       EXPECT_EQ(printed[page][line], shown[page][line]) << page + 1 << ", line " << line + 1;
     }
   }
+}
+
+TEST_F(Printing, APictureAndFormatsStandWhereTheyAreShown) {
+  const FilePrinter printer(root().folder());
+  ASSERT_TRUE(printer.ready());
+  root().settings().SetText(kDetails, L"Zoom", L"75 %");
+  root().settings().SetText(kDetails, L"Thumbs", L"0");
+  OpenNote(FormatsNote());
+  HWND sheets = Control(preview_, picSHEETS);
+  const Picture shown = StillPictureOf(sheets);
+  HWND dialog = PrintDialogOf();
+  ASSERT_TRUE(dialog);
+  ASSERT_TRUE(CloseDialog(dialog, IDOK));
+  ASSERT_TRUE(Printed(L"1 page was sent to"));
+  // 75 % of a screen's 96 dots to the inch.
+  const Picture page = Picture::FromFile(PictureOfPage(printer.output(), 1, 72));
+  // The sheet's corner: the first white below the ruler, right of the other one.
+  constexpr int kBelow = 45;
+  Point corner{21, kBelow};
+  while (corner.x < shown.size().width && shown.At(corner) != RGB(255, 255, 255)) ++corner.x;
+  while (corner.y > 21 && shown.At({corner.x + 4, corner.y - 1}) == RGB(255, 255, 255)) --corner.y;
+  constexpr int kSide = 18;
+  int inked = 0;
+  const int bottom = std::min(shown.size().height - 40 - corner.y, page.size().height);
+  const int right = std::min(shown.size().width - 30 - corner.x, page.size().width);
+  for (int y = 0; y + kSide <= bottom; y += kSide) {
+    for (int x = 0; x + kSide <= right; x += kSide) {
+      const int on_paper = Darkness(page, {x, y}, kSide);
+      inked += on_paper > 20;
+      EXPECT_NEAR(Darkness(shown, {corner.x + x, corner.y + y}, kSide), on_paper, 40)
+          << x << ", " << y;
+    }
+  }
+  EXPECT_GT(inked, 60);
+  if (artifacts().empty()) return;
+  shown.Save(artifacts() + L"\\shown-formats.bmp");
+  page.Save(artifacts() + L"\\printed-formats.bmp");
 }
 
 TEST_F(Printing, WithoutAPrinterThePreviewWorksAndSaysSo) {
