@@ -183,7 +183,11 @@ TEST_F(Printing, APictureAndFormatsStandWhereTheyAreShown) {
   root().settings().SetText(kDetails, L"Thumbs", L"0");
   OpenNote(FormatsNote());
   HWND sheets = Control(preview_, picSHEETS);
-  const Picture shown = StillPictureOf(sheets);
+  // Once the sheet is painted; until then all is dark.
+  Picture shown;
+  ASSERT_SOON((shown = StillPictureOf(sheets))
+                  .CountNear({0, 0, shown.size().width, shown.size().height}, RGB(255, 255, 255)) >
+              100'000);
   HWND dialog = PrintDialogOf();
   ASSERT_TRUE(dialog);
   ASSERT_TRUE(CloseDialog(dialog, IDOK));
@@ -251,12 +255,12 @@ TEST_F(Printing, MarginsAreDraggedAndTypedAndLeaveAColumn) {
   const Rect sheets = RectOf(Control(preview_, picSHEETS));
   // The end of the margin is where the ruler is marked by the system's colour.
   const COLORREF mark = ::GetSysColor(COLOR_HIGHLIGHT);
-  const Picture still = StillPictureOf(Control(preview_, picSHEETS));
   int at = 0;
-  for (int x = 0; x < still.size().width && at == 0; ++x) {
-    if (still.At({x, 10}) == mark) at = x;
-  }
-  ASSERT_GT(at, 0);
+  ASSERT_SOON([&] {
+    const Picture still = StillPictureOf(Control(preview_, picSHEETS));
+    for (at = 0; at < still.size().width && still.At({at, 10}) != mark;) ++at;
+    return at < still.size().width;
+  }());
   Drag({sheets.left + at + 1, sheets.top + 10}, {sheets.left + at + 41, sheets.top + 10});
   EXPECT_SOON(Text(left) != before);
   EXPECT_NE(root().settings().Text(kDetails, L"Margin-Left"), L"nonsense");
