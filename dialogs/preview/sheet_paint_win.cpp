@@ -67,6 +67,23 @@ const Surface* SheetView::Kept(int page, Size size) {
   return &surface;
 }
 
+bool SheetView::IsKept(int page, Size size) const {
+  const auto found = std::ranges::find(kept_, page, &KeptSheet::page);
+  return found != kept_.end() && found->size == size && found->version == pages_.version();
+}
+
+void SheetView::PaintAhead() {
+  const Rect view = View();
+  const SheetLayout::Pages seen = layout_.PagesIn(RectAt(scroll_, {view.width(), view.height()}));
+  // One at a time, so that nothing waits for long.
+  const int page = to_paint_ahead_ == 2 ? seen.last + 1 : seen.first - 1;
+  if (--to_paint_ahead_ <= 0) ahead_.Stop();
+  if (page < 0 || page >= layout_.pages()) return;
+  const Rect sheet = layout_.Sheet(page);
+  const Size size{sheet.width(), sheet.height()};
+  if (!IsKept(page, size)) Kept(page, size);
+}
+
 // Letters of a small page stand where paper has them only when they are painted larger: the
 // platform's own small ones are as wide as whole pixels let them be.
 void SheetView::PaintKept(Surface& surface, int page) {
@@ -219,6 +236,8 @@ void SheetView::Paint(Surface& surface) {
   FillRectangle(surface.dc(), view, Ground());
   const SheetLayout::Pages seen = layout_.PagesIn(RectAt(scroll_, {view.width(), view.height()}));
   for (int page = seen.first; page <= seen.last; ++page) PaintSheet(surface, page);
+  to_paint_ahead_ = 2;
+  ahead_.Start();
   PaintGuide(surface);
   if (kind_ == Kind::kSheets) PaintRulers(surface);
   if (::GetFocus() == handle() && kind_ == Kind::kThumbs) {

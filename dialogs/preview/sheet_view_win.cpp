@@ -18,11 +18,17 @@ constexpr int kThumbCaption = 18;
 constexpr int kReach = 4;  // around a margin's end
 constexpr int kLine = 48;  // that an arrow key scrolls
 constexpr int kThumbColumns = 1;
+constexpr int kAheadMs = 40;
 
 }  // namespace
 
 SheetView::SheetView(Ui& ui, Kind kind, PreviewPages& pages, SheetViewOwner& owner, LengthUnit unit)
-    : PaintedWindow(ui), kind_(kind), pages_(pages), owner_(owner), unit_(unit) {
+    : PaintedWindow(ui),
+      kind_(kind),
+      pages_(pages),
+      owner_(owner),
+      unit_(unit),
+      ahead_(*this, kAheadMs, [this] { PaintAhead(); }) {
   if (kind == Kind::kThumbs) zoom_.kind = SheetZoom::Kind::kPageWidth;
 }
 

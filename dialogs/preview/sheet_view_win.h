@@ -9,6 +9,7 @@
 #include "dialogs/preview/preview_pages_win.h"
 #include "dialogs/preview/sheet_layout.h"
 #include "win/windows/painted_window.h"
+#include "win/windows/timer.h"
 
 namespace varnel {
 
@@ -86,6 +87,9 @@ class SheetView : public PaintedWindow {
   void PaintMarks(Surface& surface, bool across, const Rect& ruler, int origin);
   void PaintGuide(Surface& surface);
   const Surface* Kept(int page, Size size);
+  bool IsKept(int page, Size size) const;
+  // Paints what comes into sight next, so that scrolling has only to show it.
+  void PaintAhead();
 
   Kind kind_;
   PreviewPages& pages_;
@@ -101,6 +105,8 @@ class SheetView : public PaintedWindow {
   std::optional<MarginDrag> drag_;
   PagePainter painter_;
   std::list<KeptSheet> kept_;  // the latest first
+  Timer ahead_;
+  int to_paint_ahead_ = 0;
 };
 
 }  // namespace varnel
