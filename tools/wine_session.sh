@@ -21,6 +21,7 @@ fail() {
 
 [ $# -eq 2 ] || fail "usage: wine_session.sh start|stop|env DIR"
 script=$(realpath "${BASH_SOURCE[0]}")
+tools=$(dirname "$script")
 command=$1
 mkdir -p "$2"
 dir=$(cd "$2" && pwd)
@@ -131,7 +132,7 @@ EOF
 }
 
 # What the prefix depends on; another value means that it has to be made anew.
-prefix_recipe() { { wine --version; cat "$script"; } | sha256sum; }
+prefix_recipe() { { wine --version; cat "$script" "$tools/smooth_fonts.py"; } | sha256sum; }
 
 in_prefix() { timeout 180 "$@" </dev/null >>"$log" 2>&1; }
 
@@ -140,7 +141,8 @@ make_prefix() {
   echo "Preparing a Wine prefix in $dir"
   in_prefix wineboot -i || fail "wineboot failed, see $log"
   # The packaged Wine does not look where its own fonts are installed.
-  ln -s /usr/share/wine/fonts/* "$prefix/drive_c/windows/Fonts/"
+  "$tools/smooth_fonts.py" /usr/share/wine/fonts "$prefix/drive_c/windows/Fonts" ||
+    fail "the fonts were not copied"
   stage_settings >"$dir/stage.reg"
   in_prefix wine regedit /S "$dir/stage.reg" || fail "the registry was not set, see $log"
   in_prefix winecfg -v win10 || fail "the version was not set, see $log"
