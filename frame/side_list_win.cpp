@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "win/graphics/system_rect.h"
 #include "win/windows/common_controls.h"
 
 namespace varnel {
@@ -126,7 +127,13 @@ void SideList::AddRows(std::size_t count) {
 void SideList::SetCount(std::size_t count, std::size_t visible, DWORD flags) {
   const int former = ListView_GetItemCount(handle_);
   ListView_SetItemCountEx(handle_, static_cast<int>(count), flags);
-  if (former == 0) Arrange(false);
+  if (former == 0 || count == 0) {
+    Arrange(false);
+    ::InvalidateRect(handle_, nullptr, FALSE);
+    // What the rows leave of the place is the parent's to paint.
+    const RECT place = ToSystem(place_);
+    ::InvalidateRect(::GetParent(handle_), &place, FALSE);
+  }
   // Tab does not stop at a list without rows.
   const LONG_PTR style = ::GetWindowLongPtrW(handle_, GWL_STYLE) & ~LONG_PTR{WS_TABSTOP};
   ::SetWindowLongPtrW(handle_, GWL_STYLE, count > 0 ? style | WS_TABSTOP : style);
@@ -230,8 +237,9 @@ LRESULT SideList::OnNotify(NMHDR& header) {
       const auto& draw = reinterpret_cast<const NMLVCUSTOMDRAW&>(header).nmcd;
       if (draw.dwDrawStage == CDDS_PREPAINT) {
         bar_.SetRange(Range());
-        return CDRF_NOTIFYITEMDRAW;
+        return CDRF_NOTIFYITEMDRAW | CDRF_NOTIFYPOSTPAINT;
       }
+      if (draw.dwDrawStage == CDDS_POSTPAINT && Range().count == 0) DrawEmptyText(draw.hdc);
       if (draw.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
       DrawRow(draw.hdc, draw.dwItemSpec);
       return CDRF_SKIPDEFAULT;
@@ -265,6 +273,20 @@ void SideList::DrawRow(HDC dc, std::size_t index) {
   if (row.selected) row.text.ground = has_focus ? look_.selected : look_.selected_without_focus;
   owner_.PaintRow(surface, row);
   surface.CopyTo(dc, {static_cast<int>(bounds.left), static_cast<int>(bounds.top)});
+}
+
+// In grey: the palest shade of the ground that can be read on it.
+void SideList::DrawEmptyText(HDC dc) {
+  const int width = place_.width() - Scaled(kBarWidth, look_.text.dpi);
+  const Rect box{0, 0, width, RowFontHeight(look_.text.font.height) * 3 / 2};
+  Surface surface({box.width(), box.height()});
+  TextStyle style = look_.text;
+  FillRectangle(surface.dc(), box, static_cast<COLORREF>(style.ground));
+  style.colour = InkColour(style.ground, style.ground, PlainColours());
+  style.side_room = Scaled(kRowMargin, style.dpi);
+  style.align = Align::kCentre;
+  PaintText(ui_, surface, box, owner_.EmptyText(), style);
+  surface.CopyTo(dc, {0, 0});
 }
 
 void PaintRowGround(Surface& surface, const SideRow& row) {

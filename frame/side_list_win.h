@@ -39,6 +39,8 @@ class SideListOwner {
   virtual ~SideListOwner() = default;
   // What is read out of the row, and edited when it is renamed.
   virtual std::wstring RowText(std::size_t row) const = 0;
+  // What a list without rows says in one line.
+  virtual std::wstring EmptyText() const = 0;
   // Paints the row over the list's ground, which is there already.
   virtual void PaintRow(Surface& surface, const SideRow& row) = 0;
   // The user clicked the row, or came to it by the keyboard.
@@ -55,7 +57,7 @@ enum class SideListKind {
 class SideList {
  public:
   SideList(Ui& ui, SideListOwner& owner)
-      : owner_(owner), bar_(ui, [this](int row) { ScrollTo(row); }) {}
+      : ui_(ui), owner_(owner), bar_(ui, [this](int row) { ScrollTo(row); }) {}
 
   // Makes the list, hidden; `name` is what a screen reader calls it. False when the system refuses.
   bool Load(HWND parent, int id, const std::wstring& name, SideListKind kind);
@@ -105,7 +107,9 @@ class SideList {
   void Arrange(bool at_end);
   void GiveText(LVITEMW& item) const;
   void DrawRow(HDC dc, std::size_t index);
+  void DrawEmptyText(HDC dc);
 
+  Ui& ui_;
   SideListOwner& owner_;
   SideListKind kind_ = SideListKind::kDocuments;
   HWND handle_ = nullptr;

@@ -19,6 +19,7 @@ class ListOwner : public Window, public SideListOwner {
   }
 
   std::wstring RowText(std::size_t row) const override { return std::to_wstring(row); }
+  std::wstring EmptyText() const override { return L"Nothing yet"; }
   void PaintRow(Surface& surface, const SideRow& row) override {
     PaintRowGround(surface, row);
     painted.push_back(row.box.height());
@@ -82,6 +83,27 @@ TEST_F(SideListTest, OnlyRowsInSightArePaintedAndAllAsHighAsAsked) {
   owner.list.ShowRows(20'000, 9'000);
   EXPECT_EQ(owner.list.Selected(), std::vector<std::size_t>{9'000});
   EXPECT_EQ(owner.chosen, std::vector<std::size_t>{});
+}
+
+TEST_F(SideListTest, AnEmptyListSaysSo) {
+  ListOwner owner(ui_, SideListKind::kDocuments);
+  SideListLook look;
+  look.text.ground = kWhite;
+  owner.list.Place({0, 0, 200, 160}, look);
+  const auto written = [&](std::size_t rows) {
+    owner.list.ShowRows(rows, 0);
+    ::UpdateWindow(owner.list.handle());
+    HDC dc = ::GetDC(owner.list.handle());
+    int dark = 0;
+    for (int x = 0; x < 180; ++x) {
+      for (int y = 2; y < 20; ++y) dark += ::GetPixel(dc, x, y) != RGB(255, 255, 255);
+    }
+    ::ReleaseDC(owner.list.handle(), dc);
+    return dark > 20;
+  };
+  EXPECT_TRUE(written(0));
+  EXPECT_FALSE(written(1));
+  EXPECT_TRUE(written(0));
 }
 
 TEST_F(SideListTest, ARowIsRenamedInPlace) {

@@ -44,6 +44,7 @@ class WhiteboardForm : public BoardForm,  // frmWBDwg
   bool OnFirstKey(const MSG& message) override;
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
   std::wstring RowText(std::size_t row) const override { return whiteboard_.boards().Title(row); }
+  std::wstring EmptyText() const override { return L"No boards yet"; }
   void PaintRow(Surface& surface, const SideRow& row) override;
   void OnRowChosen(std::size_t row) override;
   void OnRowRenamed(std::size_t row, const std::wstring& text) override;

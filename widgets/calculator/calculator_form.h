@@ -39,6 +39,7 @@ class CalculatorForm : public WidgetForm, private SideListOwner {  // frmCLCwg
   bool OnFirstKey(const MSG& message) override;
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
   std::wstring RowText(std::size_t row) const override { return log_.Line(row); }
+  std::wstring EmptyText() const override { return L"Results are kept here"; }
   void PaintRow(Surface& surface, const SideRow& row) override;
   void OnRowChosen(std::size_t row) override;
 

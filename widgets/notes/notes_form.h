@@ -89,6 +89,7 @@ class NotesForm : public WidgetForm,  // frmNOTwg
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
 
   std::wstring RowText(std::size_t row) const override;
+  std::wstring EmptyText() const override;
   void PaintRow(Surface& surface, const SideRow& row) override;
   void OnRowChosen(std::size_t row) override;
   void OnRowRenamed(std::size_t row, const std::wstring& text) override;
@@ -137,6 +138,8 @@ class NotesForm : public WidgetForm,  // frmNOTwg
   // --- the tool strip and its panels
   static constexpr int kNoPanel = -1;
   void AddTool(int tool);
+  static constexpr wchar_t kNoRoom[] =
+      L"There is no room for the tools: the widget has to be larger";
   void LoadPanels();
   void TellPanels();
   void OpenFind();

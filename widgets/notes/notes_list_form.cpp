@@ -38,6 +38,11 @@ std::wstring NotesForm::RowText(std::size_t row) const {
   return note ? desk_.notes().Title(*note) : std::wstring();
 }
 
+std::wstring NotesForm::EmptyText() const {
+  if (!search_.active()) return L"No notes yet";
+  return search_.done(desk_.notes()) ? L"Nothing found" : L"Searching...";
+}
+
 void NotesForm::StartSearch() {
   search_.Start(search_field_.text(), desk_.notes());
   search_timer_.Stop();
