@@ -9,6 +9,7 @@ namespace varnel {
 namespace {
 
 constexpr int kGap = 6;
+constexpr int kSymbolGrid = 20;  // pixels: symbols are sharp at this em and its multiples
 
 int BestColumns(const Rect& panel) {
   int best = 4;
@@ -68,8 +69,9 @@ TileLayout LayOutTile(Size tile, int dpi) {
   // On a low tile the star would touch a glyph in the middle.
   layout.glyph = {0, captioned ? pad : 0, low ? std::max(0, layout.lblSTARRED.left) : tile.width,
                   glyph_bottom};
-  layout.glyph_height =
+  const int fitting =
       std::max(8, std::min(layout.glyph.height() * (captioned ? 78 : 62) / 100, tile.width / 2));
+  layout.glyph_height = fitting < kSymbolGrid ? fitting : fitting - fitting % (kSymbolGrid / 2);
   if (captioned) {
     layout.caption = {pad / 2, glyph_bottom, tile.width - pad / 2, tile.height - pad / 2};
     layout.caption_height = caption;

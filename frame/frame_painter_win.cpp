@@ -10,7 +10,6 @@ namespace {
 
 constexpr int kTitleHeight = 13;
 constexpr int kStatusHeight = 11;
-constexpr int kGlyphHeight = 16;
 
 void PaintBar(Surface& surface, const FramePainting& frame) {
   const Rect& bar = frame.layout.pfrBAR;

@@ -9,6 +9,10 @@
 
 namespace varnel {
 
+// The em of small symbols, at 96 dpi: what they are drawn for, so that their lines are whole
+// pixels.
+inline constexpr int kGlyphHeight = 20;
+
 struct FramePainting {
   const FrameLayout& layout;
   const WidgetPaint& paint;

@@ -13,9 +13,10 @@ namespace varnel {
 namespace {
 
 constexpr int kHoverTickMs = 100;
-constexpr int kBarGlyphHeight = 17;  // at 96 dpi
 constexpr wchar_t kCloseGlyph = L'\xE202';
 constexpr double kCornerRadius = 4;  // at 96 dpi
+constexpr double kPlainFace = 1.25;  // the contrast with which a face is plainly seen
+constexpr int kPlainTone = 190;
 
 }  // namespace
 
@@ -54,7 +55,13 @@ void TextButtons::Place(int id, const Rect& box) {
 }
 
 void TextButtons::Enable(int id, bool on) {
-  if (const TextButton* button = Find(id)) ::EnableWindow(button->handle, on);
+  const TextButton* button = Find(id);
+  if (!button) return;
+  // The focus does not stay where no key has an effect.
+  if (!on && ::GetFocus() == button->handle) {
+    ::SetFocus(::GetNextDlgTabItem(owner_.handle(), button->handle, TRUE));
+  }
+  ::EnableWindow(button->handle, on);
 }
 
 void TextButtons::TellWord(int id, bool on) {
@@ -126,7 +133,7 @@ void TextButtons::Draw(Ui& ui, const DRAWITEMSTRUCT& item, const WidgetPaint& pa
                                 (item.itemState & ODS_FOCUS) != 0 && focus_shown_,
                                 (item.itemState & ODS_DISABLED) == 0};
   if (on_bar) {
-    PaintTextButton(ui, painting, paint, Scaled(kBarGlyphHeight, dpi), dpi);
+    PaintTextButton(ui, painting, paint, Scaled(kGlyphHeight, dpi), dpi);
   } else {
     draw_on_panel(painting);
   }
@@ -151,8 +158,25 @@ void PaintButtonFace(const ButtonPainting& painting, int dpi) {
                  OpaquePixel(kWhite));
 }
 
-void PaintTextButton(Ui& ui, const ButtonPainting& painting, const WidgetPaint& paint, int height,
+ButtonPainting Primary(const ButtonPainting& painting, const WidgetPaint& paint) {
+  ButtonPainting primary = painting;
+  Colour& face = primary.colours.first;
+  if (!paint.high_contrast && ContrastRatio(face, paint.chrome.ground) < kPlainFace) {
+    face = Toned(face, kPlainTone);
+  }
+  return primary;
+}
+
+ButtonPainting Quiet(const ButtonPainting& painting, const WidgetPaint& paint) {
+  ButtonPainting quiet = painting;
+  if (painting.look == ButtonLook::kNormal)
+    quiet.colours = {paint.chrome.ground, paint.chrome.border};
+  return quiet;
+}
+
+void PaintTextButton(Ui& ui, const ButtonPainting& normal, const WidgetPaint& paint, int height,
                      int dpi) {
+  const ButtonPainting painting = normal.enabled ? normal : Quiet(normal, paint);
   PaintButtonFace(painting, dpi);
   const TextButton& button = painting.button;
   TextStyle style = button.on_bar ? BarTextStyle(paint, dpi) : PanelTextStyle(paint, height, dpi);
@@ -161,6 +185,7 @@ void PaintTextButton(Ui& ui, const ButtonPainting& painting, const WidgetPaint& 
   style.ground = painting.colours.first;
   style.prefer_ink = button.on_bar;
   style.align = Align::kCentre;
+  style.faint = !painting.enabled;
   PaintText(ui, painting.surface, painting.bounds,
             button.glyph ? std::wstring(1, button.glyph) : WindowText(button.handle), style);
 }

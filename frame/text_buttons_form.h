@@ -86,10 +86,19 @@ class TextButtons {
   Tooltip tooltip_;
 };
 
+// The painting of the one button of a widget that is more important than the others: its face is
+// seen on any ground.
+ButtonPainting Primary(const ButtonPainting& painting, const WidgetPaint& paint);
+
+// The painting of a button that stands beside a more important one: at rest it has no face, only an
+// outline.
+ButtonPainting Quiet(const ButtonPainting& painting, const WidgetPaint& paint);
+
 // A button's face with rounded corners, its outline, and the focus when it is to be seen.
 void PaintButtonFace(const ButtonPainting& painting, int dpi);
 
-// The same with the button's text or glyph on it; `height` is the em of its font, in pixels.
+// The same with the button's text or glyph on it; `height` is the em of its font, in pixels. A
+// button that cannot be used now is quiet and faint.
 void PaintTextButton(Ui& ui, const ButtonPainting& painting, const WidgetPaint& paint, int height,
                      int dpi);
 

@@ -120,6 +120,7 @@ void WidgetForm::ApplyChrome() {
   on_top_ = StaysOnTop(services_.settings, entry_.form_name);
   KeepOnTop(handle(), on_top_);
   paint_ = WidgetPaintOf(theme_, HighContrastWanted(), services_.colours);
+  PutInterfaceFont(paint_, InterfaceFont());
   paint_.readable = ReadCheck(services_.settings, kMakeTextReadable);
   ::SetLayeredWindowAttributes(handle(), 0, WindowAlpha(paint_.theme.bytTHEMEOPACITY), LWA_ALPHA);
 }

@@ -6,6 +6,8 @@
 namespace varnel {
 namespace {
 
+// A slim halo is nowhere quite of its colour: by so much its contrast has to be higher.
+constexpr double kHaloReserve = 1.25;
 constexpr int kStep = 5;  // divides the range of weights, so that the last step is the end itself
 
 double Linear(int channel) {
@@ -54,6 +56,12 @@ std::optional<Colour> HaloColour(Colour text, Colour ground, Colour theme, doubl
   return Shade(start, HaloEnd(ink, start, needed), ink, needed, system);
 }
 
+Colour Toned(Colour colour, int weight) {
+  constexpr double kDarkFace = 0.06;  // the luminance below which nothing darker can be told apart
+  const Colour tone = RelativeLuminance(colour) < kDarkFace ? kWhite : kBlack;
+  return Blend(colour, tone, weight, PlainColours());
+}
+
 Colour OutlineColour(Colour wished, Colour ground) {
   if (ContrastRatio(wished, ground) >= kReadableLargeContrast) return wished;
   return ContrastRatio(kBlack, ground) > ContrastRatio(kWhite, ground) ? kBlack : kWhite;
@@ -72,10 +80,13 @@ Writing WritingOf(Colour text, Colour ground, Colour theme, bool large, bool pre
   const double needed = large ? kReadableLargeContrast : kReadableContrast;
   if (own >= needed) return {colour, std::nullopt};
   const bool far_off = own < (large ? kLargeInkContrast : kSmallInkContrast);
-  const auto halo = HaloColour(colour, ground, theme, needed, system);
+  const double with_reserve = needed * kHaloReserve;
+  const auto halo = HaloColour(colour, ground, theme, with_reserve, system);
+  const bool weak = ContrastRatio(colour, *halo) < with_reserve;
   const bool darker = RelativeLuminance(colour) < RelativeLuminance(Translate(ground, system));
   const bool thickens = (RelativeLuminance(*halo) < RelativeLuminance(colour)) == darker;
-  if (prefer_ink || far_off || thickens) return {InkColour(ground, theme, system), std::nullopt};
+  if (prefer_ink || far_off || thickens || weak)
+    return {InkColour(ground, theme, system), std::nullopt};
   return {colour, halo};
 }
 

@@ -34,6 +34,10 @@ Colour OutlineColour(Colour wished, Colour ground);
 // harder to read there than white, until its contrast with `ground` is kReadableContrast.
 Colour InkColour(Colour ground, Colour theme, const SystemColours& system);
 
+// `colour` made darker, or lighter where it is nearly black, so that the two are told apart;
+// `weight`, 0 to 255, of it is kept. It must be translated.
+Colour Toned(Colour colour, int weight);
+
 // What a text is written with.
 struct Writing {
   Colour colour = kBlack;
@@ -44,8 +48,8 @@ struct Writing {
 // How a text of the colour `text` is written so that it can be read. One that has the contrast it
 // needs keeps its colour. Of the others those go to ink that are far from it, small text below
 // kSmallInkContrast and large text below kLargeInkContrast; those whose halo would only thicken
-// them, as it would lie beyond them as seen from the ground; and those that `prefer_ink`. The rest
-// keep their colour and get a slim halo.
+// them, as it would lie beyond them as seen from the ground, or would be too weak; and those that
+// `prefer_ink`. The rest keep their colour and get a slim halo, with some contrast to spare.
 inline constexpr double kSmallInkContrast = 3;
 inline constexpr double kLargeInkContrast = 2;
 Writing WritingOf(Colour text, Colour ground, Colour theme, bool large, bool prefer_ink,

@@ -1,7 +1,9 @@
 #include "theme/text_painter_win.h"
 
 #include <algorithm>
+#include <numeric>
 #include <optional>
+#include <vector>
 
 #include "base/halo.h"
 #include "win/graphics/system_rect.h"
@@ -21,6 +23,39 @@ UINT DrawFlags(const TextStyle& style) {
          (style.wrap ? DT_WORDBREAK | DT_EDITCONTROL : DT_VCENTER | DT_SINGLELINE);
 }
 
+// The width of each unit of the text, its figures all as wide as the widest; empty where the font's
+// are so by themselves.
+std::vector<int> TabularWidths(HDC dc, const std::wstring& text) {
+  int figures[10] = {};
+  if (!::GetCharWidth32W(dc, L'0', L'9', figures)) return {};
+  const auto [least, most] = std::ranges::minmax(figures);
+  if (least == most) return {};
+  std::vector<int> widths;
+  for (const wchar_t unit : text) {
+    int width = most;
+    if (unit < L'0' || unit > L'9') ::GetCharWidth32W(dc, unit, unit, &width);
+    widths.push_back(width);
+  }
+  return widths;
+}
+
+// Draws the text unit by unit, each in the middle of its width. False when it needs more room.
+bool DrawTabular(HDC dc, const RECT& area, const std::wstring& text, Align align) {
+  const std::vector<int> widths = TabularWidths(dc, text);
+  const int free =
+      static_cast<int>(area.right - area.left) - std::reduce(widths.begin(), widths.end());
+  if (widths.empty() || free < 0) return false;
+  int left = static_cast<int>(area.left);
+  if (align != Align::kLeft) left += align == Align::kRight ? free : free / 2;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    RECT cell = {left, area.top, left + widths[i], area.bottom};
+    ::DrawTextW(dc, &text[i], 1, &cell,
+                DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_NOCLIP);
+    left += widths[i];
+  }
+  return true;
+}
+
 void DrawPlain(HDC dc, HFONT font, const Rect& box, const std::wstring& text,
                const TextStyle& style, COLORREF colour) {
   const SelectedObject selected(dc, font);
@@ -29,6 +64,7 @@ void DrawPlain(HDC dc, HFONT font, const Rect& box, const std::wstring& text,
   RECT area = ToSystem(box);
   area.left += style.side_room;
   area.right -= style.side_room;
+  if (style.tabular && DrawTabular(dc, area, text, style.align)) return;
   const int length = static_cast<int>(text.size());
   if (style.wrap) {
     RECT needed = area;

@@ -29,8 +29,9 @@ struct TextStyle {
   Align align = Align::kCentre;
   int side_room = 0;  // pixels kept free of letters at the left and right ends of the box
   int dpi = kDefaultDpi;
-  bool wrap = false;   // several lines, broken at words
-  bool faint = false;  // half lost in the ground and without a halo: what cannot be used now
+  bool tabular = false;  // all figures as wide as the widest, so that none jumps as they change
+  bool wrap = false;     // several lines, broken at words
+  bool faint = false;    // half lost in the ground and without a halo: what cannot be used now
   bool operator==(const TextStyle&) const = default;
 };
 

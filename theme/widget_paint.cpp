@@ -35,6 +35,14 @@ WidgetPaint WidgetPaintOf(ThemeRecord& theme, bool high_contrast, const SystemCo
   return paint;
 }
 
+void PutInterfaceFont(WidgetPaint& paint, std::wstring_view face) {
+  if (face.empty()) return;
+  for (std::wstring* font :
+       {&paint.theme.strTHEMEPANELFONTNAME, &paint.theme.strTHEMEBARFONTNAME}) {
+    if (*font == kDefaultThemeFont) *font = face;
+  }
+}
+
 ColourPair ButtonColours(const WidgetPaint& paint, ButtonLook look, const SystemColours& system) {
   if (!paint.high_contrast) return ButtonColours(paint.theme, look, system);
   const int face = look == ButtonLook::kPressed ? kHighlight : kButtonFace;

@@ -2,6 +2,8 @@
 // contrast.
 #pragma once
 
+#include <string_view>
+
 #include "theme/chrome_colours.h"
 
 namespace varnel {
@@ -16,6 +18,9 @@ struct WidgetPaint {
 // Derives the colours of `theme` anew (ApplyChrome). With `high_contrast` everything has the
 // system's window colours instead of the theme's and is opaque; the fonts stay.
 WidgetPaint WidgetPaintOf(ThemeRecord& theme, bool high_contrast, const SystemColours& system);
+
+// Where a font of the theme is the default one the widget is painted with `face` in its place.
+void PutInterfaceFont(WidgetPaint& paint, std::wstring_view face);
 
 ColourPair ButtonColours(const WidgetPaint& paint, ButtonLook look, const SystemColours& system);
 

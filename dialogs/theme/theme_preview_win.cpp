@@ -5,6 +5,7 @@
 #include "frame/frame_painter_win.h"
 #include "theme/gradient.h"
 #include "theme/widget_paint.h"
+#include "win/windows/user_look.h"
 
 namespace varnel {
 namespace {
@@ -48,6 +49,7 @@ void LayOver(Surface& lower, Surface& upper, Point at, int alpha) {
 void PaintThemePreview(Ui& ui, Surface& surface, ThemeRecord theme, const FormEntry& entry, int dpi,
                        bool readable, const SystemColours& system) {
   WidgetPaint paint = WidgetPaintOf(theme, false, system);
+  PutInterfaceFont(paint, InterfaceFont());
   paint.readable = readable;
   const Size size = surface.size();
   Image ground(size.width, size.height);

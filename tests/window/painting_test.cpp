@@ -77,6 +77,27 @@ TEST_F(Painting, TextStaysInItsBoxAndIsSeenOnAnyGround) {
   }
 }
 
+TEST_F(Painting, FiguresDoNotJumpInAFontThatGivesThemDifferentWidths) {
+  // Where the colon ends, after narrow figures and after wide ones.
+  const auto colon = [&](const std::wstring& text, Align align) {
+    Surface surface(kSize);
+    TextStyle style;
+    style.font = {L"Small Fonts", 28, false};
+    style.readable = false;
+    style.tabular = true;
+    style.align = align;
+    PaintText(ui_, surface, {0, 0, kSize.width, kSize.height}, text, style);
+    int last = 0;
+    for (int i = 0; i < kSize.width * kSize.height; ++i) {
+      if ((surface.pixels()[i] & 0xFFFFFF) != 0) last = std::max(last, i % kSize.width);
+    }
+    return last;
+  };
+  for (const Align align : {Align::kLeft, Align::kCentre, Align::kRight}) {
+    EXPECT_EQ(colon(L"11:", align), colon(L"00:", align));
+  }
+}
+
 class Striped : public PaintedWindow {
  public:
   explicit Striped(Ui& ui) : PaintedWindow(ui) {

@@ -17,7 +17,6 @@ namespace varnel {
 namespace {
 
 // Lengths at 96 dpi.
-constexpr int kGlyphHeight = 16;
 constexpr int kDot = 14;
 constexpr int kRing = 20;
 constexpr int kStripGap = 12;

@@ -41,6 +41,8 @@ GridColours ColoursOf(const WidgetPaint& paint) {
                       tinted(kFaintGrey, kFaintTint),
                       kHolidayRed,
                       theme};
+  // Readable on a weekend's ground, and so on white.
+  colours.faint = InkColour(colours.weekend, colours.faint, plain);
   // White figures stand on it.
   while (ContrastRatio(colours.today, kWhite) < kReadableContrast) {
     colours.today = Blend(colours.today, kBlack, kDarker, plain);

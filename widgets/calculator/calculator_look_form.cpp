@@ -22,8 +22,6 @@ constexpr int kLeastRowFont = 10;
 constexpr int kLeastSumWidth = 28;
 constexpr double kWellRadius = 4;
 
-constexpr double kDarkFace = 0.06;  // the luminance below which nothing darker can be told apart
-
 // How much of a colour is kept by what has to stand out from it a little, plainly, and most.
 constexpr int kSunk = 232;
 constexpr int kOutstanding = 225;
@@ -45,11 +43,9 @@ void CalculatorForm::RefreshContent() {
   PlaceNumber();
 }
 
-// Darker, or lighter where `colour` is nearly black. In high contrast everything keeps its colour.
+// In high contrast everything keeps its colour.
 Colour CalculatorForm::Toned(Colour colour, int weight) const {
-  if (paint().high_contrast) return colour;
-  const Colour tone = RelativeLuminance(colour) < kDarkFace ? kWhite : kBlack;
-  return Blend(colour, tone, weight, services().colours);
+  return paint().high_contrast ? colour : varnel::Toned(colour, weight);
 }
 
 Colour CalculatorForm::WellColour() const {
@@ -67,7 +63,7 @@ void CalculatorForm::LayOutPanel(const Rect& panel) {
 // wheel scrolls it.
 void CalculatorForm::PlaceNumber() {
   const std::wstring& text = engine_.display();
-  const FontMeasure measure(ui().fonts, theme().strTHEMEPANELFONTNAME, false);
+  const FontMeasure measure(ui().fonts, paint().theme.strTHEMEPANELFONTNAME, false);
   const Rect box = Inset(places_.number, 1);
   const int side_room = HaloRoom(dpi());
   const int room = box.width() - 2 * side_room;
@@ -109,7 +105,7 @@ void CalculatorForm::PlaceDisplay() {
 
 void CalculatorForm::PlaceKeys() {
   const Rect& smallest = places_.KeyPlace(CalculatorKey::kDelete);
-  const FontMeasure measure(ui().fonts, theme().strTHEMEPANELFONTNAME, false);
+  const FontMeasure measure(ui().fonts, paint().theme.strTHEMEPANELFONTNAME, false);
   key_font_height_ =
       FittingHeight(KeyFace(CalculatorKey::kDelete), {smallest.width() * 4 / 5, smallest.height()},
                     std::max(smallest.height() * 3 / 5, Scaled(kLeastKeyFont, dpi())), measure);

@@ -19,8 +19,7 @@ constexpr int kListFont = 13;
 constexpr int kPanelFont = 13;
 constexpr int kRowHeight = 27;
 constexpr int kRowSide = 6;
-constexpr int kGlyph = 16;
-constexpr int kToolGlyph = 17;
+constexpr int kRowGap = 2;
 constexpr int kStripGap = 8;
 constexpr double kPaperCorner = 3;
 constexpr double kCorner = 4;
@@ -54,7 +53,8 @@ void NotesForm::LayOutPanel(const Rect& panel) {
     editor_.edit().ScrollToCaret();
   }
   ::ShowWindow(editor_.handle(), places_.editor.empty() ? SW_HIDE : SW_SHOWNA);
-  PlaceStrip();
+  if (desk_.notice() == kNoRoom && (!OpenPanel() || !places_.open_panel.empty())) desk_.Tell({});
+  ShowNotice();
 }
 
 void NotesForm::PlaceTools(const Rect& panel) {
@@ -251,10 +251,10 @@ void NotesForm::PaintRow(Surface& surface, const SideRow& row) {
   const auto note = NoteOfRow(row.index);
   const std::wstring name = note ? desk_.notes().Name(*note) : std::wstring();
   TextStyle glyph = style;
-  glyph.font = {kIconFontName, Scaled(kGlyph, dpi()), false};
+  glyph.font = {kIconFontName, Scaled(kGlyphHeight, dpi()), false};
   const bool rich = NoteListItemOf(1, {}, name).icon == 1;
   PaintText(ui(), surface, box, std::wstring(1, rich ? kRichGlyph : kPlainGlyph), glyph);
-  box.left += Scaled(kGlyph + kRowSide, dpi());
+  box.left += Scaled(kGlyphHeight + kRowGap, dpi());
   PaintText(ui(), surface, box, RowText(row.index), style);
 }
 
@@ -276,7 +276,7 @@ void NotesForm::DrawPanelButton(const ButtonPainting& painting) {
     shown.colours = ButtonColours(paint(), ButtonLook::kPressed, services().colours);
   }
   PaintButtonFace(shown, dpi());
-  TextStyle style = PanelTextStyle(Scaled(shown.button.glyph ? kToolGlyph : kPanelFont, dpi()));
+  TextStyle style = PanelTextStyle(Scaled(shown.button.glyph ? kGlyphHeight : kPanelFont, dpi()));
   if (shown.button.glyph) style.font.face = kIconFontName;
   style.ground = shown.colours.first;
   style.faint = !painting.enabled;

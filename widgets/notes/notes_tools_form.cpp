@@ -84,7 +84,7 @@ void NotesForm::ShowPanel(int tool) {
     for (int i = 0; i < kToolCount; ++i) buttons().Repaint(lablTOOLSINS + i);
   }
   if (places_.open_panel.empty()) {
-    Tell(L"There is no room for the tools: the widget has to be larger");
+    Tell(kNoRoom);
   } else {
     panel->TakeFocus();
   }

@@ -65,6 +65,7 @@ void AlarmPopup::Ring(const AlarmRing& ring) {
 void AlarmPopup::TakeTheme() {
   ThemeRecord theme = LoadTheme(services_.settings, L"frmCLKwg", services_.colours);
   paint_ = WidgetPaintOf(theme, HighContrastWanted(), services_.colours);
+  PutInterfaceFont(paint_, InterfaceFont());
   paint_.readable = ReadCheck(services_.settings, kMakeTextReadable);
   ::SetLayeredWindowAttributes(handle(), 0, WindowAlpha(paint_.theme.bytTHEMEOPACITY), LWA_ALPHA);
 }

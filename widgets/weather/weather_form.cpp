@@ -68,7 +68,7 @@ void WeatherForm::OnUnload() {
 
 void WeatherForm::LayOutPanel(const Rect& panel) {
   places_ = LayOutWeather({panel.width(), panel.height()}, dpi(), weather_.labels(),
-                          FontMeasure(ui().fonts, theme().strTHEMEPANELFONTNAME, false));
+                          FontMeasure(ui().fonts, paint().theme.strTHEMEPANELFONTNAME, false));
   PlaceLabels(panel);
   PlaceStrip();
 }

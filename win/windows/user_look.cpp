@@ -11,6 +11,13 @@ bool HighContrastWanted() {
          (setting.dwFlags & HCF_HIGHCONTRASTON);
 }
 
+std::wstring InterfaceFont() {
+  NONCLIENTMETRICSW metrics = {};
+  metrics.cbSize = sizeof metrics;
+  if (!::SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0)) return {};
+  return metrics.lfMessageFont.lfFaceName;
+}
+
 // Not the setting for keyboard cues: that one is about underlined letters, and some systems have it
 // on for everybody.
 bool KeyboardPreferred() {

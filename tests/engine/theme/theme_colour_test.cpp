@@ -13,6 +13,7 @@
 #include "theme/font_list.h"
 #include "theme/theme_record.h"
 #include "theme/theme_store.h"
+#include "theme/widget_paint.h"
 
 namespace varnel {
 namespace {
@@ -111,6 +112,18 @@ TEST(Chrome, NoOpacityMakesAWidgetVanish) {
   const int cases[][2] = {{0, 20},    {19, 20},   {20, 20}, {235, 235},
                           {255, 255}, {256, 255}, {-5, 20}};
   for (const auto& [opacity, alpha] : cases) EXPECT_EQ(WindowAlpha(opacity), alpha) << opacity;
+}
+
+TEST(Chrome, OnlyFontsThatNobodyChoseAreTheInterfaces) {
+  ThemeRecord theme;
+  theme.strTHEMEBARFONTNAME = L"Georgia";
+  WidgetPaint paint = WidgetPaintOf(theme, false, kSystem);
+  PutInterfaceFont(paint, L"");
+  EXPECT_EQ(paint.theme.strTHEMEPANELFONTNAME, kDefaultThemeFont);
+  PutInterfaceFont(paint, L"Segoe UI");
+  EXPECT_EQ(paint.theme.strTHEMEPANELFONTNAME, L"Segoe UI");
+  EXPECT_EQ(paint.theme.strTHEMEBARFONTNAME, L"Georgia");
+  EXPECT_EQ(theme.strTHEMEPANELFONTNAME, kDefaultThemeFont) << "what is stored stays";
 }
 
 TEST(ThemeStore, NothingStoredGivesTheDefaults) {
