@@ -37,7 +37,7 @@ void AddProgram(Catalogue& catalogue) {
 
 void AddTime(Catalogue& catalogue) {
   auto& alarms = catalogue.AddService<AlarmService>();
-  catalogue.AddWidget<ClockForm>(0);
+  catalogue.AddWidget<ClockForm>(0, alarms);
   catalogue.AddWidget<StopwatchForm>(4);
   catalogue.AddWidget<CountdownForm>(5);
   catalogue.AddDialog<ClockDialog>(L"frmCLKpr", alarms);

@@ -13,6 +13,7 @@
 #include "tests/support/memory_settings.h"
 #include "tests/window/drawing_objects.h"
 #include "theme/system_colours_win.h"
+#include "widgets/time/alarm_service_win.h"
 #include "widgets/time/clock_form.h"
 #include "win/system/local_time.h"
 #include "win/system/sound.h"
@@ -100,7 +101,8 @@ class WidgetLeaks : public ::testing::Test {
   Sound sound_{nullptr};
   Services services_{ui_,      settings_, files_,   clock_, formatter_,
                      colours_, forms_,    program_, sound_, L"C:\\"};
-  ClockForm form_{services_, *WidgetAt(0), 0};
+  AlarmService alarms_{services_};
+  ClockForm form_{services_, *WidgetAt(0), 0, alarms_};
 };
 
 TEST_F(WidgetLeaks, AThousandRepaintsAndThemesLeaveNothingBehind) {

@@ -1,7 +1,6 @@
 #include "widgets/time/alarms.h"
 
 #include <algorithm>
-#include <optional>
 
 #include "base/number_text.h"
 #include "base/text.h"
@@ -116,6 +115,24 @@ std::vector<AlarmRing> AlarmRefresh(const AlarmPresets& presets, const LocalTime
     if (set.find(now) != std::wstring::npos) rings.push_back({preset.message, set});
   }
   return rings;
+}
+
+std::optional<AlarmRing> NextAlarm(const AlarmPresets& presets, const LocalTime& time) {
+  const std::wstring now = TimeText(time.hour, time.minute, time.second);
+  // What is over for today comes after all that is not.
+  const auto turn = [&now](const std::wstring& at) { return std::pair(at <= now, at); };
+  std::optional<AlarmRing> next;
+  for (const AlarmPreset& preset : presets) {
+    if (!preset.use) continue;
+    const std::wstring set = AlarmTimeText(preset.time);
+    if (set.empty()) break;
+    for (std::size_t i = 0; i + now.size() <= set.size(); ++i) {
+      const std::wstring at = set.substr(i, now.size());
+      if (TimeOfDay(at) != at || (next && turn(next->time) <= turn(at))) continue;
+      next = {preset.message, at};
+    }
+  }
+  return next;
 }
 
 bool IsAlarmTime(std::wstring_view text) {

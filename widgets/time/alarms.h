@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -66,6 +67,10 @@ struct AlarmRing {
 // shows in the end. A preset rings when its time text holds the time of day; one that is in use
 // with an empty time hides all that follow. Asked again in the same second, the answer is the same.
 std::vector<AlarmRing> AlarmRefresh(const AlarmPresets& presets, const LocalTime& time);
+
+// The first that will ring after `time`, today or else tomorrow; of several at one time the first
+// preset. Its time is the one of day at which it rings, "hh:nn:ss".
+std::optional<AlarmRing> NextAlarm(const AlarmPresets& presets, const LocalTime& time);
 
 // What has rung and was not put away yet, so that an alarm stays readable when the next one comes.
 class UnreadAlarms {

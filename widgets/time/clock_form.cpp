@@ -2,6 +2,7 @@
 
 #include "frame/frame_painter_win.h"
 #include "resources/control_ids.h"
+#include "widgets/time/alarm_service_win.h"
 #include "widgets/time/clock_commands.h"
 #include "win/graphics/font_measure.h"
 
@@ -12,8 +13,10 @@ constexpr int kTickMs = 100;
 
 }  // namespace
 
-ClockForm::ClockForm(Services& services, const FormEntry& entry, int index)
+ClockForm::ClockForm(Services& services, const FormEntry& entry, int index,
+                     const AlarmService& alarms)
     : WidgetForm(services, entry, index, {kClockCommands}),
+      alarms_(alarms),
       lblPANECLOCK_(services.ui),
       lblSECS_(services.ui),
       lblSTYLE_(services.ui),
@@ -43,6 +46,7 @@ void ClockForm::ShowTime(const LocalTime& now) {
   second_ = now.second;
   const std::wstring former_status = StatusText();
   shown_ = ReadDisplay(settings_, now, services().formatter);
+  alarm_status_ = AlarmStatus(now);
   if (ShapeOf(shown_) != shape_) LayOutPanel(layout().pfrPANEL);
   lblPANECLOCK_.SetText(shown_.time);
   lblSECS_.SetText(shown_.seconds);
@@ -54,7 +58,7 @@ void ClockForm::ShowTime(const LocalTime& now) {
 void ClockForm::LayOutPanel(const Rect& panel) {
   shape_ = ShapeOf(shown_);
   labels_ = LayOutClock({panel.width(), panel.height()}, dpi(), shape_,
-                        FontMeasure(ui().fonts, theme().strTHEMEPANELFONTNAME, false));
+                        FontMeasure(ui().fonts, paint().theme.strTHEMEPANELFONTNAME, false));
   PlaceLabels();
   const TextStyle strip = StripTextStyle(paint(), dpi());
   strip_date_ = StripDate(shape_, layout().status_text.width(), strip.font.height,
@@ -70,18 +74,30 @@ void ClockForm::PlaceLabels() {
     label.Place(Within(panel, Grown(place.box, room, boxes)), style);
     label.Show(place.shown());
   };
-  const TextStyle time = PanelTextStyle(labels_.time.font_height);
+  TextStyle time = PanelTextStyle(labels_.time.font_height);
+  time.tabular = true;
   const Reads as_time = IsLarge(time) ? Reads::kAsLarge : Reads::kByItsHeight;
   place(lblPANECLOCK_, labels_.time, time);
-  place(lblSECS_, labels_.seconds, PanelTextStyle(labels_.seconds.font_height, as_time));
+  TextStyle seconds = PanelTextStyle(labels_.seconds.font_height, as_time);
+  seconds.tabular = true;
+  place(lblSECS_, labels_.seconds, seconds);
   place(lblSTYLE_, labels_.marker, PanelTextStyle(labels_.marker.font_height, as_time));
   place(lbl7Sept2010_, labels_.date, PanelTextStyle(labels_.date.font_height));
 }
 
 std::wstring ClockForm::StatusText() const {
   // A date that the panel has no room for stands in the strip.
-  if (labels_.date.shown()) return {};
-  return DateOf(shown_, strip_date_);
+  return labels_.date.shown() ? alarm_status_ : DateOf(shown_, strip_date_);
+}
+
+std::wstring ClockForm::AlarmStatus(const LocalTime& now) const {
+  constexpr std::wstring_view kWholeMinute = L":00";
+  const auto next = NextAlarm(alarms_.presets(), now);
+  if (!next) return L"No alarm is set";
+  std::wstring_view time = next->time;
+  if (time.ends_with(kWholeMinute)) time.remove_suffix(kWholeMinute.size());
+  std::wstring status = L"Next alarm " + std::wstring(time);
+  return next->message.empty() ? status : status + L" \x2013 " + next->message;
 }
 
 }  // namespace varnel

@@ -7,9 +7,12 @@
 
 namespace varnel {
 
+class AlarmService;
+
 class ClockForm : public WidgetForm {  // frmCLKwg
  public:
-  ClockForm(Services& services, const FormEntry& entry, int index);
+  // `alarms` outlive the form.
+  ClockForm(Services& services, const FormEntry& entry, int index, const AlarmService& alarms);
 
  private:
   void OnLoad() override;
@@ -21,13 +24,16 @@ class ClockForm : public WidgetForm {  // frmCLKwg
   void OnTick();
   void ShowTime(const LocalTime& now);
   void PlaceLabels();
+  std::wstring AlarmStatus(const LocalTime& now) const;
 
+  const AlarmService& alarms_;
   ClockSettings settings_;  // as of the last refresh: asked for anew, they would cost each second
   ClockDisplay shown_;
   ClockDisplay shape_;  // what the labels are laid out for
   ClockLayout labels_;
   std::size_t strip_date_ = 0;  // for DateOf: what has room in the strip
   int second_ = -1;             // of the last refresh
+  std::wstring alarm_status_;   // as of the last refresh
   ThemedLabel lblPANECLOCK_;
   ThemedLabel lblSECS_;
   ThemedLabel lblSTYLE_;

@@ -83,6 +83,10 @@ void CountdownEngine::AcknowledgeEnd() {
   display_ = interval_;
 }
 
+int CountdownEngine::remaining() const {
+  return (display_.fields[0] * 60 + display_.fields[1]) * 60 + display_.fields[2];
+}
+
 std::wstring_view CountdownEngine::start_caption() const {
   switch (state_) {
     case State::kCounting:

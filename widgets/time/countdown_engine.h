@@ -52,6 +52,11 @@ class CountdownEngine {
 
   // Whether tmrTIMER is enabled, every 1000 ms.
   bool counting() const { return state_ == State::kCounting; }
+  // Whether there is anything for lblStart, for lblStop to do.
+  bool can_start() const { return counting() || !display_.zero(); }
+  bool can_stop() const { return state_ != State::kSet; }
+  // Of the display, in seconds.
+  int remaining() const;
   std::wstring_view start_caption() const;
   std::wstring_view stop_caption() const;
   // At least two digits each.

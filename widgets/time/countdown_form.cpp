@@ -10,6 +10,7 @@ namespace varnel {
 namespace {
 
 constexpr int kTickMs = 1000;
+constexpr int kDaySeconds = 24 * 60 * 60;
 constexpr TextFieldKind kDigits{
     .most = 3, .digits_only = true, .centred = true, .chosen_whole = true};
 constexpr int kOutlineRoom = 3;  // at 96 dpi, between a field and its outline
@@ -40,7 +41,7 @@ void CountdownForm::OnLoad() {
   }
   buttons().Add(lblStart, std::wstring(engine_.start_caption()), 0, false);
   buttons().Add(lblStop, std::wstring(engine_.stop_caption()), 0, false);
-  ShowFields(0);
+  ShowState();
 }
 
 std::size_t CountdownForm::MostDigits() const {
@@ -55,7 +56,7 @@ void CountdownForm::LayOutPanel(const Rect& panel) {
   laid_out_digits_ = MostDigits();
   const CountdownLayout place =
       LayOutCountdown({panel.width(), panel.height()}, dpi(), std::wstring(laid_out_digits_, L'0'),
-                      FontMeasure(ui().fonts, theme().strTHEMEPANELFONTNAME, false));
+                      FontMeasure(ui().fonts, paint().theme.strTHEMEPANELFONTNAME, false));
   const TextStyle style = FieldStyle(place.font_height);
   for (int i = 0; i < 3; ++i) fields_[i].Place(Within(panel, place.fields[i]), style);
   for (int i = 0; i < 2; ++i) {
@@ -88,8 +89,8 @@ void CountdownForm::PlaceInterval(const CountdownLayout& place, const Rect& pane
 }
 
 void CountdownForm::PaintPanel(Surface& surface, const Rect& panel) {
-  const TextStyle style = PanelTextStyle(1);
-  const Colour outline = OutlineColour(style.colour, style.ground);
+  const TextStyle style = FieldStyle(1);
+  const Colour outline = OutlineColour(WritingOf(style).colour, style.ground);
   for (const Rect& box : interval_boxes_) {
     if (box.empty()) continue;
     FrameRectangle(surface.dc(), Inset(Within(panel, box), -Scaled(kOutlineRoom, dpi())), outline);
@@ -120,7 +121,26 @@ void CountdownForm::ShowState() {
     }
   }
   ShowFields(0);
+  ShowStatus();
+}
+
+void CountdownForm::ShowStatus() {
+  buttons().Enable(lblStart, engine_.can_start());
+  buttons().Enable(lblStop, engine_.can_stop());
+  ends_at_.clear();
+  if (const int left = engine_.remaining(); engine_.counting() && left < kDaySeconds) {
+    LocalTime end = services().clock.Now();
+    const int seconds = (end.hour * 60 + end.minute) * 60 + end.second + left;
+    end.hour = seconds / 3600 % 24;
+    end.minute = seconds / 60 % 60;
+    ends_at_ = services().formatter.Format(end, L"Short Time");
+  }
   RepaintStatus();
+}
+
+void CountdownForm::DrawPanelButton(const ButtonPainting& painting) {
+  const bool primary = painting.button.id == lblStart;
+  WidgetForm::DrawPanelButton(primary ? Primary(painting, paint()) : Quiet(painting, paint()));
 }
 
 void CountdownForm::OnTick() {
@@ -162,7 +182,7 @@ void CountdownForm::OnFieldChanged(int id) {
   const int index = id >= txtSUBHRS ? id - txtSUBHRS : id - txtHRS;
   engine_.Edit(kFields[index], (id >= txtSUBHRS ? interval_fields_ : fields_)[index].text());
   ShowFields(id);
-  RepaintStatus();
+  ShowStatus();
 }
 
 std::wstring CountdownForm::Unfinished() const {
@@ -170,6 +190,7 @@ std::wstring CountdownForm::Unfinished() const {
 }
 
 std::wstring CountdownForm::StatusText() const {
+  if (!ends_at_.empty()) return L"Ends at " + ends_at_;
   return L"Set to " + engine_.IntervalText(kFields[0]) + L":" + engine_.IntervalText(kFields[1]) +
          L":" + engine_.IntervalText(kFields[2]);
 }

@@ -25,6 +25,7 @@ class CountdownForm : public WidgetForm {  // frmCDNwg
   void OnControl(int id, int code) override;
   std::wstring Unfinished() const override;
   std::wstring StatusText() const override;
+  void DrawPanelButton(const ButtonPainting& painting) override;
 
   void OnTick();
   void AnnounceEnd();
@@ -34,6 +35,7 @@ class CountdownForm : public WidgetForm {  // frmCDNwg
   // Of the display's longest field.
   std::size_t MostDigits() const;
   void ShowState();
+  void ShowStatus();
   TextStyle FieldStyle(int font_height) const;
   void PlaceInterval(const CountdownLayout& place, const Rect& panel);
 
@@ -44,6 +46,7 @@ class CountdownForm : public WidgetForm {  // frmCDNwg
   std::array<std::unique_ptr<ThemedLabel>, 2> separators_;
   std::array<std::unique_ptr<ThemedLabel>, 4> interval_labels_;  // a word, then three units
   std::array<Rect, 3> interval_boxes_;  // in pixels of the panel; empty where not shown
+  std::wstring ends_at_;  // while counting, where it is within a day
   Timer tmrTIMER_;
 };
 

@@ -18,6 +18,8 @@ class StopwatchEngine {
 
   // Whether tmrSTOPWATCH is enabled.
   bool running() const { return state_ == State::kRunning; }
+  // Whether there is anything for lblStopfrmSTWwg to do.
+  bool begun() const { return state_ != State::kReset; }
   // The shown time is that of a lapse and not the count's.
   bool lapse_held() const { return lapse_ && state_ != State::kReset; }
   std::wstring_view left_caption() const;

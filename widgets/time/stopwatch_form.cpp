@@ -24,6 +24,7 @@ void StopwatchForm::OnLoad() {
   display_.Load(handle(), lblELAPSED);
   buttons().Add(lblStartfrmSTWwg, std::wstring(engine_.left_caption()), 0, false);
   buttons().Add(lblStopfrmSTWwg, std::wstring(engine_.right_caption()), 0, false);
+  ShowState();
 }
 
 void StopwatchForm::OnTick() {
@@ -41,8 +42,10 @@ void StopwatchForm::LayOutPanel(const Rect& panel) {
   laid_out_length_ = engine_.shown().size();
   const StopwatchLayout place =
       LayOutStopwatch({panel.width(), panel.height()}, dpi(), engine_.shown(),
-                      FontMeasure(ui().fonts, theme().strTHEMEPANELFONTNAME, false));
-  display_.Place(Within(panel, place.display), PanelTextStyle(place.font_height));
+                      FontMeasure(ui().fonts, paint().theme.strTHEMEPANELFONTNAME, false));
+  TextStyle style = PanelTextStyle(place.font_height);
+  style.tabular = true;
+  display_.Place(Within(panel, place.display), style);
   display_.Show(place.font_height > 0);
   buttons().Place(lblStartfrmSTWwg, Within(panel, place.buttons.start));
   buttons().Place(lblStopfrmSTWwg, Within(panel, place.buttons.stop));
@@ -51,7 +54,13 @@ void StopwatchForm::LayOutPanel(const Rect& panel) {
 void StopwatchForm::ShowState() {
   buttons().SetText(lblStartfrmSTWwg, engine_.left_caption());
   buttons().SetText(lblStopfrmSTWwg, engine_.right_caption());
+  buttons().Enable(lblStopfrmSTWwg, engine_.begun());
   RepaintStatus();
+}
+
+void StopwatchForm::DrawPanelButton(const ButtonPainting& painting) {
+  const bool primary = painting.button.id == lblStartfrmSTWwg;
+  WidgetForm::DrawPanelButton(primary ? Primary(painting, paint()) : Quiet(painting, paint()));
 }
 
 void StopwatchForm::OnControl(int id, int code) {
@@ -80,7 +89,8 @@ std::wstring StopwatchForm::StatusText() const {
     return engine_.running() ? L"Lapse held \x2013 the count goes on"
                              : L"Lapse held \x2013 Resume shows the count";
   }
-  return engine_.running() ? L"Running \x2013 Ctrl+C copies the time" : L"Ctrl+C copies the time";
+  if (engine_.running()) return L"Running";
+  return engine_.begun() ? L"Paused" : L"Ready";
 }
 
 }  // namespace varnel

@@ -19,6 +19,7 @@ class StopwatchForm : public WidgetForm {  // frmSTWwg
   void OnControl(int id, int code) override;
   std::wstring Unfinished() const override;
   std::wstring StatusText() const override;
+  void DrawPanelButton(const ButtonPainting& painting) override;
 
   void OnTick();
   void ShowState();

@@ -13,7 +13,7 @@ constexpr int kMostButtonWidth = 190;
 constexpr int kLowPanel = 90;
 constexpr int kLeastInterval = 12;
 constexpr int kMostInterval = 28;
-constexpr int kIntervalEms = 15;  // the width of the interval's row
+constexpr int kIntervalEms = 17;  // the width of the interval's row, a bit more than it needs
 constexpr int kLeastDisplay = 36;
 
 int MarginFor(Size panel, int dpi) {
@@ -34,9 +34,10 @@ TimerButtons ButtonRow(Size panel, int dpi, int margin) {
   return row;
 }
 
-// The room above a row of controls.
+// The room above a row of controls; large digits want more of it at their sides than controls do.
 Rect RoomAbove(Size panel, int row_top, int margin) {
-  return {margin, margin / 2, panel.width - margin, std::max(margin / 2 + 1, row_top - margin / 2)};
+  const int side = margin * 7 / 4;
+  return {side, margin / 2, panel.width - side, std::max(margin / 2 + 1, row_top - margin / 2)};
 }
 
 Rect CentredIn(const Rect& room, int left, Size size) {
@@ -48,16 +49,17 @@ void LayOutInterval(CountdownLayout& layout, Size panel, int font, int bottom) {
   const int height = 2 * font;
   const int label = font * 3;
   const int field = font * 5 / 2;
-  const int unit = font * 3 / 2;
+  const int unit = font * 2;
+  const int gap = font / 3;  // the fields have an outline, which no label may cover
   int left = (panel.width - kIntervalEms * font) / 2;
   const Rect row{0, bottom - height, panel.width, bottom};
   layout.interval_font_height = font;
-  layout.interval_label = CentredIn(row, left, {label, height});
+  layout.interval_label = CentredIn(row, left, {label - gap, height});
   left += label;
   for (int i = 0; i < 3; ++i) {
     layout.interval_fields[i] = CentredIn(row, left, {field, font * 13 / 10});
     left += field;
-    layout.interval_units[i] = CentredIn(row, left, {unit, height});
+    layout.interval_units[i] = CentredIn(row, left + gap, {unit - 2 * gap, height});
     left += unit;
   }
 }

@@ -153,7 +153,10 @@ void WeatherService::DataFileRead() {
 }
 
 WeatherStatus WeatherService::status() const {
-  WeatherStatus status{L"", fetching_, failure_, live_data_};
+  // The live source alone is asked again by itself.
+  const bool again = unreachable_ && live_source() && !failure_.empty();
+  const std::wstring failure = again ? L"no connection, will try again" : failure_;
+  WeatherStatus status{L"", fetching_, failure, live_data_};
   if (!updated_) return status;
   const TimeFormatter& formatter = services_.formatter;
   LocalTime today = services_.clock.Now();

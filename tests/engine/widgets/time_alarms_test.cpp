@@ -79,6 +79,25 @@ TEST(Alarms, EmptyTimeEndsTheCheck) {
   EXPECT_EQ(AlarmRefresh(presets, At(6, 0, 0)).size(), 4u);
 }
 
+TEST(Alarms, TheNextOneIsTodaysOrElseTomorrows) {
+  AlarmPresets presets;
+  EXPECT_EQ(NextAlarm(presets, At(6, 0, 0)), std::nullopt);
+  presets[0] = {true, L"7:30 pm", L"tea"};
+  presets[1] = {true, L"at 06:15:30 or 08:00:00", L"two"};
+  presets[2] = {false, L"06:01:00", L"switched off"};
+  presets[3] = {true, L"some time", L"never"};
+  presets[4] = {true, L"08:00", L"later in the list"};
+  presets[5] = {true, L"6:15", L"first"};
+  const test::Cases<LocalTime, AlarmRing> cases = {{At(6, 0, 0), {L"first", L"06:15:00"}},
+                                                   {At(6, 15, 0), {L"two", L"06:15:30"}},
+                                                   {At(6, 15, 30), {L"two", L"08:00:00"}},
+                                                   {At(8, 0, 0), {L"tea", L"19:30:00"}},
+                                                   {At(19, 30, 0), {L"first", L"06:15:00"}}};
+  for (const auto& [time, next] : cases) EXPECT_EQ(NextAlarm(presets, time), next);
+  presets[1].time.clear();  // hides what follows
+  EXPECT_EQ(NextAlarm(presets, At(19, 30, 0)), (AlarmRing{L"tea", L"19:30:00"}));
+}
+
 TEST(Alarms, PresetsSurviveTheStore) {
   test::MemorySettings store;
   EXPECT_EQ(LoadAlarmPresets(store), AlarmPresets{});

@@ -55,6 +55,24 @@ TEST(Countdown, EditsAreStoredAndShown) {
   EXPECT_EQ(store.Read(L"frmCDNwg\\Details", L"Timer-Interval-secs", L""), L"00");
 }
 
+TEST(Countdown, ButtonsAreOffWhereTheyWouldDoNothing) {
+  test::MemorySettings store;
+  CountdownEngine countdown(store);
+  EXPECT_TRUE(countdown.can_start() && !countdown.can_stop());
+  EXPECT_EQ(countdown.remaining(), 120);
+  Set(countdown, L"0", L"0", L"1");
+  countdown.PressStart();
+  countdown.Tick();
+  EXPECT_TRUE(countdown.can_start() && countdown.can_stop());  // at zero, but counting
+  EXPECT_EQ(countdown.remaining(), 0);
+  Set(countdown, L"1", L"2", L"3");
+  EXPECT_EQ(countdown.remaining(), 3723);
+  countdown.PressStart();
+  countdown.PressStop();
+  Set(countdown, L"0", L"0", L"0");
+  EXPECT_FALSE(countdown.can_start());
+}
+
 TEST(Countdown, BorrowsAcrossFields) {
   const struct {
     const wchar_t* fields[3];
