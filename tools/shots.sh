@@ -34,16 +34,15 @@ symbols() {
     "label:$lines" -border 16 "$shots/sheets/weather-symbols.png"
 }
 
-# The six windows of the README's picture, in a theme each.
+# The README's picture: the manager and all widgets, each in a theme of its own.
 desktop() {
-  local window=5900x3471 name
+  local name
   local pictures=()
-  for name in manager-$window clock-$window-Glass-Orange calculator-$window-Slate-Forest \
-    stopwatch-$window-Soft-Pink countdown-$window-Neon-Cyan weather-$window-Frosted-Sky; do
-    [ -f "$shots/$name.png" ] || return 0
-    pictures+=("$shots/$name.png")
+  for name in manager clock weather notes calendar whiteboard calculator stopwatch countdown; do
+    [ -f "$shots/gallery-$name.png" ] || return 0
+    pictures+=("$shots/gallery-$name.png")
   done
-  imagemagick montage +label "${pictures[@]}" -tile 3x -geometry '+8+8' -background '#256f96' \
+  imagemagick montage +label "${pictures[@]}" -tile 3x -geometry '+12+12' -background '#33566e' \
     "$shots/sheets/desktop.png"
 }
 

@@ -1,6 +1,7 @@
 #include "tools/shots/sample_boards.h"
 
 #include <cmath>
+#include <numbers>
 #include <vector>
 
 #include "base/bmp.h"
@@ -29,6 +30,14 @@ class Sketch {
     }
     Line(pen, width, points);
   }
+  void Ring(int pen, double width, PointF centre, double radius) {
+    std::vector<PointF> points;
+    for (int i = 0; i <= 60; ++i) {
+      const double turn = i * std::numbers::pi / 30;
+      points.push_back({centre.x + radius * std::cos(turn), centre.y + radius * std::sin(turn)});
+    }
+    Line(pen, width, points);
+  }
   void Save(const std::wstring& program_folder, const std::wstring& name) const {
     rig::WriteBytes(program_folder + std::wstring(kWhiteboardFolder.below_program) + name +
                         std::wstring(kBoardEnding),
@@ -42,11 +51,13 @@ class Sketch {
 }  // namespace
 
 void PlantBoards(const std::wstring& program_folder) {
-  Sketch garden({330, 225});
-  garden.Wave(5, 3, {25, 80}, 220, 50);
-  garden.Line(0, 2, {{40, 145}, {140, 145}, {140, 205}, {40, 205}, {40, 145}});
-  garden.Line(1, 2, {{155, 175}, {237, 175}, {225, 166}});
-  garden.Line(1, 2, {{237, 175}, {225, 184}});
+  Sketch garden({270, 180});
+  garden.Wave(5, 3, {16, 66}, 170, 40);
+  garden.Line(0, 2, {{20, 104}, {110, 104}, {110, 164}, {20, 164}, {20, 104}});
+  garden.Line(1, 2, {{124, 134}, {192, 134}, {181, 126}});
+  garden.Line(1, 2, {{192, 134}, {181, 142}});
+  garden.Ring(2, 3, {228, 40}, 18);
+  garden.Wave(4, 3, {204, 152}, 56, 9);
   garden.Save(program_folder, L"Garden plan");
   Sketch shopping({400, 250});
   for (int i = 0; i < 4; ++i) {

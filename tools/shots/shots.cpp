@@ -29,6 +29,7 @@ namespace {
 constexpr Point kCorner = {20, 20};
 constexpr Size kSizes[] = {kFixedSizes[2], {5900, 3471}, kFixedSizes[0]};  // twips
 constexpr Size kPresetSize = {3600, 2400};
+constexpr Size kGallerySize = {6600, 4500};
 
 // How a subject is shown. An empty preset stands for the theme of a widget that never had one.
 struct Look {
@@ -37,6 +38,7 @@ struct Look {
 };
 
 std::vector<Look> LooksOf(const Subject& subject) {
+  if (subject.part == Part::kGallery) return {{kDefaultDpi, subject.form}};
   std::vector<Look> looks = {{}};
   if (subject.looks & kDpis) looks.insert(looks.end(), {{144, L""}, {192, L""}});
   if (subject.looks & (kFewPresets | kManyPresets)) {
@@ -148,8 +150,13 @@ class Studio {
       return;
     }
     rig::Activate(form);
+    if (subject.part == Part::kGallery) Resize(form, kGallerySize, look.dpi);
     if (subject.prepare) subject.prepare(program_, form);
-    if (subject.part == Part::kDesktop) {
+    if (subject.part == Part::kGallery) {
+      // As after a click: the keyboard's place is not shown.
+      rig::Send(form, WM_PARENTNOTIFY, WM_LBUTTONDOWN);
+      Save(PictureAtRest(form), subject.name);
+    } else if (subject.part == Part::kDesktop) {
       PictureAtRest(form);
       Save(rig::PictureOfScreen(), subject.name + Suffix(look));
     } else if (HWND shown = rig::WaitForForm(program_, subject.form)) {

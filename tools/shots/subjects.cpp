@@ -13,6 +13,7 @@
 #include "tests/rig/input.h"
 #include "tests/rig/menus.h"
 #include "tools/shots/preview_subjects.h"
+#include "tools/shots/note_subjects.h"
 #include "tools/shots/sample_boards.h"
 #include "tools/shots/sample_month.h"
 
@@ -20,17 +21,6 @@ namespace varnel::shots {
 namespace {
 
 using namespace rig;
-
-enum WidgetNumber {
-  kClock,
-  kCalculator,
-  kCalendar,
-  kNotes,
-  kStopwatch,
-  kCountdown,
-  kWhiteboard,
-  kWeather
-};
 
 constexpr wchar_t kStart[] = L"frmVRNpr\\Details";
 constexpr wchar_t kClockDetails[] = L"frmCLKpr\\Details";
@@ -55,6 +45,11 @@ const std::vector<StoredText> kAllWidgets = {
     {kStart, L"Start-Load-Whiteboard", L"True"},  {kStart, L"Start-Load-Weather", L"True"},
     {kStart, L"Program Minimize on Start", L"0"},
 };
+
+const std::vector<StoredText> kSomeWidgets = {{kStart, L"Start-Load-Clock", L"True"},
+                                              {kStart, L"Start-Load-Calendar", L"True"},
+                                              {kStart, L"Start-Load-Notes", L"True"},
+                                              {kStart, L"Start-Load-Weather", L"True"}};
 
 Preparation Command(const wchar_t* name) {
   return [name](const Program&, HWND form) { Choose(form, name); };
@@ -117,7 +112,8 @@ void LetWeatherFail(const Program&, HWND weather) {
 // Shows the first board, whose name comes first, with a text put on it, and a pen chosen.
 void LabelBoard(const Program& program, HWND whiteboard) {
   const Rect small = RectOf(whiteboard);
-  ::SetWindowPos(whiteboard, nullptr, small.left, small.top, 620, 420, SWP_NOZORDER);
+  const bool roomy = small.width() > 420;
+  if (!roomy) ::SetWindowPos(whiteboard, nullptr, 20, 20, 620, 420, SWP_NOZORDER);
   HWND list = Control(whiteboard, lvwFILES);
   const Rect rows = RectOf(list);
   Click({rows.left + 20, rows.top + 20});
@@ -128,9 +124,9 @@ void LabelBoard(const Program& program, HWND whiteboard) {
   SetText(Control(dialog, txtINSE), L"pond");
   Send(Control(dialog, cmdOKfrmWBDit), BM_CLICK);
   const Rect board = RectOf(Control(whiteboard, picMAINBOARD));
-  Click({board.left + 90, board.top + 175});
+  Click({board.left + 70, board.top + 140});
   ClickOn(Control(whiteboard, cmdPEN + 5));
-  MoveMouse({board.left + 300, board.bottom + 20});
+  MoveMouse({board.left + 100, board.bottom + 20});
   ::SetWindowPos(whiteboard, nullptr, small.left, small.top, small.width(), small.height(),
                  SWP_NOZORDER);
 }
@@ -145,58 +141,6 @@ void FloatText(const Program& program, HWND whiteboard) {
 }
 
 const std::vector<StoredText> kNoBoardList = {{L"frmWBDwg\\Details", L"Show-Side-Bar", L"False"}};
-
-// Writes a note: a heading, a paragraph, bullets.
-void WriteNote(const Program&, HWND form) {
-  HWND editor = Control(form, rtbPAGEBOX);
-  Click(CentreOf(editor));
-  Chord({VK_CONTROL, VK_MENU, '1'});
-  Type(L"Plum cake\n");
-  Chord({VK_CONTROL, VK_MENU, '7'});
-  Type(L"500 g plums, halved. 200 g flour, 120 g butter, 3 eggs, 100 g sugar and a little ");
-  Chord({VK_CONTROL, 'I'});
-  Type(L"cinnamon");
-  Chord({VK_CONTROL, 'I'});
-  Type(L".\n");
-  Chord({VK_CONTROL, VK_RETURN});
-  Type(L"Oven at 180 \u00B0C, 35 minutes.\nDough first, plums on top, skin side down.\n");
-  Type(L"Let it cool before it is cut.");
-}
-
-void WriteNotes(const Program& program, HWND form) {
-  const std::wstring folder = program.root().folder() + L"\\tavrin\\";
-  for (const wchar_t* name :
-       {L"Recipe plum cake.rtf", L"Ideas for June.rtf", L"Meeting, Tuesday.txt", L"Notes 4.txt"}) {
-    WriteBytes(folder + name, "{\\rtf1 A note}");
-  }
-  PressKey(VK_F5);
-  WriteNote(program, form);
-}
-
-void FindInNote(const Program& program, HWND form) {
-  WriteNotes(program, form);
-  Chord({VK_CONTROL, VK_HOME});
-  Chord({VK_CONTROL, 'F'});
-  Type(L"plum\n");
-  WaitUntil([form] { return SelectedUnits(Control(form, rtbPAGEBOX)) != std::pair(0, 0); }, 3000);
-}
-
-void SpellNote(const Program& program, HWND form) {
-  WriteNotes(program, form);
-  Type(L"Serve it wramly.");
-  Chord({VK_CONTROL, VK_HOME});
-  PressKey(VK_F7);
-  PressKey(VK_RETURN);
-  WaitUntil([form] { return !Text(Control(form, txtSUGG)).empty(); }, 3000);
-}
-
-// The same with one of the tool strip's panels open.
-Preparation NotePanel(WORD key) {
-  return [key](const Program& program, HWND form) {
-    WriteNotes(program, form);
-    PressKey(key);
-  };
-}
 
 void OpenMenu(const Program& program, HWND form) {
   Click({RectOf(form).left + 60, RectOf(form).top + 10}, MouseButton::kRight);
@@ -240,6 +184,38 @@ Preparation PickerTab(int tab) {
     HWND picker = WaitForForm(program, L"frmCALip");
     Send(Control(picker, tabMAIN), TCM_SETCURFOCUS, static_cast<WPARAM>(tab));
   };
+}
+
+void LetStopwatchRun(const Program& program, HWND stopwatch) {
+  Presses({lblStartfrmSTWwg})(program, stopwatch);
+  WaitUntil([stopwatch] { return Text(Control(stopwatch, lblELAPSED)) > L"00:12"; }, 20'000);
+}
+
+// All widgets at work, each in a theme of its own.
+std::vector<Subject> GallerySubjects() {
+  const auto piece = [](const wchar_t* name, int widget, const wchar_t* preset,
+                        const Preparation& prepare, const std::vector<StoredText>& settings = {}) {
+    return Subject{std::wstring(L"gallery-") + name,
+                   widget,
+                   kPlain,
+                   settings,
+                   prepare,
+                   Part::kGallery,
+                   preset};
+  };
+  std::vector<Subject> pieces = {
+      piece(L"manager", kManager, L"", {}, kSomeWidgets),
+      piece(L"clock", kClock, L"Bright\\Orange", {}, kAlarms),
+      piece(L"weather", kWeather, L"Soft\\Sky", LetWeatherCome),
+      piece(L"notes", kNotes, L"Pale\\Green", WriteNotes),
+      piece(L"calendar", kCalendar, L"Slate\\Forest", FillMonth),
+      piece(L"whiteboard", kWhiteboard, L"Frosted\\Purple", LabelBoard),
+      piece(L"calculator", kCalculator, L"Light\\White", DoSums),
+      piece(L"stopwatch", kStopwatch, L"Neon\\Cyan", LetStopwatchRun),
+      piece(L"countdown", kCountdown, L"Soft\\Pink", Presses({lblStart}), kSetCountdown)};
+  pieces[4].plant = PlantMonth;
+  pieces[5].plant = PlantBoards;
+  return pieces;
 }
 
 Subject CalendarDialog(const std::wstring& name, const Preparation& open, const wchar_t* form) {
@@ -300,8 +276,9 @@ std::vector<Subject> WhiteboardSubjects() {
 const std::vector<std::wstring> kFewPresetNames = {L"Neon\\Cyan", L"Soft\\Pink", L"Light\\White",
                                                    L"Slate\\Forest"};
 const std::vector<std::wstring> kManyPresetNames = {
-    L"Neon\\Cyan", L"Soft\\Pink", L"Light\\White", L"Slate\\Forest", L"Bright\\Yellow",
-    L"Dark\\Red",  L"Flat\\Gray", L"Frosted\\Sky", L"Glass\\Orange", L"Pale\\Purple"};
+    L"Neon\\Cyan",     L"Soft\\Pink",   L"Light\\White", L"Slate\\Forest",
+    L"Bright\\Yellow", L"Dark\\Red",    L"Flat\\Gray",   L"Frosted\\Sky",
+    L"Glass\\Orange",  L"Pale\\Purple", L"Neon\\Black",  L"Dark\\Black"};
 
 namespace {
 
@@ -320,6 +297,9 @@ std::vector<Subject> OtherSubjects() {
       {L"calculator", kCalculator, kDpis | kFewPresets, {}, DoSums},
       {L"calculator-no-log", kCalculator, kFewPresets, {}, DoSumsUnseen},
       {L"calculator-menu", kCalculator, kPlain, {}, OpenMenu, Part::kForm, L"#32768"},
+      {L"empty-calculator", kCalculator, kFewPresets},
+      {L"empty-notes", kNotes, kFewPresets},
+      {L"empty-whiteboard", kWhiteboard, kFewPresets},
       {L"weather", kWeather, kDpis | kManyPresets, {}, LetWeatherCome},
       {L"weather-failed", kWeather, kPlain, kNoWeather, LetWeatherFail},
       {L"weather-properties",
@@ -329,13 +309,6 @@ std::vector<Subject> OtherSubjects() {
        Command(L"mnuWEATHERPROPS"),
        Part::kForm,
        L"frmWTHpr"},
-      {L"notes", kNotes, kDpis | kFewPresets, {}, WriteNotes},
-      {L"notes-find", kNotes, kDpis | kFewPresets, {}, FindInNote},
-      {L"notes-spelling", kNotes, kDpis | kFewPresets, {}, SpellNote},
-      {L"notes-fonts", kNotes, kDpis, {}, NotePanel(VK_F2)},
-      {L"notes-paragraph", kNotes, kDpis, {}, NotePanel(VK_F4)},
-      {L"notes-text", kNotes, kPlain, {}, NotePanel(VK_F9)},
-      {L"notes-picture", kNotes, kPlain, {}, NotePanel(VK_F11)},
       {L"options", kManager, kDpis, {}, Command(L"mnuDCGENSET"), Part::kForm, L"frmVRNpr"},
       {L"clock-properties", kClock, kDpis, {}, Command(L"mnuCLOCKPROPS"), Part::kForm, L"frmCLKpr"},
       {L"alarms", kClock, kDpis, kAlarms, Command(L"mnuCLOCKALARMSET"), Part::kForm, L"frmCLKas"},
@@ -352,9 +325,11 @@ std::vector<Subject> OtherSubjects() {
 const std::vector<Subject>& Subjects() {
   static const std::vector<Subject> subjects = [] {
     std::vector<Subject> all = OtherSubjects();
+    std::ranges::move(NoteSubjects(), std::back_inserter(all));
     std::ranges::move(WhiteboardSubjects(), std::back_inserter(all));
     std::ranges::move(CalendarSubjects(), std::back_inserter(all));
     std::ranges::move(PreviewSubjects(), std::back_inserter(all));
+    std::ranges::move(GallerySubjects(), std::back_inserter(all));
     return all;
   }();
   return subjects;

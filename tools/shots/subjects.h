@@ -28,11 +28,23 @@ enum Looks { kPlain = 0, kDpis = 1, kFewPresets = 2, kManyPresets = 4 };
 // What the picture shows.
 enum class Part {
   kWidget,   // the widget, in three sizes
+  kGallery,  // the widget, in one size and one theme
   kForm,     // the form named, as it comes
   kDesktop,  // the whole screen
 };
 
 inline constexpr int kManager = -1;
+
+enum WidgetNumber {
+  kClock,
+  kCalculator,
+  kCalendar,
+  kNotes,
+  kStopwatch,
+  kCountdown,
+  kWhiteboard,
+  kWeather
+};
 
 struct Subject {
   std::wstring name;  // begins the names of its pictures
@@ -41,7 +53,7 @@ struct Subject {
   std::vector<StoredText> settings{};
   Preparation prepare{};
   Part part = Part::kWidget;
-  std::wstring form{};  // for kForm
+  std::wstring form{};  // for kForm; for kGallery the preset, as below, or empty
   // What lies in the program's folder before it starts.
   std::function<void(const std::wstring& program_folder)> plant{};
 };
