@@ -20,7 +20,6 @@ namespace {
 
 using namespace rig;
 
-enum WidgetNumber { kCalendar = 2, kNotes = 3, kWhiteboard = 6 };
 constexpr wchar_t kDetails[] = L"frmNOTpp\\Details";
 
 std::vector<StoredText> Looked(const wchar_t* zoom, const wchar_t* columns = L"1") {

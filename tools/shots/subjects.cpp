@@ -12,8 +12,8 @@
 #include "tests/rig/files.h"
 #include "tests/rig/input.h"
 #include "tests/rig/menus.h"
-#include "tools/shots/preview_subjects.h"
 #include "tools/shots/note_subjects.h"
+#include "tools/shots/preview_subjects.h"
 #include "tools/shots/sample_boards.h"
 #include "tools/shots/sample_month.h"
 
