@@ -10,6 +10,7 @@
 #include "widgets/notes/notes_form.h"
 #include "widgets/notes/text/note_spacing.h"
 #include "win/graphics/font_measure.h"
+#include "win/windows/user_look.h"
 
 namespace varnel {
 namespace {
@@ -215,7 +216,7 @@ TextStyle NotesForm::PanelText() const {
 }
 
 TextStyle NotesForm::PanelBoxStyle() const {
-  return SystemBoxStyle({L"Tahoma", Scaled(kPanelFont, dpi()), false});
+  return SystemBoxStyle({InterfaceFont(), Scaled(kPanelFont, dpi()), false});
 }
 
 HFONT NotesForm::PanelFont() {

@@ -46,7 +46,7 @@ class CountdownForm : public WidgetForm {  // frmCDNwg
   std::array<std::unique_ptr<ThemedLabel>, 2> separators_;
   std::array<std::unique_ptr<ThemedLabel>, 4> interval_labels_;  // a word, then three units
   std::array<Rect, 3> interval_boxes_;  // in pixels of the panel; empty where not shown
-  std::wstring ends_at_;  // while counting, where it is within a day
+  std::wstring ends_at_;                // while counting, where it is within a day
   Timer tmrTIMER_;
 };
 
