@@ -1,7 +1,10 @@
 #include "base/canvas.h"
 
+#include <emmintrin.h>
+
 #include <algorithm>
 #include <cstddef>
+#include <cstring>
 #include <utility>
 
 namespace varnel {
@@ -9,6 +12,33 @@ namespace {
 
 constexpr std::size_t At(int index) {
   return static_cast<std::size_t>(index);
+}
+
+// MixPixels of four pixels, each by its share.
+inline void MixFour(const std::uint32_t* below, std::uint32_t above, const std::uint8_t* shares,
+                    std::uint32_t* mixed) {
+  const __m128i none = _mm_setzero_si128();
+  std::int32_t four = 0;
+  std::memcpy(&four, shares, sizeof four);
+  if (four == -1) {  // each the whole
+    std::fill_n(mixed, sizeof four, above);
+    return;
+  }
+  const __m128i bytes = _mm_cvtsi32_si128(four);
+  const __m128i twice = _mm_unpacklo_epi8(bytes, bytes);
+  const __m128i per_channel = _mm_unpacklo_epi16(twice, twice);
+  const __m128i under = _mm_loadu_si128(reinterpret_cast<const __m128i*>(below));
+  const __m128i over = _mm_unpacklo_epi8(_mm_set1_epi32(static_cast<int>(above)), none);
+  const auto mix = [&](__m128i share, __m128i channels) {
+    const __m128i weight = _mm_add_epi16(share, _mm_srli_epi16(share, 7));
+    const __m128i rest = _mm_sub_epi16(_mm_set1_epi16(256), weight);
+    const __m128i sum =
+        _mm_add_epi16(_mm_mullo_epi16(channels, rest), _mm_mullo_epi16(over, weight));
+    return _mm_srli_epi16(_mm_add_epi16(sum, _mm_set1_epi16(128)), 8);
+  };
+  const __m128i low = mix(_mm_unpacklo_epi8(per_channel, none), _mm_unpacklo_epi8(under, none));
+  const __m128i high = mix(_mm_unpackhi_epi8(per_channel, none), _mm_unpackhi_epi8(under, none));
+  _mm_storeu_si128(reinterpret_cast<__m128i*>(mixed), _mm_packus_epi16(low, high));
 }
 
 }  // namespace
@@ -109,52 +139,40 @@ Canvas::StrokeTile& Canvas::TileOfStroke(int across, int down) {
       const auto row = pixels_.Row(y).subspan(At(tile.area.left), width);
       tile.before.insert(tile.before.end(), row.begin(), row.end());
     }
-    tile.covered.assign(tile.before.size(), 0);
+    tile.covered.assign(At(kTile * kTile), 0);
   }
   return stroke_[At(index - 1)];
 }
 
 void Canvas::DrawInTile(const Capsule& capsule, int across, int down) {
   const Rect part = Intersection(TileArea(across, down), capsule.bounds());
-  StrokeTile* tile = nullptr;
+  const Point corner{across * kTile, down * kTile};
+  Capsule::SquareReach reach;
+  if (part.empty() || !capsule.Reach(corner, part, reach)) return;
+  StrokeTile& tile = TileOfStroke(across, down);
+  capsule.Raise(corner, part, reach, std::span<std::uint8_t, kTile * kTile>(tile.covered));
   for (int y = part.top; y < part.bottom; ++y) {
-    const Capsule::RowReach reach = capsule.Reach(y);
-    const int left = std::max(part.left, reach.any.left);
-    const int right = std::min(part.right, reach.any.right);
-    if (left >= right) continue;
-    const int whole_left = std::clamp(reach.whole.left, left, right);
-    const int whole_right = std::clamp(reach.whole.right, whole_left, right);
-    if (!tile) tile = &TileOfStroke(across, down);
-    DrawEdge(capsule, *tile, y, left, whole_left);
-    FillRow(*tile, y, whole_left, whole_right - whole_left);
-    DrawEdge(capsule, *tile, y, whole_right, right);
+    const std::size_t at = At(y - part.top);
+    MixRow(tile, y, reach.left[at], reach.right[at]);
   }
 }
 
-std::size_t Canvas::StrokeTile::PlaceOf(int x, int y) const {
-  return At(y - area.top) * At(area.width()) + At(x - area.left);
-}
-
-void Canvas::DrawEdge(const Capsule& capsule, StrokeTile& tile, int y, int left, int right) {
-  if (left == right) return;
-  std::uint8_t coverage[kTile + Capsule::kLanes];
-  const std::size_t count = At(right - left);
-  const std::size_t groups = (count + Capsule::kLanes - 1) / Capsule::kLanes;
-  capsule.Cover(left, y, std::span(coverage).first(groups * Capsule::kLanes));
-  const std::uint32_t* const before = tile.before.data() + tile.PlaceOf(left, y);
-  std::uint8_t* const covered = tile.covered.data() + tile.PlaceOf(left, y);
-  std::uint32_t* const pixel = pixels_.Row(y).data() + left;
-  for (std::size_t i = 0; i < count; ++i) {
-    if (coverage[i] <= covered[i]) continue;
-    covered[i] = coverage[i];
-    pixel[i] = MixPixels(before[i], pen_pixel_, coverage[i]);
+// The columns count from the tile's left.
+inline void Canvas::MixRow(const StrokeTile& tile, int y, int left, int right) {
+  constexpr int kGroup = Capsule::kLanes;
+  const int row = y - tile.area.top;
+  const int width = tile.area.width();
+  const std::uint8_t* const covered = tile.covered.data() + row * kTile;
+  const std::uint32_t* const before = tile.before.data() + row * width;
+  std::uint32_t* const pixels = pixels_.Row(y).data() + tile.area.left;
+  if (width < kGroup) {
+    for (int x = left; x < right; ++x) pixels[x] = MixPixels(before[x], pen_pixel_, covered[x]);
+    return;
   }
-}
-
-void Canvas::FillRow(StrokeTile& tile, int y, int left, int count) {
-  if (count == 0) return;
-  std::fill_n(tile.covered.data() + tile.PlaceOf(left, y), count, std::uint8_t{255});
-  std::fill_n(pixels_.Row(y).data() + left, count, pen_pixel_);
+  for (int next = left; next < right; next += kGroup) {
+    const int x = std::min(next, width - kGroup);
+    MixFour(before + x, pen_pixel_, covered + x, pixels + x);
+  }
 }
 
 Rect Canvas::Merge(const Image& object, Point corner) {

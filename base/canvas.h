@@ -56,15 +56,15 @@ class Canvas {
   bool CanRedo() const { return history_.CanRedo() && !drawing_; }
 
  private:
-  static constexpr int kTile = 32;
+  static constexpr int kTile = Capsule::kSquare;
   static constexpr int kTilesAcross = kLongestSide / kTile;
 
-  // A part of the picture as it was when the stroke came to it, and what the stroke covers of it.
+  // A part of the picture as it was when the stroke came to it, row by row, and what the stroke
+  // covers of it, in rows of kTile.
   struct StrokeTile {
     Rect area;
     std::vector<std::uint32_t> before;
     std::vector<std::uint8_t> covered;
-    std::size_t PlaceOf(int x, int y) const;
   };
 
   Rect Whole() const { return {0, 0, pixels_.width(), pixels_.height()}; }
@@ -73,8 +73,7 @@ class Canvas {
   std::vector<CanvasTile> TilesOf(const Rect& area) const;
   StrokeTile& TileOfStroke(int across, int down);
   void DrawInTile(const Capsule& capsule, int across, int down);
-  void DrawEdge(const Capsule& capsule, StrokeTile& tile, int y, int left, int right);
-  void FillRow(StrokeTile& tile, int y, int left, int count);
+  void MixRow(const StrokeTile& tile, int y, int left, int right);
   void KeepStroke();
 
   std::uint32_t ground_;

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
-#include <utility>
+#include <cstring>
 
 namespace varnel {
 namespace {
@@ -15,15 +15,10 @@ constexpr float kHalfDiagonal = 0.7072F;
 constexpr float kWideInside = 1.5F;
 // The larger part of a normal of length 1 is never less.
 constexpr float kLeastOfMost = 0.7071F;
+constexpr float kNowhere = 4e6F;  // farther off than any place
 
 double Clamped(double place) {
   return std::clamp(place, -kFarthest, kFarthest);
-}
-
-// Of what an int can hold; the library's own is a call.
-int Floor(float place) {
-  const int near = static_cast<int>(place);
-  return near - (static_cast<float>(near) > place ? 1 : 0);
 }
 
 double SaneWidth(double width) {
@@ -69,151 +64,161 @@ Capsule::Capsule(PointF from, PointF to, PenTip tip) {
              static_cast<int>(std::ceil(std::max(from.y, to.y) + above))};
 }
 
-// Where the line `row` enters and leaves the shape with another radius; in no order when it does
-// not meet it.
-inline Capsule::Extent Capsule::Within(float row, float radius) const {
-  Extent extent{4e6F, -4e6F};
-  const auto include = [&](float left, float right) {
-    extent = {std::min(extent.left, left), std::max(extent.right, right)};
-  };
-  const float beyond = row - length_ * along_y_;
-  const float squared = radius * radius;
-  if (const float chord = squared - row * row; chord > 0) {
-    const float half = std::sqrt(chord);
-    include(-half, half);
-  }
-  if (const float chord = squared - beyond * beyond; chord > 0) {
-    const float half = std::sqrt(chord);
-    include(length_ * along_x_ - half, length_ * along_x_ + half);
-  }
-  if (per_row_ == 0) return extent;
-  for (const float side : {radius, -radius}) {
-    const float along = (row - side * along_x_) * per_row_;
-    const float at = along * along_x_ - side * along_y_;
-    if (along >= 0 && along <= length_) include(at, at);
-  }
-  return extent;
-}
-
-// The same for the body drawn on beyond its ends, which needs no roots; not along a row.
-inline Capsule::Extent Capsule::BodyWithin(float row, float radius) const {
-  const float middle = std::clamp(row * along_x_ * per_row_, -4e6F, 4e6F);
-  const float half = std::min(std::fabs(radius * per_row_), 4e6F);
-  return {middle - half, middle + half};
-}
-
 inline float Capsule::RowOf(int y) const {
   return (static_cast<float>(y - base_.y) + to_centre_y_) * stretch_;
 }
 
-// The pixels whose centres lie in the extent.
-inline Capsule::Columns Capsule::ColumnsOf(const Extent& extent) const {
-  return {base_.x - Floor(to_centre_x_ - extent.left),
-          base_.x + Floor(extent.right - to_centre_x_) + 1};
-}
-
-Capsule::RowReach Capsule::Reach(int y) const {
-  if (y < bounds_.top || y >= bounds_.bottom) return {};
-  const float row = RowOf(y);
-  RowReach reach;
-  reach.any = {bounds_.left, bounds_.right};
-  const bool wide = inner_ >= kWideInside;
-  if (wide || per_row_ != 0) {
-    const Columns outer = ColumnsOf(wide ? Within(row, outer_) : BodyWithin(row, outer_));
-    reach.any = {std::max(bounds_.left, outer.left), std::min(bounds_.right, outer.right)};
+// Where the lines `row` enter and leave the shape with another radius; in no order where they do
+// not meet it.
+inline Capsule::Extent Capsule::Within(Lanes row, float radius) const {
+  const Lanes none = AllOf(0), nowhere = AllOf(kNowhere);
+  const Lanes squared = AllOf(radius * radius);
+  const Lanes beyond = row - AllOf(length_ * along_y_);
+  const Lanes end = AllOf(length_ * along_x_);
+  const auto half_chord = [&](Lanes off) {
+    const Lanes chord = squared - off * off;
+    return WhereAtMost(chord, none, -nowhere, RootOf(Most(chord, none)));
+  };
+  const Lanes half = half_chord(row);
+  const Lanes end_half = half_chord(beyond);
+  Extent extent{Least(-half, end - end_half), Most(half, end + end_half)};
+  if (per_row_ == 0) return extent;
+  for (const float side : {radius, -radius}) {
+    const Lanes along = (row - AllOf(side * along_x_)) * AllOf(per_row_);
+    const Lanes at = along * AllOf(along_x_) - AllOf(side * along_y_);
+    const Lanes outside = Most(-along, along - AllOf(length_));
+    extent.left = Least(extent.left, WhereAtMost(outside, none, at, nowhere));
+    extent.right = Most(extent.right, WhereAtMost(outside, none, at, -nowhere));
   }
-  reach.whole = {reach.any.right, reach.any.right};
-  if (!wide) return reach;
-  const Extent inner = Within(row, inner_);
-  if (inner.left > inner.right) return reach;
-  const Columns whole = ColumnsOf(inner);
-  if (whole.left < whole.right) reach.whole = whole;
-  return reach;
+  return extent;
 }
 
-// Lanes are computed without a choice of ways, and by value, so that they can go side by side.
-static inline float Least(float one, float other) {
-  return one < other ? one : other;
+// The pixels whose centres lie within, counted from `base_`.
+inline Capsule::Extent Capsule::ColumnsWithin(Lanes row, float radius) const {
+  const Extent extent = Within(row, radius);
+  const Lanes to_centre = AllOf(to_centre_x_);
+  return {-FloorOf(to_centre - extent.left), FloorOf(extent.right - to_centre) + AllOf(1)};
 }
-static inline float Most(float one, float other) {
-  return one > other ? one : other;
+
+bool Capsule::Reach(Point corner, const Rect& part, SquareReach& reach) const {
+  const Lanes part_left = AllOf(static_cast<float>(part.left - base_.x));
+  const Lanes part_right = AllOf(static_cast<float>(part.right - base_.x));
+  const Lanes to_corner = AllOf(static_cast<float>(base_.x - corner.x));
+  const bool wide = inner_ >= kWideInside;
+  Lanes any = AllOf(0);
+  for (int i = 0; i < part.height(); i += kLanes) {
+    const Lanes row =
+        CountFrom(static_cast<float>(part.top + i - base_.y) + to_centre_y_) * AllOf(stretch_);
+    const auto put = [&](SquareReach::Columns& columns, Lanes places) {
+      StoreWhole(columns.data() + i, places + to_corner);
+    };
+    const Extent outer = ColumnsWithin(row, outer_);
+    const Lanes left = Least(Most(outer.left, part_left), part_right);
+    const Lanes right = Least(Most(outer.right, left), part_right);
+    Lanes whole_left = right, whole_right = right;
+    if (wide) {
+      const Extent inner = ColumnsWithin(row, inner_);
+      whole_right = Least(Most(inner.right, left), right);
+      whole_left = WhereAtMost(inner.right, inner.left, whole_right, Most(inner.left, left));
+      whole_left = Least(whole_left, whole_right);
+    }
+    put(reach.left, left);
+    put(reach.right, right);
+    put(reach.whole_left, whole_left);
+    put(reach.whole_right, whole_right);
+    any = Most(any, right - left);
+  }
+  return AnyAbove(any, 0);
 }
 
 // How much of a pixel lies on the inner side of a straight edge, when its centre lies `inside` of
 // it; `most` and `least` are the larger and the smaller part of the edge's normal, which may have
 // any length, by which `inside` is then multiplied too. Seen along the edge a pixel is a trapezium:
 // level on both sides of its centre (`core`), then falling to nothing.
-static inline float EdgeShare(float most, float least, float inside) {
-  const float core = (most - least) * 0.5F;
-  const float off = std::fabs(inside);
-  const float level = Least(off, core);
-  const float falling = Least(Most(off - core, 0.0F), least);
-  const float half = ((level + falling) * least - 0.5F * falling * falling) / (most * least);
-  return 0.5F + std::copysign(half, inside);
+static inline Lanes EdgeShare(Lanes most, Lanes least, Lanes inside) {
+  const Lanes core = (most - least) * AllOf(0.5F);
+  const Lanes off = WithoutSign(inside);
+  const Lanes level = Least(off, core);
+  const Lanes falling = Least(Most(off - core, AllOf(0)), least);
+  const Lanes half = ((level + falling) * least - AllOf(0.5F) * falling * falling) / (most * least);
+  return AllOf(0.5F) + WithSignOf(inside, half);
+}
+
+// The shares of four pixels from `x` on, as whole numbers.
+template <bool kStretched, bool kSlender>
+inline __m128i Capsule::CoverLanes(int x, float row) const {
+  const Lanes right = CountFrom(static_cast<float>(x - base_.x) + to_centre_x_);
+  const Lanes along_x = AllOf(along_x_), along_y = AllOf(along_y_), radius = AllOf(radius_);
+  const Lanes along = right * along_x + AllOf(row * along_y_);
+  const Lanes across = AllOf(row * along_x_) - right * along_y;
+  const Lanes beyond = along - Least(Most(along, AllOf(0)), AllOf(length_));
+  const Lanes distance = Most(RootOf(across * across + beyond * beyond), AllOf(1e-3F));
+  const Lanes one = WithoutSign(beyond * along_x - across * along_y);
+  Lanes other = WithoutSign(beyond * along_y + across * along_x);
+  // Where the end begins its edge is still nearly that of the body.
+  Lanes left_out = AllOf(end_left_out_) * Least(WithoutSign(beyond) * AllOf(4), AllOf(1));
+  Lanes normal = distance;
+  if constexpr (kStretched) {
+    other = other * AllOf(stretch_);
+    normal = Most(RootOf(one * one + other * other), AllOf(1e-3F));
+    left_out = left_out * normal / distance;
+  }
+  const Lanes most = Most(Most(one, other), normal * AllOf(kLeastOfMost));
+  const Lanes least = Most(Least(one, other), AllOf(1e-6F));
+  const Lanes inside = (radius - distance) * distance - left_out * normal;
+  Lanes share = EdgeShare(most, least, inside);
+  if constexpr (kSlender) {
+    const Lanes far_inside = (radius + distance) * distance - left_out * normal;
+    share = Most(AllOf(0), share + EdgeShare(most, least, far_inside) - AllOf(1));
+  }
+  return _mm_cvttps_epi32(share * AllOf(255) + AllOf(0.5F));
 }
 
 template <bool kStretched, bool kSlender>
-inline void Capsule::CoverLanes(float first, float row, float* shares) const {
-  const float along_x = along_x_, along_y = along_y_, length = length_, radius = radius_;
-  const float to_centre = to_centre_x_, end_left_out = end_left_out_, stretch = stretch_;
-  for (int i = 0; i < kLanes; ++i) {
-    const float right = first + static_cast<float>(i) + to_centre;
-    const float along = right * along_x + row * along_y;
-    const float across = row * along_x - right * along_y;
-    const float beyond = along - Least(Most(along, 0.0F), length);
-    const float distance = Most(std::sqrt(across * across + beyond * beyond), 1e-3F);
-    const float one = std::fabs(beyond * along_x - across * along_y);
-    float other = std::fabs(beyond * along_y + across * along_x);
-    // Where the end begins its edge is still nearly that of the body.
-    float left_out = end_left_out * Least(std::fabs(beyond) * 4, 1.0F);
-    float normal = distance;
-    float least_most = distance * kLeastOfMost;
-    if constexpr (kStretched) {
-      other *= stretch;
-      normal = Most(std::sqrt(one * one + other * other), 1e-3F);
-      left_out *= normal / distance;
-      least_most = normal * kLeastOfMost;
-    }
-    const float most = Most(Most(one, other), least_most);
-    const float least = Most(Least(one, other), 1e-6F);
-    const float inside = (radius - distance) * distance - left_out * normal;
-    float share = EdgeShare(most, least, inside);
-    if constexpr (kSlender) {
-      const float far_inside = (radius + distance) * distance - left_out * normal;
-      share = Most(0.0F, share + EdgeShare(most, least, far_inside) - 1);
-    }
-    shares[i] = share * 255 + 0.5F;
+inline void Capsule::RaiseRows(Point corner, const Rect& part, const SquareReach& reach,
+                               std::uint8_t* covered) const {
+  for (int y = part.top; y < part.bottom; ++y) {
+    const auto at = static_cast<std::size_t>(y - part.top);
+    const float row = RowOf(y);
+    std::uint8_t* const line = covered + (y - corner.y) * kSquare;
+    const auto raise = [&](int left, int right) {
+      for (int next = left; next < right; next += kLanes) {
+        const int x = std::min(next, kSquare - kLanes);
+        std::int32_t before = 0;
+        std::memcpy(&before, line + x, kLanes);
+        if (before == -1) continue;  // all four wholly
+        const __m128i shares = CoverLanes<kStretched, kSlender>(corner.x + x, row);
+        const __m128i words = _mm_packs_epi32(shares, shares);
+        const __m128i bytes = _mm_packus_epi16(words, words);
+        const int raised = _mm_cvtsi128_si32(_mm_max_epu8(bytes, _mm_cvtsi32_si128(before)));
+        std::memcpy(line + x, &raised, kLanes);
+      }
+    };
+    const int left = reach.whole_left[at], right = reach.whole_right[at];
+    if (reach.left[at] < left) raise(reach.left[at], left);
+    if (left < right) std::memset(line + left, 255, static_cast<std::size_t>(right - left));
+    if (right < reach.right[at]) raise(right, reach.right[at]);
   }
 }
 
-template <bool kStretched, bool kSlender>
-inline void Capsule::CoverRow(int x, int y, std::span<std::uint8_t> shares) const {
-  const float row = RowOf(y);
-  const std::size_t whole = shares.size() / kLanes * kLanes;
-  for (std::size_t done = 0; done < whole; done += kLanes) {
-    float lanes[kLanes];
-    CoverLanes<kStretched, kSlender>(static_cast<float>(x + static_cast<int>(done) - base_.x), row,
-                                     lanes);
-    for (int i = 0; i < kLanes; ++i) {
-      shares[done + static_cast<std::size_t>(i)] =
-          static_cast<std::uint8_t>(static_cast<int>(lanes[i]));
-    }
-  }
-}
-
-void Capsule::Cover(int x, int y, std::span<std::uint8_t> shares) const {
+void Capsule::Raise(Point corner, const Rect& part, const SquareReach& reach,
+                    std::span<std::uint8_t, kSquare * kSquare> covered) const {
   const bool slender = inner_ < 0;
+  const auto raise = [&](auto rows_of) { (this->*rows_of)(corner, part, reach, covered.data()); };
   if (stretch_ == 1) {
-    slender ? CoverRow<false, true>(x, y, shares) : CoverRow<false, false>(x, y, shares);
+    raise(slender ? &Capsule::RaiseRows<false, true> : &Capsule::RaiseRows<false, false>);
   } else {
-    slender ? CoverRow<true, true>(x, y, shares) : CoverRow<true, false>(x, y, shares);
+    raise(slender ? &Capsule::RaiseRows<true, true> : &Capsule::RaiseRows<true, false>);
   }
 }
 
 std::uint8_t Capsule::CoverageAt(int x, int y) const {
-  std::uint8_t shares[kLanes];
-  Cover(x, y, shares);
-  return shares[0];
+  std::array<std::uint8_t, kSquare * kSquare> covered{};
+  const Rect part = RectAt({x, y}, {1, 1});
+  SquareReach reach;
+  if (Intersection(part, bounds_).empty() || !Reach({x, y}, part, reach)) return 0;
+  Raise({x, y}, part, reach, covered);
+  return covered[0];
 }
 
 }  // namespace varnel

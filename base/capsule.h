@@ -1,10 +1,12 @@
 // The shape that a round pen leaves between two points, and how much of each pixel it covers.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <span>
 
 #include "base/geometry.h"
+#include "base/lanes.h"
 
 namespace varnel {
 
@@ -28,37 +30,37 @@ class Capsule {
   // The pixels that may be covered. `coverage` of a pixel outside is 0.
   const Rect& bounds() const { return bounds_; }
 
-  // Columns of a row, the second one just outside; none when they are not in order.
-  struct Columns {
-    int left = 0;
-    int right = 0;
-  };
-  // A row's columns that may be covered, and, of wide pens, those among them that are covered
-  // wholly for sure.
-  struct RowReach {
-    Columns any;
-    Columns whole;
-  };
-  RowReach Reach(int y) const;
+  static constexpr int kSquare = 32;  // a side of the squares that are drawn at once, in pixels
+  static constexpr int kLanes = 4;    // pixels that are computed together
 
-  static constexpr int kLanes = 8;  // pixels that are computed together
-  // How much of each pixel of a row is covered, from {x, y} on: 0 nothing to 255 all. Only whole
-  // groups of kLanes are given.
-  void Cover(int x, int y, std::span<std::uint8_t> shares) const;
+  // Of each row of a part of a square, from the part's top: the columns that may be covered and,
+  // among them, those that are for sure covered wholly, each with the column just outside. None of
+  // them when the two are the same. Columns count from the square's left.
+  struct SquareReach {
+    using Columns = std::array<int, kSquare>;
+    alignas(16) Columns left, right, whole_left, whole_right;
+  };
+  // What is reached of `part`, which lies in the square at `corner`; rows below its bottom count
+  // for nothing. False when that is nothing.
+  bool Reach(Point corner, const Rect& part, SquareReach& reach) const;
+  // Raises how much each pixel of the square is covered, from 0 nothing to 255 all, to what this
+  // covers of it.
+  void Raise(Point corner, const Rect& part, const SquareReach& reach,
+             std::span<std::uint8_t, kSquare * kSquare> covered) const;
   std::uint8_t CoverageAt(int x, int y) const;
 
  private:
   struct Extent {
-    float left, right;
+    Lanes left, right;
   };
-  Extent Within(float row, float radius) const;
-  Extent BodyWithin(float row, float radius) const;
-  Columns ColumnsOf(const Extent& extent) const;
+  Extent Within(Lanes row, float radius) const;
+  Extent ColumnsWithin(Lanes row, float radius) const;
   float RowOf(int y) const;
   template <bool kStretched, bool kSlender>
-  void CoverLanes(float first, float row, float* shares) const;
+  __m128i CoverLanes(int x, float row) const;
   template <bool kStretched, bool kSlender>
-  void CoverRow(int x, int y, std::span<std::uint8_t> shares) const;
+  void RaiseRows(Point corner, const Rect& part, const SquareReach& reach,
+                 std::uint8_t* covered) const;
 
   // In a plane stretched upright so that the pen is a circle, measured from the first point, which
   // lies in the pixel `base_`, its centre at `to_centre_` from the point.
