@@ -298,15 +298,16 @@ std::string WriteBmp(const Image& image, BmpDepth depth, std::size_t spare) {
        {std::size_t{kPlain}, pixel_bytes, kPerMetre, kPerMetre, std::size_t{0}, std::size_t{0}}) {
     AppendLittleEndian(file, number, 4);
   }
-  file.resize(kHeaders + pixel_bytes);
-  char* out = file.data() + kHeaders;
-  for (int y = image.height() - 1; y >= 0; --y, out += row_bytes) {
+  std::string line(row_bytes + 1, '\0');  // one byte more, because four are written of each pixel
+  for (int y = image.height() - 1; y >= 0; --y) {
     const std::uint32_t* const row = image.Row(y).data();
     if (bytes == 4) {
-      std::memcpy(out, row, row_bytes);
-    } else {
-      for (std::size_t x = 0; x < width; ++x) std::memcpy(out + 3 * x, row + x, 3);
+      file.append(reinterpret_cast<const char*>(row), row_bytes);
+      continue;
     }
+    for (std::size_t x = 0; x < width; ++x) std::memcpy(line.data() + 3 * x, row + x, 4);
+    std::memset(line.data() + 3 * width, 0, row_bytes - 3 * width);
+    file.append(line, 0, row_bytes);
   }
   return file;
 }

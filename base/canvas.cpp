@@ -10,6 +10,9 @@
 namespace varnel {
 namespace {
 
+// The most pixels for which memory is kept until the next stroke.
+constexpr std::size_t kMostKept = 1U << 18;
+
 constexpr std::size_t At(int index) {
   return static_cast<std::size_t>(index);
 }
@@ -88,11 +91,18 @@ void Canvas::EndStroke() {
 void Canvas::KeepStroke() {
   std::vector<CanvasTile> tiles;
   tiles.reserve(stroke_.size());
-  for (StrokeTile& tile : stroke_) {
-    stroke_index_[IndexAt(tile.area.left / kTile, tile.area.top / kTile)] = 0;
-    tiles.emplace_back(tile.area, std::move(tile.before));
+  for (std::size_t i = 0; i < stroke_.size(); ++i) {
+    const Rect& area = stroke_[i];
+    stroke_index_[IndexAt(area.left / kTile, area.top / kTile)] = 0;
+    tiles.emplace_back(area, before_.data() + i * kTilePixels, kTile);
   }
   stroke_.clear();
+  before_.clear();
+  covered_.clear();
+  if (before_.capacity() > kMostKept) {
+    before_.shrink_to_fit();
+    covered_.shrink_to_fit();
+  }
   history_.Add(std::move(tiles), pixels_);
 }
 
@@ -126,22 +136,23 @@ Rect Canvas::DrawSegment(PointF from, PointF to) {
   return changed;
 }
 
-Canvas::StrokeTile& Canvas::TileOfStroke(int across, int down) {
+std::size_t Canvas::TileOfStroke(int across, int down) {
   stroke_index_.resize(At(kTilesAcross * kTilesAcross));
   int& index = stroke_index_[IndexAt(across, down)];
   if (index == 0) {
-    index = static_cast<int>(stroke_.size()) + 1;
-    StrokeTile& tile = stroke_.emplace_back();
-    tile.area = TileArea(across, down);
-    const std::size_t width = At(tile.area.width());
-    tile.before.reserve(width * At(tile.area.height()));
-    for (int y = tile.area.top; y < tile.area.bottom; ++y) {
-      const auto row = pixels_.Row(y).subspan(At(tile.area.left), width);
-      tile.before.insert(tile.before.end(), row.begin(), row.end());
+    const Rect area = TileArea(across, down);
+    const std::size_t width = At(area.width());
+    for (int y = area.top; y < area.bottom; ++y) {
+      const std::uint32_t* const row = pixels_.Row(y).data() + area.left;
+      before_.insert(before_.end(), row, row + width);
+      before_.insert(before_.end(), At(kTile) - width, 0);
     }
-    tile.covered.assign(At(kTile * kTile), 0);
+    stroke_.push_back(area);
+    index = static_cast<int>(stroke_.size());
+    before_.resize(stroke_.size() * kTilePixels);
+    covered_.resize(stroke_.size() * kTilePixels);
   }
-  return stroke_[At(index - 1)];
+  return At(index - 1);
 }
 
 void Canvas::DrawInTile(const Capsule& capsule, int across, int down) {
@@ -149,8 +160,9 @@ void Canvas::DrawInTile(const Capsule& capsule, int across, int down) {
   const Point corner{across * kTile, down * kTile};
   Capsule::SquareReach reach;
   if (part.empty() || !capsule.Reach(corner, part, reach)) return;
-  StrokeTile& tile = TileOfStroke(across, down);
-  capsule.Raise(corner, part, reach, std::span<std::uint8_t, kTile * kTile>(tile.covered));
+  const std::size_t tile = TileOfStroke(across, down);
+  capsule.Raise(corner, part, reach,
+                std::span<std::uint8_t, kTilePixels>(&covered_[tile * kTilePixels], kTilePixels));
   for (int y = part.top; y < part.bottom; ++y) {
     const std::size_t at = At(y - part.top);
     MixRow(tile, y, reach.left[at], reach.right[at]);
@@ -158,13 +170,14 @@ void Canvas::DrawInTile(const Capsule& capsule, int across, int down) {
 }
 
 // The columns count from the tile's left.
-inline void Canvas::MixRow(const StrokeTile& tile, int y, int left, int right) {
+inline void Canvas::MixRow(std::size_t tile, int y, int left, int right) {
   constexpr int kGroup = Capsule::kLanes;
-  const int row = y - tile.area.top;
-  const int width = tile.area.width();
-  const std::uint8_t* const covered = tile.covered.data() + row * kTile;
-  const std::uint32_t* const before = tile.before.data() + row * width;
-  std::uint32_t* const pixels = pixels_.Row(y).data() + tile.area.left;
+  const Rect& area = stroke_[tile];
+  const int width = area.width();
+  const std::size_t row = tile * kTilePixels + At((y - area.top) * kTile);
+  const std::uint8_t* const covered = covered_.data() + row;
+  const std::uint32_t* const before = before_.data() + row;
+  std::uint32_t* const pixels = pixels_.Row(y).data() + area.left;
   if (width < kGroup) {
     for (int x = left; x < right; ++x) pixels[x] = MixPixels(before[x], pen_pixel_, covered[x]);
     return;

@@ -59,21 +59,15 @@ class Canvas {
   static constexpr int kTile = Capsule::kSquare;
   static constexpr int kTilesAcross = kLongestSide / kTile;
 
-  // A part of the picture as it was when the stroke came to it, row by row, and what the stroke
-  // covers of it, in rows of kTile.
-  struct StrokeTile {
-    Rect area;
-    std::vector<std::uint32_t> before;
-    std::vector<std::uint8_t> covered;
-  };
+  static constexpr std::size_t kTilePixels = std::size_t{kTile} * kTile;
 
   Rect Whole() const { return {0, 0, pixels_.width(), pixels_.height()}; }
   static std::size_t IndexAt(int across, int down);
   Rect TileArea(int across, int down) const;
   std::vector<CanvasTile> TilesOf(const Rect& area) const;
-  StrokeTile& TileOfStroke(int across, int down);
+  std::size_t TileOfStroke(int across, int down);
   void DrawInTile(const Capsule& capsule, int across, int down);
-  void MixRow(const StrokeTile& tile, int y, int left, int right);
+  void MixRow(std::size_t tile, int y, int left, int right);
   void KeepStroke();
 
   std::uint32_t ground_;
@@ -82,7 +76,12 @@ class Canvas {
   bool drawing_ = false;
   std::uint32_t pen_pixel_ = 0;
   PenTip pen_tip_;
-  std::vector<StrokeTile> stroke_;
+  // The parts of the picture that the stroke has come to, and of each a whole tile of pixels: as
+  // they were then, and what the stroke covers of them. Kept from stroke to stroke, as memory is
+  // slow to be had.
+  std::vector<Rect> stroke_;
+  std::vector<std::uint32_t> before_;
+  std::vector<std::uint8_t> covered_;
   std::vector<int> stroke_index_;  // of each tile of the largest picture; 0: not come to yet, else
                                    // one more than its place in `stroke_`
 };

@@ -19,26 +19,28 @@ auto Part(Pixels row, const Rect& area) {
 
 }  // namespace
 
-CanvasTile::CanvasTile(const Rect& area, std::vector<std::uint32_t> pixels)
-    : area_(area), pixels_(std::move(pixels)) {
-  Pack();
-}
-
-CanvasTile::CanvasTile(const Rect& area, const Image& image) : area_(area) {
-  pixels_.reserve(static_cast<std::size_t>(area.width()) * static_cast<std::size_t>(area.height()));
-  for (int y = area.top; y < area.bottom; ++y) {
-    const auto row = Part(image.Row(y), area);
-    pixels_.insert(pixels_.end(), row.begin(), row.end());
+CanvasTile::CanvasTile(const Rect& area, const std::uint32_t* pixels, std::size_t stride)
+    : area_(area) {
+  const auto width = static_cast<std::size_t>(area.width());
+  const auto height = static_cast<std::size_t>(area.height());
+  const auto row = [=](std::size_t y) { return std::span(pixels + y * stride, width); };
+  bool plain = true;
+  for (std::size_t y = 0; y < height && plain; ++y) {
+    plain = std::ranges::all_of(row(y), [=](std::uint32_t pixel) { return pixel == *pixels; });
   }
-  Pack();
+  if (plain) {
+    pixels_.assign(1, *pixels);
+    return;
+  }
+  pixels_.reserve(width * height);
+  for (std::size_t y = 0; y < height; ++y) {
+    pixels_.insert(pixels_.end(), row(y).begin(), row(y).end());
+  }
 }
 
-void CanvasTile::Pack() {
-  const auto differs = [this](std::uint32_t pixel) { return pixel != pixels_.front(); };
-  if (pixels_.size() < 2 || std::any_of(pixels_.begin(), pixels_.end(), differs)) return;
-  pixels_.resize(1);
-  pixels_.shrink_to_fit();
-}
+CanvasTile::CanvasTile(const Rect& area, const Image& image)
+    : CanvasTile(area, image.Row(area.top).data() + area.left,
+                 static_cast<std::size_t>(image.width())) {}
 
 std::span<const std::uint32_t> CanvasTile::Row(int y, std::vector<std::uint32_t>& buffer) const {
   const auto width = static_cast<std::size_t>(area_.width());

@@ -15,8 +15,8 @@ namespace varnel {
 // A part of a picture as it was; a part of one value throughout keeps only that.
 class CanvasTile {
  public:
-  // `pixels`: those of `area`, row by row.
-  CanvasTile(const Rect& area, std::vector<std::uint32_t> pixels);
+  // `pixels`: those of `area`, in rows that begin `stride` pixels after each other.
+  CanvasTile(const Rect& area, const std::uint32_t* pixels, std::size_t stride);
   // What `image` shows in `area`, which must lie inside.
   CanvasTile(const Rect& area, const Image& image);
 
@@ -28,7 +28,6 @@ class CanvasTile {
 
  private:
   std::span<const std::uint32_t> Row(int y, std::vector<std::uint32_t>& buffer) const;
-  void Pack();
 
   Rect area_;
   std::vector<std::uint32_t> pixels_;

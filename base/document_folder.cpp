@@ -26,10 +26,11 @@ FolderChanges Compare(const std::vector<FileEntry>& former, const std::vector<Fi
   FolderChanges changes;
   auto old = former.begin();
   for (const FileEntry& entry : now) {
-    for (; old != former.end() && StandsBefore(old->name, entry.name); ++old) {
+    const auto met = [&] { return old != former.end() && old->name == entry.name; };
+    for (; !met() && old != former.end() && StandsBefore(old->name, entry.name); ++old) {
       changes.removed.push_back(old->name);
     }
-    if (old == former.end() || old->name != entry.name) {
+    if (!met()) {
       changes.added.push_back(entry.name);
       continue;
     }
