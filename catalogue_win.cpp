@@ -3,6 +3,7 @@
 #include "core/options_dialog.h"
 #include "dialogs/preview/preview_dialog.h"
 #include "dialogs/theme/theme_dialog.h"
+#include "widgets/boards/board_versions_dialog.h"
 #include "widgets/boards/calendar_folder_dialog.h"
 #include "widgets/boards/calendar_form.h"
 #include "widgets/boards/calendar_text_dialog.h"
@@ -11,11 +12,11 @@
 #include "widgets/boards/whiteboard_form.h"
 #include "widgets/boards/whiteboard_text_dialog.h"
 #include "widgets/calculator/calculator_form.h"
+#include "widgets/notes/note_versions_dialog.h"
 #include "widgets/notes/notes_dialog.h"
 #include "widgets/notes/notes_folder.h"
 #include "widgets/notes/notes_form.h"
 #include "widgets/notes/spelling/spell_service_win.h"
-#include "widgets/notes/versions_dialog.h"
 #include "widgets/time/alarm_dialog.h"
 #include "widgets/time/alarm_service_win.h"
 #include "widgets/time/clock_dialog.h"
@@ -60,11 +61,13 @@ void AddBoards(Catalogue& catalogue) {
   catalogue.AddWidget<WhiteboardForm>(6, whiteboard, printing);
   catalogue.AddDialog<WhiteboardTextDialog>(L"frmWBDit", whiteboard);
   catalogue.AddDialog<WhiteboardFolderDialog>(L"frmWBDpr", whiteboard);
+  catalogue.AddDialog<WhiteboardVersionsDialog>(L"frmWBDvr", whiteboard);
   auto& calendar = catalogue.AddService<CalendarLink>();
   catalogue.AddWidget<CalendarForm>(2, calendar, printing);
   catalogue.AddDialog<CalendarTextDialog>(L"frmCALit", calendar);
   catalogue.AddDialog<IconPickerDialog>(L"frmCALip", calendar);
   catalogue.AddDialog<CalendarFolderDialog>(L"frmCALpr", calendar);
+  catalogue.AddDialog<CalendarVersionsDialog>(L"frmCALvr", calendar);
   catalogue.AddFolder(kWhiteboardFolder);
   catalogue.AddFolder(kCalendarFolder);
 }
@@ -75,7 +78,7 @@ void AddNotes(Catalogue& catalogue) {
   auto& spelling = catalogue.AddService<SpellService>();
   catalogue.AddWidget<NotesForm>(3, notes, spelling, catalogue.SharedService<PrintDesk>());
   catalogue.AddDialog<NotesDialog>(L"frmNOTpr", notes);
-  catalogue.AddDialog<VersionsDialog>(L"frmNOTvr", notes);
+  catalogue.AddDialog<NoteVersionsDialog>(L"frmNOTvr", notes);
 }
 
 constexpr Family kFamilies[] = {AddProgram, AddTime,   AddCalculator,

@@ -279,9 +279,10 @@
 #define cmdOKfrmNOTpr 1
 #define cmdCancelfrmNOTpr 2
 
-// frmNOTvr, the earlier versions of a note
+// frmNOTvr, frmWBDvr, frmCALvr, the earlier versions of a note, a board, a month
 #define lstVERSIONS 1897
 #define txtVERSION 1898
+#define imgVERSION 1899
 #define cmdRESTORE 1
 
 // frmNOTpp, the print preview

@@ -121,6 +121,11 @@ void BoardForm::AfterChange(const Rect& shown) {
   OnBoardChanged();
 }
 
+void BoardForm::PutDown() {
+  picMAINBOARD_.EndStroke();
+  AfterChange(board_.DropFloat());
+}
+
 void BoardForm::TellTrouble(std::wstring trouble) {
   document().Tell(std::move(trouble));
   RefreshContent();

@@ -76,6 +76,8 @@ class BoardForm : public WidgetForm, protected BoardSurfaceOwner {
   void FloatPictureFile(const std::wstring& path);
   void Copy();
   void Paste();
+  // Ends a stroke, and drops an object that floats.
+  void PutDown();
   void Clear() { AfterChange(board_.Clear()); }
   void Undo() { AfterChange(board_.Undo()); }
   void Redo() { AfterChange(board_.Redo()); }

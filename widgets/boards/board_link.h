@@ -5,12 +5,12 @@
 
 #include "frame/family_service.h"
 #include "frame/services.h"
+#include "frame/versions_dialog.h"
 
 namespace varnel {
 
-class BoardWidget {
+class BoardWidget : public VersionedWidget {
  public:
-  virtual ~BoardWidget() = default;
   // Floats a text over the board, in letters of so many points.
   virtual void InsertText(const std::wstring& text, int points) = 0;
   // Saves what is unsaved before the boards' folder is changed; false when that fails.

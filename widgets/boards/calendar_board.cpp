@@ -178,6 +178,12 @@ FileResult CalendarBoard::SaveOver(DocumentFile& file, const std::string& bytes)
   return result;
 }
 
+bool CalendarBoard::Failed(FileResult result) {
+  if (result == FileResult::kDone) return false;
+  trouble_ = L"\"" + TitleOf(file_->path()) + L"\" " + std::wstring(FileTrouble(result));
+  return true;
+}
+
 bool CalendarBoard::Save() {
   trouble_.clear();
   if (!board_.BoardModified()) return true;
@@ -188,11 +194,23 @@ bool CalendarBoard::Save() {
     result = file_->Save(bytes);
   }
   if (result == FileResult::kChanged) result = SaveOver(*file_, bytes);
-  if (result != FileResult::kDone) {
-    trouble_ = L"\"" + TitleOf(file_->path()) + L"\" " + std::wstring(FileTrouble(result));
+  if (Failed(result)) return false;
+  board_.MarkSaved();
+  return true;
+}
+
+bool CalendarBoard::Restore(const DocumentVersion& version) {
+  // Read before anything is saved: saving may be what drops the oldest version.
+  const FileRead read = files_.Read(version.path, kMostMonthBytes);
+  auto ink = read ? MonthInkIn(read.bytes, month_, first_weekday_) : std::nullopt;
+  if (!ink) {
+    trouble_ = kVersionDamaged;
     return false;
   }
-  board_.MarkSaved();
+  if (!Save()) return false;
+  if (Failed(file_->Save(read.bytes, OthersChanges::kReplace))) return false;
+  ShowInk(std::move(*ink));
+  trouble_ = kRestored;
   return true;
 }
 
@@ -203,10 +221,7 @@ void CalendarBoard::Tend(std::uint64_t now) {
 
 void CalendarBoard::KeepDraft(std::uint64_t now) {
   if (!board_.BoardModified()) return;
-  const FileResult result = file_->KeepDraft(MonthDraftBytes(InkShown()), now);
-  if (result != FileResult::kDone) {
-    trouble_ = L"\"" + TitleOf(file_->path()) + L"\" " + std::wstring(FileTrouble(result));
-  }
+  Failed(file_->KeepDraft(MonthDraftBytes(InkShown()), now));
 }
 
 }  // namespace varnel

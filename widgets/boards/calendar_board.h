@@ -51,6 +51,8 @@ class CalendarBoard : public BoardDocument {
   // From the next month on that is shown.
   void SetFirstWeekday(int weekday) { first_weekday_ = weekday; }
 
+  std::vector<DocumentVersion> Versions() const override { return file_->Versions(); }
+  bool Restore(const DocumentVersion& version) override;
   void Tend(std::uint64_t now) override;
   void KeepDraft(std::uint64_t now) override;
 
@@ -62,6 +64,8 @@ class CalendarBoard : public BoardDocument {
   void TakeUpDrafts();
   void TakeUpDraft(const FoundDraft& draft, Month month, bool counts);
   FileResult SaveOver(DocumentFile& file, const std::string& bytes);
+  // Whether it is a fault, which is then told.
+  bool Failed(FileResult result);
   // True when they are others than before.
   bool ReadHolidays();
 

@@ -67,6 +67,8 @@ CalendarForm::CalendarForm(Services& services, const FormEntry& entry, int index
        {L"mnuCALPREVIOUSYEAR", by_months(-kMonthsOfAYear)},
        {L"mnuCALNEXTYEAR", by_months(kMonthsOfAYear)},
        {L"mnuCALSAVE", [this] { SaveMonth(); }, [this] { return board_.BoardModified(); }},
+       {L"mnuCALVERSIONS", [this] { services().program.OpenDialog(L"frmCALvr"); },
+        [this] { return !calendar_.Versions().empty(); }},
        {L"mnuCALSCREENCLR", [this] { Clear(); }},
        {L"mnuCALINSTXT", [this] { CalendarInsertText(); }},
        {L"mnuCALINSPIC", [this] { CalendarInsertChoose(); }},
@@ -136,9 +138,14 @@ void CalendarForm::OnLanguage() {
   MonthShown();
 }
 
+void CalendarForm::RestoreVersion(const DocumentVersion& version) {
+  PutDown();
+  calendar_.Restore(version);
+  MonthShown();
+}
+
 bool CalendarForm::SaveMonth() {
-  picMAINBOARD_.EndStroke();
-  AfterChange(board_.DropFloat());
+  PutDown();
   return calendar_.Save();
 }
 

@@ -52,6 +52,8 @@ class CalendarForm : public BoardForm, private CalendarWidget {  // frmCALwg
   void InsertIcon(const OfferedPicture& picture) override;
   bool SaveMonth() override;
   void FolderChanged() override;
+  std::vector<DocumentVersion> Versions() const override { return calendar_.Versions(); }
+  void RestoreVersion(const DocumentVersion& version) override;
 
   Month ThisMonth() const { return MonthOf(services().clock.Now()); }
   // Saves, and shows the month so many months on.

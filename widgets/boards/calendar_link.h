@@ -5,13 +5,13 @@
 
 #include "frame/family_service.h"
 #include "frame/services.h"
+#include "frame/versions_dialog.h"
 #include "widgets/boards/picture_pack.h"
 
 namespace varnel {
 
-class CalendarWidget {
+class CalendarWidget : public VersionedWidget {
  public:
-  virtual ~CalendarWidget() = default;
   // Floats a text over the month, in letters of so many points, wrapped to the width of a day or
   // not at all.
   virtual void InsertText(const std::wstring& text, int points, bool wrap) = 0;

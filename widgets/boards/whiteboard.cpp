@@ -203,6 +203,23 @@ void Whiteboard::SideBarRefresh(Size size) {
   }
 }
 
+bool Whiteboard::Restore(const DocumentVersion& version) {
+  // Read before anything is saved: saving may be what drops the oldest version.
+  const FileRead read = files_.Read(version.path, kMostBoardBytes);
+  auto pixels = read ? ReadBmp(read.bytes) : std::nullopt;
+  if (!pixels) {
+    trouble_ = kVersionDamaged;
+    return false;
+  }
+  const std::wstring path = file_->path();
+  if (!BoardSave() || file_->path() != path) return false;
+  if (Failed(path, file_->Save(read.bytes, OthersChanges::kReplace))) return false;
+  Load(std::move(*pixels));
+  NoteSaved();
+  trouble_ = kRestored;
+  return true;
+}
+
 void Whiteboard::Tend(std::uint64_t now) {
   if (std::exchange(noted_changes_, board_.changes()) != board_.changes()) file_->NoteChange(now);
   if (const auto due = file_->DraftDue(); due && now >= *due) KeepDraft(now);

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "base/document_file.h"
 #include "base/document_folder.h"
@@ -50,6 +51,8 @@ class Whiteboard : public BoardDocument {
   // Reads the folder anew. A board that is shown as it was saved follows its file.
   void SideBarRefresh(Size size);
 
+  std::vector<DocumentVersion> Versions() const override { return file_->Versions(); }
+  bool Restore(const DocumentVersion& version) override;
   void Tend(std::uint64_t now) override;
   void KeepDraft(std::uint64_t now) override;
 

@@ -52,6 +52,8 @@ WhiteboardForm::WhiteboardForm(Services& services, const FormEntry& entry, int i
   commands().Bind(
       {{L"mnuWBOARDNEW", [this] { BoardNew(); }},
        {L"mnuWBOARDSAVE", [this] { BoardSave(); }, [this] { return board_.BoardModified(); }},
+       {L"mnuWBOARDVERSIONS", [this] { services().program.OpenDialog(L"frmWBDvr"); },
+        [this] { return !whiteboard_.Versions().empty(); }},
        {L"mnuWBOARDRENAME", [this] { WhiteboardRenameShow(); }, has_file},
        {L"mnuWBOARDDELETE", [this] { BoardDelete(); }, has_file},
        {L"mnuWBOARDCLEAR", [this] { Clear(); }},
@@ -80,8 +82,7 @@ void WhiteboardForm::BoardNew() {
 }
 
 void WhiteboardForm::BoardSave() {
-  board_.MouseUp();
-  AfterChange(board_.DropFloat());
+  PutDown();
   whiteboard_.BoardSave();
   ShowList();
 }
@@ -165,6 +166,12 @@ bool WhiteboardForm::SaveBoards() {
   const bool saved = whiteboard_.BoardSave();
   ShowList();
   return saved;
+}
+
+void WhiteboardForm::RestoreVersion(const DocumentVersion& version) {
+  PutDown();
+  whiteboard_.Restore(version);
+  ShowBoard();
 }
 
 void WhiteboardForm::FolderChanged() {

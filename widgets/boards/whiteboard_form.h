@@ -55,6 +55,8 @@ class WhiteboardForm : public BoardForm,  // frmWBDwg
   void InsertText(const std::wstring& text, int points) override;
   bool SaveBoards() override;
   void FolderChanged() override;
+  std::vector<DocumentVersion> Versions() const override { return whiteboard_.Versions(); }
+  void RestoreVersion(const DocumentVersion& version) override;
 
   std::wstring Folder() const;
   Size ViewSize() const;

@@ -1,30 +1,22 @@
-// The earlier versions of the note that is shown: by date and size, with a preview, to be restored.
+// The dialog with the earlier versions of the note that is shown.
 #pragma once
 
-#include <vector>
+#include <string>
 
-#include "frame/services.h"
+#include "frame/versions_dialog.h"
 #include "widgets/notes/notes_link.h"
-#include "win/windows/dialog.h"
 
 namespace varnel {
 
-class VersionsDialog : public Dialog {  // frmNOTvr
+class NoteVersionsDialog : public VersionsDialog {  // frmNOTvr
  public:
-  VersionsDialog(Services& services, NotesLink& link)
-      : Dialog(services.ui, L"frmNOTvr"), services_(services), link_(link) {}
+  NoteVersionsDialog(Services& services, NotesLink& link);
 
  private:
-  void OnOpen() override { Fill(); }
-  void OnReopen() override { Fill(); }
-  void OnCommand(int id, int code) override;
-  void Fill();
-  const DocumentVersion* Chosen() const;
-  void Preview();
+  VersionedWidget* widget() const override { return link_.widget; }
+  std::wstring WordsOf(const std::string& bytes) const override;
 
-  Services& services_;
   NotesLink& link_;
-  std::vector<DocumentVersion> versions_;
 };
 
 }  // namespace varnel

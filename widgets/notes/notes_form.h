@@ -108,7 +108,7 @@ class NotesForm : public WidgetForm,  // frmNOTwg
   void AfterCommand() override;
 
   void FolderChanged() override;
-  std::vector<DocumentVersion> NoteVersions() const override { return desk_.Versions(); }
+  std::vector<DocumentVersion> Versions() const override { return desk_.Versions(); }
   void RestoreVersion(const DocumentVersion& version) override;
 
   NoteEditor::Events EditorEvents();

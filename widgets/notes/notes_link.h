@@ -4,25 +4,20 @@
 #include <cstdint>
 #include <map>
 #include <string>
-#include <vector>
 
-#include "base/document_file.h"
 #include "base/geometry.h"
 #include "frame/family_service.h"
 #include "frame/services.h"
+#include "frame/versions_dialog.h"
 
 namespace varnel {
 
-class NotesWidget {
+class NotesWidget : public VersionedWidget {
  public:
-  virtual ~NotesWidget() = default;
   // Takes the font, size and colour of the settings.
   virtual void NotePropsRefresh() = 0;
   // The setting that names the folder has changed.
   virtual void FolderChanged() = 0;
-  // The former contents of the note that is shown, the newest first.
-  virtual std::vector<DocumentVersion> NoteVersions() const = 0;
-  virtual void RestoreVersion(const DocumentVersion& version) = 0;
 };
 
 // Where the user was in a note.

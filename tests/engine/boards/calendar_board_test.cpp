@@ -90,6 +90,26 @@ TEST_F(CalendarMonths, AClearedMonthIsEmptyAndAPlainPictureIsShown) {
   EXPECT_EQ(files_.files[PathOf(L"April 2024_2")], "no picture");
 }
 
+TEST_F(CalendarMonths, GoBackToWhatTheyWere) {
+  Calendar run(files_);
+  const Point first = run.Draw(3);
+  run.calendar.Save();
+  const Point second = run.Draw(4);
+  run.calendar.Save();
+  const Point unsaved = run.Draw(5);
+  const std::vector<DocumentVersion> versions = run.calendar.Versions();
+  ASSERT_EQ(versions.size(), 1u);
+  EXPECT_TRUE(run.calendar.Restore(versions[0]));
+  EXPECT_TRUE(run.HasInk(first) && !run.HasInk(second) && !run.HasInk(unsaved));
+  EXPECT_FALSE(run.board.BoardModified());
+  ASSERT_EQ(run.calendar.Versions().size(), 3u);
+  EXPECT_TRUE(run.calendar.Restore(run.calendar.Versions()[0]));
+  EXPECT_TRUE(run.HasInk(second) && run.HasInk(unsaved));
+  files_.files[versions[0].path] = "no picture";
+  EXPECT_FALSE(run.calendar.Restore(versions[0]));
+  EXPECT_TRUE(run.HasInk(second));
+}
+
 TEST_F(CalendarMonths, AMonthInAnotherLanguageIsFoundUnderItsEnglishName) {
   const Point dot = [&] {
     Calendar run(files_);

@@ -90,6 +90,28 @@ TEST_F(Boards, AreSavedUnderTheTimeAndThenInTheirFile) {
   EXPECT_EQ(run.boards.boards().count(), 2u);
 }
 
+TEST_F(Boards, GoBackToWhatTheyWere) {
+  Run run(*this);
+  run.Draw();
+  run.boards.BoardSave();
+  const std::string first = File(run.boards.name());
+  run.drawn.Clear();
+  run.boards.BoardSave();
+  run.Draw();
+  const std::vector<DocumentVersion> versions = run.boards.Versions();
+  ASSERT_EQ(versions.size(), 1u);
+  EXPECT_TRUE(run.boards.Restore(versions[0]));
+  EXPECT_EQ(File(run.boards.name()), first);
+  EXPECT_EQ(run.drawn.pixels(), ReadBmp(first));
+  EXPECT_FALSE(run.drawn.BoardModified());
+  EXPECT_EQ(run.boards.Versions().size(), 3u) << "what was unsaved is kept too";
+  disk.Plant(versions[0].path, "no picture");
+  run.drawn.Clear();
+  EXPECT_FALSE(run.boards.Restore(versions[0]));
+  EXPECT_FALSE(run.boards.trouble().empty());
+  EXPECT_TRUE(run.drawn.BoardModified());
+}
+
 TEST_F(Boards, AreSavedBeforeOthersAreShown) {
   Put(L"a", Picture(0xFF102030));
   Put(L"b", Picture(0xFF405060));
