@@ -43,6 +43,15 @@ TEST_F(WhiteboardScene, WhatIsDrawnIsSavedErasedUndoneAndRedone) {
   EXPECT_SOON_EQ(Text(Part(lblTestfrmWBDwg)), L"erase");
   ClickRow(0);
   EXPECT_SOON(Name().starts_with(L"pic_2"));
+
+  Choose(form_, L"mnuWBOARDVERSIONS");
+  HWND versions = WaitForForm(program(), L"frmWBDvr");
+  ASSERT_TRUE(versions);
+  EXPECT_EQ(Items(Control(versions, lstVERSIONS)).size(), 4u);
+  EXPECT_TRUE(IsShown(Control(versions, imgVERSION)));
+  PressButton(versions, cmdRESTORE);
+  ASSERT_TRUE(WaitForNoForm(program(), L"frmWBDvr"));
+  EXPECT_SOON(Saved(Files()[0]) == erased);
 }
 
 TEST_F(WhiteboardScene, TextAndPictureAreMergedWhereTheyArePut) {

@@ -20,7 +20,7 @@ inline constexpr CommandRow kCalendarCommands[] = {
     {L"mnuCALPREVIOUSYEAR", {L"A year &back", {Ctrl(kKeyPageUp)}}},
     {L"mnuCALNEXTYEAR", {L"A year &on", {Ctrl(kKeyPageDown)}}},
     {L"mnuCALSAVE", {L"&Save", {Ctrl('S')}}},
-    {L"mnuCALVERSIONS", {L"Sho&w earlier versions..."}},
+    {L"mnuCALVERSIONS", {L"Sho&w earlier versions..."}, L"frmCALvr"},
     kMenuLine,
     {L"mnuCALUNDO", {L"&Undo", {Ctrl('Z')}, ToolOf(CalendarTool::kUndo, L"Undo", L'\xE222')}},
     {L"mnuCALREDO",

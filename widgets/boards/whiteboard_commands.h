@@ -10,7 +10,7 @@ inline constexpr CommandRow kWhiteboardCommands[] = {
     {L"mnuWBOARDNEW",
      {L"&New board", {Ctrl('N')}, ToolOf(BoardTool::kNew, L"New board", L'\xE214')}},
     {L"mnuWBOARDSAVE", {L"&Save", {Ctrl('S')}}},
-    {L"mnuWBOARDVERSIONS", {L"Earlier &versions..."}},
+    {L"mnuWBOARDVERSIONS", {L"Earlier &versions..."}, L"frmWBDvr"},
     {L"mnuWBOARDRENAME", {L"R&ename", {Plain(FunctionKey(2))}}},
     {L"mnuWBOARDDELETE", {L"&Delete...", {Plain(kKeyDelete)}}},
     kMenuLine,

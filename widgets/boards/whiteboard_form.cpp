@@ -52,8 +52,7 @@ WhiteboardForm::WhiteboardForm(Services& services, const FormEntry& entry, int i
   commands().Bind(
       {{L"mnuWBOARDNEW", [this] { BoardNew(); }},
        {L"mnuWBOARDSAVE", [this] { BoardSave(); }, [this] { return board_.BoardModified(); }},
-       {L"mnuWBOARDVERSIONS", [this] { services().program.OpenDialog(L"frmWBDvr"); },
-        [this] { return !whiteboard_.Versions().empty(); }},
+       {L"mnuWBOARDVERSIONS", {}, [this] { return !whiteboard_.Versions().empty(); }},
        {L"mnuWBOARDRENAME", [this] { WhiteboardRenameShow(); }, has_file},
        {L"mnuWBOARDDELETE", [this] { BoardDelete(); }, has_file},
        {L"mnuWBOARDCLEAR", [this] { Clear(); }},
