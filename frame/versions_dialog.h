@@ -10,19 +10,10 @@
 #include "base/document_file.h"
 #include "base/image.h"
 #include "frame/services.h"
+#include "frame/versioned_widget.h"
 #include "win/windows/dialog.h"
 
 namespace varnel {
-
-// A widget whose document has earlier versions.
-class VersionedWidget {
- public:
-  virtual ~VersionedWidget() = default;
-  // The former contents of the document that is shown, the newest first.
-  virtual std::vector<DocumentVersion> Versions() const = 0;
-  // Puts one in the document's place; what that was becomes a version too.
-  virtual void RestoreVersion(const DocumentVersion& version) = 0;
-};
 
 // The dialog's resource has the controls lstVERSIONS, txtVERSION for words, cmdRESTORE, IDCANCEL
 // and, where there are pictures to be seen, the owner-drawn imgVERSION.

@@ -37,7 +37,8 @@ ENGINES_STAY_OUT_OF = ("win", "resources")
 NOT_FOR_ENGINES = ("ctime", "filesystem", "fstream", "future", "mutex", "thread")
 
 # What engines may use beside the standard library: headers alone, the same on every platform.
-PORTABLE_LIBRARIES = ("nlohmann/json.hpp",)
+# The instructions of the last are in every processor that the program runs on.
+PORTABLE_LIBRARIES = ("nlohmann/json.hpp", "emmintrin.h")
 
 # Tests that run natively too; the others may include anything.
 PURE_TESTS = ("tests/engine", "tests/support", "fuzz")

@@ -5,7 +5,7 @@
 
 #include "frame/family_service.h"
 #include "frame/services.h"
-#include "frame/versions_dialog.h"
+#include "frame/versioned_widget.h"
 #include "widgets/boards/picture_pack.h"
 
 namespace varnel {

@@ -8,7 +8,7 @@
 #include "base/geometry.h"
 #include "frame/family_service.h"
 #include "frame/services.h"
-#include "frame/versions_dialog.h"
+#include "frame/versioned_widget.h"
 
 namespace varnel {
 
