@@ -14,6 +14,8 @@ constexpr int kPlainPort = 80;
 constexpr int kSecurePort = 443;
 constexpr int kMostPort = 65'535;
 
+constexpr std::wstring_view kMail = L"mailto:";
+
 bool TakeScheme(std::wstring_view& text, std::wstring_view scheme) {
   if (!EqualsIgnoreCase(text.substr(0, scheme.size()), scheme)) return false;
   text.remove_prefix(scheme.size());
@@ -98,6 +100,12 @@ std::optional<WebAddress> RedirectTarget(const WebAddress& from, std::wstring_vi
   auto address = ParseWebAddress(target);
   if (address && from.secure && !address->secure) return std::nullopt;
   return address;
+}
+
+bool IsMailAddress(std::wstring_view text) {
+  return TakeScheme(text, kMail) && !text.empty() && std::ranges::all_of(text, [](wchar_t unit) {
+           return unit > L' ' && unit < 0x7F && unit != L'"' && unit != L'\'' && unit != L'\\';
+         });
 }
 
 std::string HostField(const WebAddress& address) {

@@ -24,6 +24,10 @@ std::optional<WebAddress> ParseWebAddress(std::wstring_view text);
 // web address, or would leave https (RFC 9110, section 10.2.2).
 std::optional<WebAddress> RedirectTarget(const WebAddress& from, std::wstring_view location);
 
+// Whether the text is "mailto:" and an address (RFC 6068) that may be handed to another program:
+// none of it a blank, a quote or beyond ASCII, which a command line could take for something else.
+bool IsMailAddress(std::wstring_view text);
+
 // The host as a request names it, with the port unless it is the usual one.
 std::string HostField(const WebAddress& address);
 

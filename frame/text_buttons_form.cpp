@@ -1,5 +1,7 @@
 #include "frame/text_buttons_form.h"
 
+#include <commctrl.h>
+
 #include <algorithm>
 #include <utility>
 
@@ -30,8 +32,22 @@ bool TextButtons::Add(int id, const std::wstring& word, wchar_t glyph, bool on_b
       0, L"BUTTON", word.c_str(), WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW, 0, 0, 0, 0,
       owner_.handle(), reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
   if (!handle) return false;
+  ::SetWindowSubclass(handle, Procedure, static_cast<UINT_PTR>(id),
+                      reinterpret_cast<DWORD_PTR>(this));
   buttons_.push_back({id, handle, glyph, on_bar, glyph != 0});
   return true;
+}
+
+// A button that is drawn by its owner keeps no check of its own.
+LRESULT CALLBACK TextButtons::Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam,
+                                        UINT_PTR id, DWORD_PTR self) {
+  const LRESULT result = ::DefSubclassProc(handle, message, wparam, lparam);
+  if (message == WM_NCDESTROY) ::RemoveWindowSubclass(handle, Procedure, id);
+  const auto& check_of = reinterpret_cast<const TextButtons*>(self)->check_of_;
+  if ((message != BM_GETCHECK && message != BM_GETSTATE) || !check_of) return result;
+  const ButtonCheck check = check_of(static_cast<int>(id));
+  if (check == ButtonCheck::kOff) return result;
+  return result | (check == ButtonCheck::kOn ? BST_CHECKED : BST_INDETERMINATE);
 }
 
 const TextButton* TextButtons::Find(int id) const {

@@ -25,6 +25,9 @@ struct TextButton {
   std::wstring key = {};  // which the tooltip tells behind the word
 };
 
+// What a button that is on or off stands for: several things may differ.
+enum class ButtonCheck { kOff, kOn, kMixed };
+
 // One button about to be drawn.
 struct ButtonPainting {
   const TextButton& button;
@@ -49,6 +52,8 @@ class TextButtons {
   void SetText(int id, std::wstring_view text);
   void Place(int id, const Rect& box);  // pixels of the form
   void Enable(int id, bool on);
+  // How those buttons stand that are on or off, for programs that read the screen aloud.
+  void TellChecks(std::function<ButtonCheck(int id)> check_of) { check_of_ = std::move(check_of); }
   // Whether a tooltip tells the button's word; at first where a glyph stands in place of it.
   void TellWord(int id, bool on);
   // The key that does the same; the tooltip tells it behind the word.
@@ -74,11 +79,14 @@ class TextButtons {
   void Repaint(int id) const;
 
  private:
+  static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam,
+                                    UINT_PTR id, DWORD_PTR self);
   void ShowTooltip(const TextButton& button);
   void HoverTick(Timer& timer);
 
   Window& owner_;
   std::vector<TextButton> buttons_;
+  std::function<ButtonCheck(int id)> check_of_;
   int hovered_ = 0;  // the button under the mouse, or 0
   bool focus_shown_ = false;
   Timer tmrBARBTNS_;

@@ -102,6 +102,7 @@ void NotesForm::OnLoad() {
   lblNotes_.Load(handle(), lblNotes);
   for (const int tool : {kToolNew, kToolSave, kToolList}) AddTool(tool);
   LoadPanels();
+  buttons().TellChecks([this](int id) { return CheckOf(id); });
   search_field_.Load(handle(), txtSEARCHNOTES, {.most = kMostQuery, .hint = L"Search"});
   lvwFILES_.Load(handle(), lvwFILES, L"Notes", SideListKind::kDocuments);
   editor_.Load(handle(), rtbPAGEBOX, NoteBaseFormat(services().settings));

@@ -154,7 +154,7 @@ class NotesForm : public WidgetForm,  // frmNOTwg
   void PlacePanel(const Rect& panel);
   void PlaceList(const Rect& panel);
   void PlaceStrip();
-  bool ToolIsOn(int tool) const;
+  ButtonCheck CheckOf(int id) const;
   Colour PaperColour() const;
 
   // --- commands

@@ -173,6 +173,7 @@ void NotesForm::ShowList(std::wstring_view selected) {
 
 void NotesForm::Tell(const std::wstring& notice) {
   desk_.Tell(notice);
+  notice_timer_.Stop();  // it is to be read as long as any other
   ShowNotice();
 }
 
@@ -259,8 +260,14 @@ void NotesForm::PaintRow(Surface& surface, const SideRow& row) {
   PaintText(ui(), surface, box, RowText(row.index), style);
 }
 
-bool NotesForm::ToolIsOn(int tool) const {
-  return tool == open_panel_ || (tool == kToolList && list_wanted_);
+ButtonCheck NotesForm::CheckOf(int id) const {
+  const int tool = id - lablTOOLSINS;
+  if (tool >= 0 && tool < kToolCount) {
+    const bool on = tool == open_panel_ || (tool == kToolList && list_wanted_);
+    return on ? ButtonCheck::kOn : ButtonCheck::kOff;
+  }
+  const NotePanel* open = OpenPanel();
+  return open ? open->CheckOf(id) : ButtonCheck::kOff;
 }
 
 void NotesForm::DrawPanelButton(const ButtonPainting& painting) {
@@ -269,18 +276,18 @@ void NotesForm::DrawPanelButton(const ButtonPainting& painting) {
   const bool is_tool = tool >= 0 && tool < kToolCount;
   NotePanel* open = OpenPanel();
   ButtonPainting shown = painting;
-  const bool on = is_tool ? ToolIsOn(tool) : open && open->IsOn(id);
+  const ButtonCheck check = CheckOf(id);
   if (!is_tool) {
     FillRectangle(shown.surface.dc(), shown.bounds, CardColours(paint(), services().colours).first);
   }
-  if (on && painting.look == ButtonLook::kNormal) {
+  if (check == ButtonCheck::kOn && painting.look == ButtonLook::kNormal) {
     shown.colours = ButtonColours(paint(), ButtonLook::kPressed, services().colours);
   }
   PaintButtonFace(shown, dpi());
   TextStyle style = PanelTextStyle(Scaled(shown.button.glyph ? kGlyphHeight : kPanelFont, dpi()));
   if (shown.button.glyph) style.font.face = kIconFontName;
   style.ground = shown.colours.first;
-  style.faint = !painting.enabled;
+  style.faint = !painting.enabled || check == ButtonCheck::kMixed;
   wchar_t word[64] = {};
   ::GetWindowTextW(shown.button.handle, word, 64);
   PaintText(ui(), shown.surface, shown.bounds,

@@ -155,7 +155,7 @@ void NotesForm::ShowCountsInStrip() {
 }
 
 void NotesForm::OnAddress(const std::wstring& address) {
-  OpenWebPage(handle(), address);
+  OpenAddress(handle(), address);
 }
 
 void NotesForm::OnZoom(int notches) {

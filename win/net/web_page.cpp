@@ -3,6 +3,7 @@
 #include <shellapi.h>
 
 #include "base/text.h"
+#include "base/web_address.h"
 
 namespace varnel {
 
@@ -10,6 +11,14 @@ void OpenWebPage(HWND owner, const std::wstring& address) {
   const bool web = EqualsIgnoreCase(address.substr(0, 7), L"http://") ||
                    EqualsIgnoreCase(address.substr(0, 8), L"https://");
   if (web) ::ShellExecuteW(owner, L"OPEN", address.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+}
+
+void OpenAddress(HWND owner, const std::wstring& address) {
+  if (IsMailAddress(address)) {
+    ::ShellExecuteW(owner, L"OPEN", address.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+  } else {
+    OpenWebPage(owner, address);
+  }
 }
 
 }  // namespace varnel

@@ -11,4 +11,7 @@ namespace varnel {
 // is refused. Failures are silent.
 void OpenWebPage(HWND owner, const std::wstring& address);
 
+// The same, and what IsMailAddress takes in the user's mail program.
+void OpenAddress(HWND owner, const std::wstring& address);
+
 }  // namespace varnel

@@ -192,6 +192,10 @@ bool RichEdit::WritesRaisedInTwips() {
   return IsWine();
 }
 
+bool RichEdit::SwapsIndents() {
+  return IsWine();
+}
+
 void RichEdit::Paste() {
   if (events_.on_paste) events_.on_paste();
 }

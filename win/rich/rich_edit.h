@@ -45,6 +45,8 @@ class RichEdit {
 
   // Whether this system's control writes raised letters (\up, \dn) in twips, not half points.
   static bool WritesRaisedInTwips();
+  // Whether it writes the distance of all lines from the first as \li, and its place as \fi.
+  static bool SwapsIndents();
 
   explicit RichEdit(Events events) : events_(std::move(events)) {}
   RichEdit(const RichEdit&) = delete;

@@ -32,6 +32,15 @@ TEST(WebAddress, PartsOfAnAddress) {
   }
 }
 
+TEST(WebAddress, OnlyPlainMailAddressesAreHandedOn) {
+  EXPECT_TRUE(IsMailAddress(L"mailto:a@b.example"));
+  EXPECT_TRUE(IsMailAddress(L"MAILTO:a@b.example?subject=x%20y"));
+  for (const wchar_t* none : {L"", L"mailto:", L"a@b.example", L"mailto:a b", L"mailto:a\" /x",
+                              L"mailto:\u00FC@b", L"mailto:a\n", L"mailtoa:b"}) {
+    EXPECT_FALSE(IsMailAddress(none)) << none;
+  }
+}
+
 TEST(WebAddress, WhereRedirectsLead) {
   const WebAddress from = *ParseWebAddress(L"http://h:81/dir/page?q=/1");
   const test::Cases<const wchar_t*, const wchar_t*> cases = {

@@ -57,6 +57,15 @@ const SystemEncoding& SystemTextEncoding() {
 NoteEditor::NoteEditor(const FileStore& files, Events events)
     : files_(files), events_(std::move(events)), edit_(ControlEvents()) {}
 
+NoteEditor::Events NoteEditor::Silent() {
+  return {.on_edit = [] {},
+          .on_select = [] {},
+          .on_notice = [](const std::wstring&) {},
+          .on_documents = [](const auto&) {},
+          .on_address = [](const std::wstring&) {},
+          .on_zoom = [](int) {}};
+}
+
 RichEdit::Events NoteEditor::ControlEvents() {
   return {.on_change = [this] { OnChange(); },
           .on_select =
@@ -196,10 +205,7 @@ std::optional<std::string> NoteEditor::Bytes(NoteType type) {
   if (!whole) return std::nullopt;
   const std::wstring text = edit_.Units({0, edit_.Length()});
   std::vector<ParagraphIndents> indents;
-  if (whole->find("\\li") != std::string::npos || whole->find("\\fi") != std::string::npos ||
-      whole->find("\\ri") != std::string::npos) {
-    indents = Indents();
-  }
+  if (RichEdit::SwapsIndents()) indents = IndentsOfSwapped(*whole, SystemRtfOrigin());
   return MendRtf(*whole, {text, indents, RichEdit::WritesRaisedInTwips()}, SystemRtfOrigin());
 }
 
@@ -208,29 +214,6 @@ std::optional<std::string> NoteEditor::Whole(std::string rtf,
   if (pictures.empty()) return rtf;
   const auto kept = pictures_.Of(pictures);
   return kept ? PutPicturesBack(rtf, *kept, SystemRtfOrigin()) : std::nullopt;
-}
-
-// As the control holds them; some versions write others.
-std::vector<ParagraphIndents> NoteEditor::Indents() {
-  const Loading loading(*this);
-  const RichRange selection = edit_.Selection();
-  const Point scroll = edit_.ScrollPosition();
-  const std::wstring text = edit_.Units({0, edit_.Length()});
-  std::vector<ParagraphIndents> indents;
-  for (std::size_t begin = 0;;) {
-    const int at = static_cast<int>(begin);
-    edit_.Select({at, at});
-    const RichParagraph format = edit_.SelectionParagraph();
-    const int start = format.start_indent.value_or(0);
-    const int offset = format.offset.value_or(0);
-    indents.push_back({start + offset, -offset, format.right_indent.value_or(0)});
-    const std::size_t end = text.find(L'\r', begin);
-    if (end == std::wstring::npos) break;
-    begin = end + 1;
-  }
-  edit_.Select(selection);
-  edit_.SetScrollPosition(scroll);
-  return indents;
 }
 
 // --- formatted text on its way in

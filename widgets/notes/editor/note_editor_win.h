@@ -35,6 +35,9 @@ class NoteEditor : public NoteContent {
     std::function<void(int notches)> on_zoom;
   };
 
+  // For an editor that only shows.
+  static Events Silent();
+
   NoteEditor(const FileStore& files, Events events);
 
   bool Load(HWND parent, int id, const CharacterFormat& base);
@@ -90,7 +93,6 @@ class NoteEditor : public NoteContent {
   void OnFiles(const std::vector<std::wstring>& paths, int position);
   bool OnCopy();
   std::wstring PlainText() const;
-  std::vector<ParagraphIndents> Indents();
   std::optional<std::string> Whole(std::string rtf, std::span<const RichPicture> pictures) const;
   void ShowText(const std::wstring& text);
   // What the control did not read of a text that stands from `begin` on, and its pictures.

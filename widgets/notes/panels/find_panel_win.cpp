@@ -68,8 +68,8 @@ FindWishes FindPanel::Wishes() const {
           whole_words_};
 }
 
-bool FindPanel::IsOn(int id) const {
-  return (id == chkMATCHCASE && match_case_) || (id == chkWHOLEWORDS && whole_words_);
+ButtonCheck FindPanel::CheckOf(int id) const {
+  return Checked((id == chkMATCHCASE && match_case_) || (id == chkWHOLEWORDS && whole_words_));
 }
 
 void FindPanel::DrawOnButton(const ButtonPainting& painting) {

@@ -17,7 +17,7 @@ class FindPanel : public NotePanel {  // pfrFIND
   bool ForPlainText() const override { return true; }
   void Place(const Rect& box) override;
   bool OnControl(int id, int code) override;
-  bool IsOn(int id) const override;
+  ButtonCheck CheckOf(int id) const override;
   void DrawOnButton(const ButtonPainting& painting) override;
   bool OnKey(const MSG& message) override;
   void OnNoteShown(const std::wstring& path) override;

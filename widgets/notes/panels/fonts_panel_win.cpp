@@ -70,25 +70,25 @@ void FontsPanel::Refresh() {
   }
 }
 
-bool FontsPanel::IsOn(int id) const {
+ButtonCheck FontsPanel::CheckOf(int id) const {
   switch (id) {
     case chkBOLD:
-      return shown_.bold.value_or(false);
+      return Checked(shown_.bold);
     case chkITALIC:
-      return shown_.italic.value_or(false);
+      return Checked(shown_.italic);
     case chkUNDERLINE:
-      return shown_.underline.value_or(false);
+      return Checked(shown_.underline);
     default:
       break;
   }
   if (id >= optSCRIPT && id <= optSCRIPT + 2) {
-    return shown_.offset && ScriptOption(*shown_.offset) == id - optSCRIPT;
+    return Checked(shown_.offset && ScriptOption(*shown_.offset) == id - optSCRIPT);
   }
   const int style = id - btnSTYLE;
-  if (style < 0 || style >= static_cast<int>(kQuickStyles.size())) return false;
+  if (style < 0 || style >= static_cast<int>(kQuickStyles.size())) return ButtonCheck::kOff;
   const QuickStyle& wanted = kQuickStyles[static_cast<std::size_t>(style)];
-  return shown_.half_points == wanted.points * 2 && shown_.bold == wanted.bold &&
-         shown_.italic == wanted.italic;
+  return Checked(shown_.half_points == wanted.points * 2 && shown_.bold == wanted.bold &&
+                 shown_.italic == wanted.italic);
 }
 
 bool FontsPanel::OnControl(int id, int code) {

@@ -15,7 +15,7 @@ class FontsPanel : public NotePanel {  // pfrFONTS
   void OnOpened() override;
   void Refresh() override;
   bool OnControl(int id, int code) override;
-  bool IsOn(int id) const override;
+  ButtonCheck CheckOf(int id) const override;
   void DrawOnButton(const ButtonPainting& painting) override;
 
  private:

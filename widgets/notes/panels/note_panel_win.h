@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -65,8 +66,8 @@ class NotePanel {
   virtual bool OnKey(const MSG&) { return false; }
   // True when the control is one of the panel's.
   virtual bool OnControl(int id, int code) = 0;
-  // Whether its button stands for what is on.
-  virtual bool IsOn(int /*id*/) const { return false; }
+  // How its button stands.
+  virtual ButtonCheck CheckOf(int /*id*/) const { return ButtonCheck::kOff; }
   // Paints on the panel what is no control.
   virtual void Paint(Surface&) {}
   // Draws more than glyph or word on one of its buttons.
@@ -77,6 +78,9 @@ class NotePanel {
   virtual bool Has(HWND control) const;
 
  protected:
+  static ButtonCheck Checked(std::optional<bool> on) {
+    return !on ? ButtonCheck::kMixed : *on ? ButtonCheck::kOn : ButtonCheck::kOff;
+  }
   NotePanelHost& host() const { return host_; }
   HWND Control(int id) const { return ::GetDlgItem(host_.PanelParent(), id); }
   void AddButton(int id, const wchar_t* word, wchar_t glyph, const PanelCell& cell);

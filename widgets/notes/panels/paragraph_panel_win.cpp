@@ -71,9 +71,12 @@ void ParagraphPanel::TextLineSpacingGet(const RichParagraph& now) {
   showing_ = false;
 }
 
-bool ParagraphPanel::IsOn(int id) const {
-  if (id == chkBULLETS) return shown_.numbering == RichNumbering::kBullets;
-  return shown_.alignment && id - optALIGN + 1 == static_cast<int>(*shown_.alignment);
+ButtonCheck ParagraphPanel::CheckOf(int id) const {
+  if (id == chkBULLETS) {
+    const auto bullets = [](RichNumbering kind) { return kind == RichNumbering::kBullets; };
+    return Checked(shown_.numbering ? std::optional(bullets(*shown_.numbering)) : std::nullopt);
+  }
+  return Checked(shown_.alignment && id - optALIGN + 1 == static_cast<int>(*shown_.alignment));
 }
 
 bool ParagraphPanel::OnControl(int id, int code) {

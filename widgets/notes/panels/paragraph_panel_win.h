@@ -13,7 +13,7 @@ class ParagraphPanel : public NotePanel {  // pfrPGRAPH
   const wchar_t* name() const override { return L"Paragraph"; }
   void Refresh() override;
   bool OnControl(int id, int code) override;
-  bool IsOn(int id) const override;
+  ButtonCheck CheckOf(int id) const override;
 
  private:
   void TextLineSpacingGet(const RichParagraph& now);

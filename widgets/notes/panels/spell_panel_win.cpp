@@ -312,13 +312,13 @@ void SpellPanel::Toggle(const Setting& option, int id) {
   host().PanelButtons().Repaint(id);
 }
 
-bool SpellPanel::IsOn(int id) const {
+ButtonCheck SpellPanel::CheckOf(int id) const {
   const Settings& settings = host().PanelServices().settings;
-  if (id == optDICTUSA) return settings.Read(kSpellDictionary) == kAmericanDictionary;
-  if (id == optDICTUK) return settings.Read(kSpellDictionary) == kBritishDictionary;
-  if (id == btnOWNWORDS) return own_words_;
+  if (id == optDICTUSA) return Checked(settings.Read(kSpellDictionary) == kAmericanDictionary);
+  if (id == optDICTUK) return Checked(settings.Read(kSpellDictionary) == kBritishDictionary);
+  if (id == btnOWNWORDS) return Checked(own_words_);
   const Option* option = OptionOf(id);
-  return option && ReadCheck(settings, option->setting);
+  return Checked(option && ReadCheck(settings, option->setting));
 }
 
 void SpellPanel::DrawOnButton(const ButtonPainting& painting) {

@@ -19,7 +19,7 @@ class SpellPanel : public NotePanel {  // pfrSPELL
   int Rows(int width) const override;
   void Place(const Rect& box) override;
   bool OnControl(int id, int code) override;
-  bool IsOn(int id) const override;
+  ButtonCheck CheckOf(int id) const override;
   void DrawOnButton(const ButtonPainting& painting) override;
   bool OnKey(const MSG& message) override;
   bool Has(HWND control) const override;

@@ -182,6 +182,16 @@ std::string WithRaisedInHalfPoints(std::string_view rtf) {
 
 }  // namespace
 
+std::vector<ParagraphIndents> IndentsOfSwapped(std::string_view rtf, const RtfOrigin& origin) {
+  std::vector<ParagraphIndents> indents;
+  const RtfReading reading = ReadRtf(rtf, origin);
+  for (const RtfParagraph& paragraph : reading.document.paragraphs) {
+    const ParagraphFormat& written = reading.document.paragraph_formats[paragraph.format];
+    indents.push_back({written.left + written.first, -written.left, written.right});
+  }
+  return indents;
+}
+
 std::optional<std::string> MendRtf(std::string_view control_rtf, const EditorTruth& truth,
                                    const RtfOrigin& origin) {
   if (truth.raised_in_twips) {

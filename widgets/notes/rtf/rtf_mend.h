@@ -6,6 +6,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "widgets/notes/rtf/rtf_reader.h"
 
@@ -25,6 +26,10 @@ struct EditorTruth {
   std::span<const ParagraphIndents> indents;  // of each paragraph; empty: not compared
   bool raised_in_twips = false;  // the control wrote \up and \dn in twips, not in half points
 };
+
+// The indents of each paragraph of an RTF whose writer took the two words for each other: it wrote
+// where all lines but the first begin, from the first, as \li, and where the first begins as \fi.
+std::vector<ParagraphIndents> IndentsOfSwapped(std::string_view rtf, const RtfOrigin& origin = {});
 
 // The RTF with every character and indent that differs from the truth rewritten, or as it is when
 // none does. Nothing when the two have other paragraphs, pictures or breaks in other places, or the
