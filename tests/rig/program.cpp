@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 #include <psapi.h>
 
+#include <string>
+
 #include "tests/rig/files.h"
 
 namespace varnel::rig {
@@ -80,6 +82,11 @@ void Program::Kill() {
   killed_ = true;
   ::TerminateProcess(process_.get(), 1);
   ::WaitForSingleObject(process_.get(), kPatience);
+}
+
+int KillsWanted(int usual) {
+  wchar_t number[16] = {};
+  return ::GetEnvironmentVariableW(L"VARNEL_KILLS", number, 16) ? std::stoi(number) : usual;
 }
 
 }  // namespace varnel::rig

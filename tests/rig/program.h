@@ -57,4 +57,8 @@ class Program {
   bool killed_ = false;
 };
 
+// How often a scene that kills the program does so: as the environment variable VARNEL_KILLS says,
+// or `usual` times.
+int KillsWanted(int usual);
+
 }  // namespace varnel::rig

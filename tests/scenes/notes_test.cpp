@@ -4,63 +4,27 @@
 
 #include <commctrl.h>
 
-#include <algorithm>
-
-#include "base/text.h"
-#include "resources/control_ids.h"
-#include "tests/rig/scene.h"
-#include "widgets/notes/rtf/rtf_reader.h"
+#include "tests/scenes/notes_scene.h"
 #include "win/graphics/pictures.h"
-#include "win/system/com.h"
 
 namespace varnel {
 namespace {
 
 using namespace rig;
 
-class Notes : public Scene {
+class Notes : public NotesScene {
  protected:
-  void Start() {
-    root().settings().SetText(L"frmVRNpr\\Details", L"Start-Load-Notes", L"True");
-    root().settings().SetText(L"frmNOTwg\\Window", L"Width", L"9000");
-    root().settings().SetText(L"frmNOTwg\\Window", L"Height", L"7000");
-    ASSERT_TRUE(program().Start(L"/tray"));
-    form_ = WaitForForm(program(), L"frmNOTwg");
-    ASSERT_TRUE(form_);
-    editor_ = Control(form_, rtbPAGEBOX);
-    ASSERT_TRUE(Activate(form_));
-    ASSERT_TRUE(ClickOn(editor_));
-  }
-  std::wstring Folder() { return root().folder() + L"\\tavrin\\"; }
-  std::vector<std::wstring> Files() {
-    auto files = FilesBelow(Folder());
-    std::erase_if(files, [](const auto& name) {
-      return name.starts_with(L".varnel") || name.ends_with(L".new");
-    });
-    return files;
-  }
-  // The one note that has been saved.
-  std::wstring OnlyNote() {
-    EXPECT_SOON(Files().size() == 1);
-    return Files().size() == 1 ? Folder() + Files()[0] : std::wstring();
-  }
-  RtfDocument Saved(const std::wstring& path) {
-    const RtfReading reading = ReadRtf(FileBytes(path).value_or(""));
-    EXPECT_EQ(reading.fault, RtfFault::kNone);
-    return reading.document;
-  }
-  static const CharFormat& FormatAt(const RtfDocument& document, std::wstring_view word) {
-    const std::size_t at = document.text.find(word);
-    EXPECT_NE(at, std::wstring::npos) << Utf8FromWide(word);
-    const auto run = std::ranges::upper_bound(document.runs, at, {}, &RtfRun::begin);
-    return document.char_formats[std::prev(run)->format];
-  }
-  static const ParagraphFormat& ParagraphAt(const RtfDocument& document, std::wstring_view word) {
-    const std::size_t at = document.text.find(word);
-    EXPECT_NE(at, std::wstring::npos) << Utf8FromWide(word);
-    const auto paragraph =
-        std::ranges::upper_bound(document.paragraphs, at, {}, &RtfParagraph::begin);
-    return document.paragraph_formats[std::prev(paragraph)->format];
+  // A picture of two pixels, which no codec may change, and a text.
+  void ChooseAmongSamples() {
+    const std::wstring pictures = root().folder() + L"\\samples\\";
+    constexpr char kBmp[] =
+        "BM\x3E\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\2\0\0\0\1\0\0\0\1\0\x18\0\0\0\0\0\x08\0\0\0"
+        "\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\x01\x02\x03\xFD\xFE\xFF\0\0";
+    ASSERT_TRUE(WriteBytes(pictures + L"dots.bmp", {kBmp, 62}));
+    ASSERT_TRUE(WriteBytes(pictures + L"part.rtf", "{\\rtf1 {\\b put} in}"));
+    for (const wchar_t* name : {L"Text-Folder-Loc", L"Picture-Folder-Loc"}) {
+      root().settings().SetText(L"frmNOTwg\\Details", name, pictures);
+    }
   }
   static void TypeEveryFormat() {
     Chord({VK_CONTROL, VK_MENU, '1'});
@@ -96,12 +60,6 @@ class Notes : public Scene {
     Chord({VK_CONTROL, '3'});
     Type(L"spaced");
   }
-  std::wstring Title() { return Text(Control(form_, lblNotes)); }
-  std::wstring Content() { return Text(editor_); }
-
-  ComApartment apartment_;
-  HWND form_ = nullptr;
-  HWND editor_ = nullptr;
 };
 
 TEST_F(Notes, WhatIsTypedAndFormattedByKeysIsInTheFile) {
@@ -139,22 +97,14 @@ TEST_F(Notes, WhatIsTypedAndFormattedByKeysIsInTheFile) {
 }
 
 TEST_F(Notes, PanelsFormatAndPutIn) {
-  const std::wstring pictures = root().folder() + L"\\samples\\";
-  // Two pixels, which no codec may change.
-  constexpr char kBmp[] =
-      "BM\x3E\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\2\0\0\0\1\0\0\0\1\0\x18\0\0\0\0\0\x08\0\0\0"
-      "\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\x01\x02\x03\xFD\xFE\xFF\0\0";
-  ASSERT_TRUE(WriteBytes(pictures + L"dots.bmp", {kBmp, 62}));
-  ASSERT_TRUE(WriteBytes(pictures + L"part.rtf", "{\\rtf1 {\\b put} in}"));
-  for (const wchar_t* name : {L"Text-Folder-Loc", L"Picture-Folder-Loc"}) {
-    root().settings().SetText(L"frmNOTwg\\Details", name, pictures);
-  }
+  ChooseAmongSamples();
   Start();
   PressKey(VK_F2);
   EXPECT_SOON(IsShown(Control(form_, lstFONTSIZE)));
   ASSERT_TRUE(Select(Control(form_, lstFONTSIZE), L"20"));
   ASSERT_TRUE(ClickOn(Control(form_, chkBOLD)));
   EXPECT_SOON(FocusedWindow() == editor_);
+  EXPECT_TRUE(IsChecked(Control(form_, chkBOLD)) && !IsChecked(Control(form_, chkITALIC)));
   Type(L"big ");
   PressKey(VK_F4);
   EXPECT_SOON(IsShown(Control(form_, cboRULES)) && !IsShown(Control(form_, chkBOLD)));
@@ -164,10 +114,12 @@ TEST_F(Notes, PanelsFormatAndPutIn) {
   EXPECT_EQ(Text(Control(form_, cboLINCUST)), L"1.1") << "as it reads back";
   PressKey(VK_F11);
   EXPECT_SOON(IsShown(Control(form_, btnINSPICTURE)));
+  ASSERT_SOON(StillPictureOf(Control(form_, imgPREVIEW)).Colours().contains(RGB(3, 2, 1)));
   ASSERT_TRUE(ClickOn(Control(form_, btnINSPICTURE)));
   EXPECT_SOON(FocusedWindow() == editor_);
   PressKey(VK_F9);
   EXPECT_SOON(IsShown(Control(form_, btnTXTINS)));
+  EXPECT_EQ(Text(Control(form_, rtbPREV)), L"put in");
   ASSERT_TRUE(ClickOn(Control(form_, btnTXTINS)));
   Choose(form_, L"mnuNOTESSAVE");
   const std::wstring path = OnlyNote();
