@@ -96,7 +96,7 @@ def write_settings(key, sections, folder):
 def control_number(name):
     """Returns the number of the control of that name."""
     text = (ROOT / "resources/control_ids.h").read_text()
-    return re.search(rf"^#define {name} (\d+)", text, re.MULTILINE)[1]
+    return re.search(rf"^  {name} = (\d+)", text, re.MULTILINE)[1]
 
 
 def bare_window(name, timers):

@@ -97,6 +97,6 @@ int main() {
   if (!program.Start()) return 1;
   HWND weather = WaitForForm(program, L"frmWTHwg");
   if (!weather) return 1;
-  WaitUntil([weather] { return Text(Control(weather, lblTEMPERATURE)) != L"-"; });
+  WaitUntil([weather] { return Text(Control(weather, varnel::lblTEMPERATURE)) != L"-"; });
   Measure(server, weather);
 }

@@ -14,6 +14,14 @@ target_link_libraries(varnel_platform PUBLIC varnel_engines gdi32 advapi32 shell
 target_compile_options(varnel_platform PRIVATE -Wno-array-bounds -Wno-stringop-overread)
 target_precompile_headers(varnel_platform PRIVATE <windows.h> ${VARNEL_STANDARD_HEADERS})
 
+# The resource compiler knows no enumeration.
+file(STRINGS resources/control_ids.h control_ids REGEX "^  [A-Za-z0-9]+ = ")
+list(TRANSFORM control_ids REPLACE "^  ([A-Za-z0-9]+) = ([A-Za-z0-9]+),.*" "#define \\1 \\2")
+list(FILTER control_ids INCLUDE REGEX "^#define ")
+list(JOIN control_ids "\n" control_ids)
+file(CONFIGURE OUTPUT ${VARNEL_ASSETS_DIR}/control_defines.h CONTENT "${control_ids}\n")
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS resources/control_ids.h)
+
 # The resources are a target of their own so that tests can link the same dialogs.
 enable_language(RC)
 string(REPLACE "." "," VARNEL_VERSION_NUMBERS "${PROJECT_VERSION}.0.0.0")
@@ -25,7 +33,7 @@ file(GLOB resource_parts CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/*.rc
      ${PROJECT_SOURCE_DIR}/resources/*.h ${PROJECT_SOURCE_DIR}/resources/*.manifest)
 set_source_files_properties(
   resources/app.rc PROPERTIES OBJECT_DEPENDS
-  "${VARNEL_ASSETS};${VARNEL_ASSETS_DIR}/version.rc;${resource_parts}")
+  "${VARNEL_ASSETS};${VARNEL_ASSETS_DIR}/version.rc;${VARNEL_ASSETS_DIR}/control_defines.h;${resource_parts}")
 
 add_executable(WidgetVarnel WIN32 main.cpp catalogue_win.cpp)
 target_link_libraries(WidgetVarnel PRIVATE varnel_platform varnel_resources)

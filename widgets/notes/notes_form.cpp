@@ -355,7 +355,7 @@ void NotesForm::OnEdited() {
   desk_.NoteChange(::GetTickCount64());
   if (!draft_timer_.enabled()) draft_timer_.Start();
   if (!was_modified) {
-    buttons().Repaint(lablTOOLSINS + kToolSave);
+    RepaintTool(kToolSave);
     if (!desk_.current()) {
       const std::wstring& path = desk_.document().path();
       const std::size_t cut = path.rfind(L'\\');

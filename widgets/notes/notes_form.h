@@ -138,6 +138,7 @@ class NotesForm : public WidgetForm,  // frmNOTwg
   // --- the tool strip and its panels
   static constexpr int kNoPanel = -1;
   void AddTool(int tool);
+  void RepaintTool(int tool);
   static constexpr wchar_t kNoRoom[] =
       L"There is no room for the tools: the widget has to be larger";
   void LoadPanels();

@@ -152,7 +152,7 @@ void NotesForm::ShowNote() {
   if (const NotePanel* open = OpenPanel(); open && !rich && !open->ForPlainText()) {
     OnTool(open_panel_);
   }
-  buttons().Repaint(lablTOOLSINS + kToolSave);
+  RepaintTool(kToolSave);
   ShowList();
   TextStatusRefresh();
   ShowNotice();

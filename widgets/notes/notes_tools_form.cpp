@@ -81,7 +81,7 @@ void NotesForm::ShowPanel(int tool) {
     panel->OnOpened();
     Form_Resize();
     panel->Refresh();
-    for (int i = 0; i < kToolCount; ++i) buttons().Repaint(lablTOOLSINS + i);
+    for (int i = 0; i < kToolCount; ++i) RepaintTool(i);
   }
   if (places_.open_panel.empty()) {
     Tell(kNoRoom);
@@ -96,13 +96,13 @@ void NotesForm::ClosePanel() {
   const bool had_focus = panel->Has(::GetFocus());
   open_panel_ = kNoPanel;
   Form_Resize();
-  for (int i = 0; i < kToolCount; ++i) buttons().Repaint(lablTOOLSINS + i);
+  for (int i = 0; i < kToolCount; ++i) RepaintTool(i);
   if (had_focus) ::SetFocus(editor_.handle());
 }
 
 void NotesForm::ToggleList() {
   list_wanted_ = !list_wanted_;
-  buttons().Repaint(lablTOOLSINS + kToolList);
+  RepaintTool(kToolList);
   Form_Resize();
 }
 
@@ -166,6 +166,10 @@ void NotesForm::OnZoom(int notches) {
 
 void NotesForm::AddTool(int tool) {
   commands().AddTool(lablTOOLSINS + tool, commands().OfTool(tool));
+}
+
+void NotesForm::RepaintTool(int tool) {
+  buttons().Repaint(lablTOOLSINS + tool);
 }
 
 void NotesForm::LoadPanels() {

@@ -61,8 +61,8 @@ void FontsPanel::Refresh() {
   const bool same = now == shown_;
   shown_ = now;
   if (same) return;
-  for (const int id :
-       {chkBOLD, chkITALIC, chkUNDERLINE, picCOLOR, optSCRIPT, optSCRIPT + 1, optSCRIPT + 2}) {
+  for (const int id : std::initializer_list<int>{chkBOLD, chkITALIC, chkUNDERLINE, picCOLOR,
+                                                 optSCRIPT, optSCRIPT + 1, optSCRIPT + 2}) {
     host().PanelButtons().Repaint(id);
   }
   for (int i = 0; i < static_cast<int>(kQuickStyles.size()); ++i) {
