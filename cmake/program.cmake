@@ -8,7 +8,7 @@ target_compile_definitions(varnel_platform PRIVATE
                            VARNEL_VERSION_MAJOR=${PROJECT_VERSION_MAJOR}
                            VARNEL_VERSION_MINOR=${PROJECT_VERSION_MINOR})
 target_link_libraries(varnel_platform PUBLIC varnel_engines gdi32 advapi32 shell32 ole32 oleaut32
-                      comdlg32 comctl32 uuid)
+                      comdlg32 uuid)
 # g++ 12 takes the copy of a short literal for one beyond its bounds, and no longer knows that it is the
 # library's own once that comes from a shared header.
 target_compile_options(varnel_platform PRIVATE -Wno-array-bounds -Wno-stringop-overread)

@@ -68,9 +68,7 @@ void SideList::TakeHeight() {
   UniqueFont font = MakeFont(rows);
   ::SendMessageW(handle_, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), FALSE);
   font_ = std::move(font);
-  HIMAGELIST pictures =
-      look_.row_height > 1 ? ::ImageList_Create(1, look_.row_height - 1, ILC_COLOR, 1, 1) : nullptr;
-  ::ImageList_Destroy(ListView_SetImageList(handle_, pictures, LVSIL_SMALL));
+  ResetPictures(handle_, LVSIL_SMALL, {1, look_.row_height - 1});
 }
 
 int SideList::RowHeight() const {

@@ -1,7 +1,5 @@
 #include "frame/text_buttons_form.h"
 
-#include <commctrl.h>
-
 #include <algorithm>
 #include <utility>
 
@@ -24,6 +22,7 @@ constexpr int kPlainTone = 190;
 
 TextButtons::TextButtons(Window& owner)
     : owner_(owner),
+      hook_([this](const ControlMessage& message) { return Answer(message); }),
       tmrBARBTNS_(owner, kHoverTickMs, [this] { HoverTick(tmrBARBTNS_); }),
       tmrPANBTNS_(owner, kHoverTickMs, [this] { HoverTick(tmrPANBTNS_); }) {}
 
@@ -31,21 +30,18 @@ bool TextButtons::Add(int id, const std::wstring& word, wchar_t glyph, bool on_b
   HWND handle = ::CreateWindowExW(
       0, L"BUTTON", word.c_str(), WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW, 0, 0, 0, 0,
       owner_.handle(), reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
-  if (!handle) return false;
-  ::SetWindowSubclass(handle, Procedure, static_cast<UINT_PTR>(id),
-                      reinterpret_cast<DWORD_PTR>(this));
+  if (!hook_.Attach(handle)) return false;
   buttons_.push_back({id, handle, glyph, on_bar, glyph != 0});
   return true;
 }
 
 // A button that is drawn by its owner keeps no check of its own.
-LRESULT CALLBACK TextButtons::Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam,
-                                        UINT_PTR id, DWORD_PTR self) {
-  const LRESULT result = ::DefSubclassProc(handle, message, wparam, lparam);
-  if (message == WM_NCDESTROY) ::RemoveWindowSubclass(handle, Procedure, id);
-  const auto& check_of = reinterpret_cast<const TextButtons*>(self)->check_of_;
-  if ((message != BM_GETCHECK && message != BM_GETSTATE) || !check_of) return result;
-  const ButtonCheck check = check_of(static_cast<int>(id));
+LRESULT TextButtons::Answer(const ControlMessage& message) const {
+  if (AsksForFrame(message.message)) return 0;
+  const LRESULT result = hook_.PassOn(message);
+  const bool asks = message.message == BM_GETCHECK || message.message == BM_GETSTATE;
+  if (!asks || !check_of_) return result;
+  const ButtonCheck check = check_of_(::GetDlgCtrlID(message.control));
   if (check == ButtonCheck::kOff) return result;
   return result | (check == ButtonCheck::kOn ? BST_CHECKED : BST_INDETERMINATE);
 }

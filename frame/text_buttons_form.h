@@ -10,6 +10,7 @@
 #include "base/geometry.h"
 #include "theme/text_painter_win.h"
 #include "theme/widget_paint.h"
+#include "win/windows/control_hook.h"
 #include "win/windows/timer.h"
 #include "win/windows/tooltip.h"
 #include "win/windows/window.h"
@@ -79,12 +80,12 @@ class TextButtons {
   void Repaint(int id) const;
 
  private:
-  static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam,
-                                    UINT_PTR id, DWORD_PTR self);
+  LRESULT Answer(const ControlMessage& message) const;
   void ShowTooltip(const TextButton& button);
   void HoverTick(Timer& timer);
 
   Window& owner_;
+  ControlHook hook_;
   std::vector<TextButton> buttons_;
   std::function<ButtonCheck(int id)> check_of_;
   int hovered_ = 0;  // the button under the mouse, or 0

@@ -1,6 +1,6 @@
 #include "theme/text_field_win.h"
 
-#include <commctrl.h>
+#include <commctrl.h>  // EM_SETCUEBANNER
 
 #include "base/number_text.h"
 #include "win/windows/window.h"
@@ -29,10 +29,7 @@ bool TextField::Load(HWND parent, int id, const TextFieldKind& kind) {
                               WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_AUTOHSCROLL | style, 0, 0,
                               kFirstWidth, kFirstHeight, parent,
                               reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
-  if (!handle_ || !::SetPropW(handle_, kOwnerProperty, this) ||
-      !::SetWindowSubclass(handle_, Procedure, 1, reinterpret_cast<DWORD_PTR>(this))) {
-    return false;
-  }
+  if (!hook_.Attach(handle_) || !::SetPropW(handle_, kOwnerProperty, this)) return false;
   ::SendMessageW(handle_, EM_LIMITTEXT, static_cast<WPARAM>(kind.most), 0);
   if (kind.hint) {
     ::SendMessageW(handle_, EM_SETCUEBANNER, TRUE, reinterpret_cast<LPARAM>(kind.hint));
@@ -104,18 +101,15 @@ bool TextField::OnChanged() {
   return true;
 }
 
-LRESULT CALLBACK TextField::Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam,
-                                      UINT_PTR id, DWORD_PTR self) {
-  auto* field = reinterpret_cast<TextField*>(self);
-  if (message == WM_NCDESTROY) {
-    ::RemoveWindowSubclass(handle, Procedure, id);
-    ::RemovePropW(handle, kOwnerProperty);
-    field->handle_ = nullptr;
-  } else if (field->kind_.chosen_whole && field->Intercept(message)) {
+LRESULT TextField::Answer(const ControlMessage& message) {
+  if (message.message == WM_NCDESTROY) {
+    ::RemovePropW(handle_, kOwnerProperty);
+    handle_ = nullptr;
+  } else if (kind_.chosen_whole && Intercept(message.message)) {
     return 0;
   }
-  const LRESULT result = ::DefSubclassProc(handle, message, wparam, lparam);
-  if (message == WM_SETFOCUS && field->kind_.chosen_whole) field->SelectAll();
+  const LRESULT result = hook_.PassOn(message);
+  if (message.message == WM_SETFOCUS && kind_.chosen_whole) SelectAll();
   return result;
 }
 

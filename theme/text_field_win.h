@@ -7,6 +7,7 @@
 #include <string>
 
 #include "theme/text_painter_win.h"
+#include "win/windows/control_hook.h"
 
 namespace varnel {
 
@@ -49,14 +50,14 @@ class TextField {
   static std::optional<LRESULT> OnParentMessage(UINT message, WPARAM wparam, LPARAM lparam);
 
  private:
-  static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam,
-                                    UINT_PTR id, DWORD_PTR self);
+  LRESULT Answer(const ControlMessage& message);
   static TextField* FromHandle(HWND handle);
   // True when the message has been dealt with.
   bool Intercept(UINT message);
   // Shows only what the field takes; false when it was the program that changed the text.
   bool OnChanged();
 
+  ControlHook hook_{[this](const ControlMessage& message) { return Answer(message); }};
   HWND handle_ = nullptr;
   TextFieldKind kind_;
   TextStyle style_;

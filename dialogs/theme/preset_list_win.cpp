@@ -5,7 +5,7 @@
 
 #include "base/text.h"
 #include "dialogs/theme/theme_preview_win.h"
-#include "win/system/late_function.h"
+#include "win/windows/common_controls.h"
 
 namespace varnel {
 namespace {
@@ -30,10 +30,7 @@ void PresetList::Attach(HWND list, int dpi) {
   dpi_ = dpi;
   ListView_SetExtendedListViewStyle(list, LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
   // A row is as high as the pictures in it would be.
-  if (auto* create = LateFunction<HIMAGELIST WINAPI(int, int, UINT, int, int)>(
-          L"comctl32.dll", "ImageList_Create")) {
-    ListView_SetImageList(list, create(1, Scaled(kRowHeight, dpi), ILC_COLOR, 0, 1), LVSIL_SMALL);
-  }
+  ResetPictures(list, LVSIL_SMALL, {1, Scaled(kRowHeight, dpi)});
   RECT area = {};
   ::GetClientRect(list, &area);
   int name_width = static_cast<int>(area.right) - ::GetSystemMetrics(SM_CXVSCROLL);

@@ -11,8 +11,8 @@
 #include "resources/control_ids.h"
 #include "win/graphics/pictures.h"
 #include "win/system/handles.h"
-#include "win/system/late_function.h"
 #include "win/system/resource_data.h"
+#include "win/windows/common_controls.h"
 
 namespace varnel {
 namespace {
@@ -61,13 +61,7 @@ void IconPickerDialog::ShowGroup() {
   ::SendMessageW(list, WM_SETREDRAW, FALSE, 0);
   ListView_DeleteAllItems(list);
   shown_.clear();
-  if (auto* create = LateFunction<HIMAGELIST WINAPI(int, int, UINT, int, int)>(
-          L"comctl32.dll", "ImageList_Create")) {
-    HIMAGELIST former =
-        ListView_SetImageList(list, create(side, side, ILC_COLOR32, 0, 8), LVSIL_NORMAL);
-    auto* destroy = LateFunction<BOOL WINAPI(HIMAGELIST)>(L"comctl32.dll", "ImageList_Destroy");
-    if (former && destroy) destroy(former);
-  }
+  ResetPictures(list, LVSIL_NORMAL, {side, side});
   ListView_SetIconSpacing(list, Scaled(kAcross, dpi), Scaled(kDown, dpi));
   const int chosen = TabCtrl_GetCurSel(Control(tabMAIN));
   int tab = -1;
@@ -84,20 +78,17 @@ void IconPickerDialog::ShowGroup() {
 
 void IconPickerDialog::AddPicture(std::size_t picture) {
   HWND list = Control(lvwICONS);
-  HIMAGELIST images = ListView_GetImageList(list, LVSIL_NORMAL);
   const int side = Scaled(kIconSide, static_cast<int>(::GetDpiForWindow(handle())));
   const Image drawn = Resampled(
       OnGround(DecodePicture(pictures_[picture].large).image, ::GetSysColor(COLOR_WINDOW)),
       {side, side});
   const UniqueBitmap bitmap = BitmapOf(drawn);
-  auto* add =
-      LateFunction<int WINAPI(HIMAGELIST, HBITMAP, HBITMAP)>(L"comctl32.dll", "ImageList_Add");
   std::wstring name = WideFromUtf8(pictures_[picture].name);
   LVITEMW item = {};
   item.mask = LVIF_TEXT | LVIF_IMAGE;
   item.iItem = static_cast<int>(shown_.size());
   item.pszText = name.data();
-  item.iImage = add ? add(images, bitmap.get(), nullptr) : -1;
+  item.iImage = varnel::AddPicture(list, LVSIL_NORMAL, bitmap.get());
   ::SendMessageW(list, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
   shown_.push_back(picture);
 }

@@ -1,6 +1,5 @@
 #include "win/rich/rich_edit.h"
 
-#include <commctrl.h>
 #include <commdlg.h>
 #include <shellapi.h>
 
@@ -85,9 +84,7 @@ bool RichEdit::Create(HWND parent, int id, DWORD style, const CharacterFormat& f
       0, MSFTEDIT_CLASS, L"",
       WS_CHILD | ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN | ES_NOHIDESEL | style, 0, 0, 0, 0,
       parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
-  if (!handle_ || !::SetWindowSubclass(handle_, Procedure, 1, reinterpret_cast<DWORD_PTR>(this))) {
-    return false;
-  }
+  if (!hook_.Attach(handle_)) return false;
   Send(EM_EXLIMITTEXT, 0, kNoLimit);
   Send(EM_SETUNDOLIMIT, static_cast<WPARAM>(undo_steps));
   // The control's own first format is a bold system font on some systems.
@@ -133,16 +130,13 @@ void RichEdit::KeepUndoSafe() {
   pictures_seen_ = pictures;
 }
 
-LRESULT CALLBACK RichEdit::Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam,
-                                     UINT_PTR id, DWORD_PTR self) {
-  auto* edit = reinterpret_cast<RichEdit*>(self);
-  if (message == WM_NCDESTROY) {
-    ::RemoveWindowSubclass(handle, Procedure, id);
-    edit->handle_ = nullptr;
-  } else if (edit->Intercept(message, wparam)) {
+LRESULT RichEdit::Answer(const ControlMessage& message) {
+  if (message.message == WM_NCDESTROY) {
+    handle_ = nullptr;
+  } else if (Intercept(message.message, message.wparam)) {
     return 0;
   }
-  return ::DefSubclassProc(handle, message, wparam, lparam);
+  return hook_.PassOn(message);
 }
 
 // True when the message is not for the control.

@@ -15,6 +15,7 @@
 #include "win/rich/rich_formats.h"
 #include "win/rich/rich_guard.h"
 #include "win/rich/rich_picture.h"
+#include "win/windows/control_hook.h"
 
 namespace varnel {
 
@@ -162,8 +163,7 @@ class RichEdit {
   };
 
  private:
-  static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam,
-                                    UINT_PTR, DWORD_PTR self);
+  LRESULT Answer(const ControlMessage& message);
   void KeepUndoSafe();
   bool Intercept(UINT message, WPARAM wparam);
   bool OnKey(WPARAM key);
@@ -184,6 +184,7 @@ class RichEdit {
   ComPointer<IRichEditOle> Ole() const;
 
   Events events_;
+  ControlHook hook_{[this](const ControlMessage& message) { return Answer(message); }};
   HWND handle_ = nullptr;
   int quiet_ = 0;
   int caret_ = 0;  // where it was seen last

@@ -60,7 +60,8 @@ void Window::Destroy() {
 }
 
 LRESULT Window::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
-  return message == WM_CLOSE ? 0 : ::DefWindowProcW(handle_, message, wparam, lparam);
+  if (message == WM_CLOSE || AsksForFrame(message)) return 0;
+  return ::DefWindowProcW(handle_, message, wparam, lparam);
 }
 
 LRESULT CALLBACK Window::Procedure(HWND handle, UINT message, WPARAM wparam, LPARAM lparam) {

@@ -89,6 +89,12 @@ class Window {
   std::vector<Timer*> timers_;
 };
 
+// Whether a message is about the frame of a window. One that has none answers 0: the system would
+// look up everything that frames are drawn with before it finds that there is nothing to draw.
+inline bool AsksForFrame(UINT message) {
+  return message == WM_NCCALCSIZE || message == WM_NCPAINT;
+}
+
 // Registers a window class with the program's icon on first use; false when the system refuses.
 // `extra` is the bytes that `procedure` wants kept for each window.
 bool EnsureClass(Ui& ui, const wchar_t* name, WNDPROC procedure, int extra = 0);
