@@ -13,8 +13,8 @@ constexpr int kMorePictures = 8;  // room is made for so many at a time
 }  // namespace
 
 bool LoadCommonControls(DWORD classes) {
-  auto* load = LateFunction<BOOL WINAPI(const INITCOMMONCONTROLSEX*)>(kLibrary,
-                                                                      "InitCommonControlsEx");
+  auto* load =
+      LateFunction<BOOL WINAPI(const INITCOMMONCONTROLSEX*)>(kLibrary, "InitCommonControlsEx");
   const INITCOMMONCONTROLSEX request{sizeof request, classes};
   return load && load(&request);
 }

@@ -12,8 +12,8 @@ namespace varnel {
 bool LoadCommonControls(DWORD classes);
 
 // Gives a list view an empty set of pictures (`set`: LVSIL_NORMAL or LVSIL_SMALL) of that size in
-// place of the one it had; an empty size leaves it without. Rows are one pixel higher than the small
-// pictures, be there any or not.
+// place of the one it had; an empty size leaves it without. Rows are one pixel higher than the
+// small pictures, be there any or not.
 void ResetPictures(HWND list_view, int set, Size size);
 
 // Adds a copy of a bitmap to a set of pictures; returns its number there, or -1.
