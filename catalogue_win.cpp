@@ -33,7 +33,7 @@ namespace {
 void AddProgram(Catalogue& catalogue) {
   catalogue.AddDialog<OptionsDialog>(L"frmVRNpr");
   catalogue.AddDialog<ThemeDialog>(L"frmTHEME");
-  catalogue.AddDialog<PreviewDialog>(L"frmNOTpp", catalogue.SharedService<PrintDesk>());
+  catalogue.AddDialog<PreviewDialog>(L"frmNOTpp", catalogue.printing());
 }
 
 void AddTime(Catalogue& catalogue) {
@@ -56,14 +56,13 @@ void AddWeather(Catalogue& catalogue) {
 }
 
 void AddBoards(Catalogue& catalogue) {
-  auto& printing = catalogue.SharedService<PrintDesk>();
   auto& whiteboard = catalogue.AddService<BoardLink>();
-  catalogue.AddWidget<WhiteboardForm>(6, whiteboard, printing);
+  catalogue.AddWidget<WhiteboardForm>(6, whiteboard, catalogue.printing());
   catalogue.AddDialog<WhiteboardTextDialog>(L"frmWBDit", whiteboard);
   catalogue.AddDialog<WhiteboardFolderDialog>(L"frmWBDpr", whiteboard);
   catalogue.AddDialog<WhiteboardVersionsDialog>(L"frmWBDvr", whiteboard);
   auto& calendar = catalogue.AddService<CalendarLink>();
-  catalogue.AddWidget<CalendarForm>(2, calendar, printing);
+  catalogue.AddWidget<CalendarForm>(2, calendar, catalogue.printing());
   catalogue.AddDialog<CalendarTextDialog>(L"frmCALit", calendar);
   catalogue.AddDialog<IconPickerDialog>(L"frmCALip", calendar);
   catalogue.AddDialog<CalendarFolderDialog>(L"frmCALpr", calendar);
@@ -76,7 +75,7 @@ void AddNotes(Catalogue& catalogue) {
   auto& notes = catalogue.AddService<NotesLink>();
   catalogue.AddFolder(kNotesFolder);
   auto& spelling = catalogue.AddService<SpellService>();
-  catalogue.AddWidget<NotesForm>(3, notes, spelling, catalogue.SharedService<PrintDesk>());
+  catalogue.AddWidget<NotesForm>(3, notes, spelling, catalogue.printing());
   catalogue.AddDialog<NotesDialog>(L"frmNOTpr", notes);
   catalogue.AddDialog<NoteVersionsDialog>(L"frmNOTvr", notes);
 }

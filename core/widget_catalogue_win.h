@@ -11,6 +11,7 @@
 #include "core/widget_index.h"
 #include "frame/data_folder.h"
 #include "frame/family_service.h"
+#include "frame/pages/print_desk_win.h"
 #include "frame/services.h"
 #include "frame/widget_form.h"
 #include "win/windows/dialog.h"
@@ -30,7 +31,8 @@ struct CatalogueDialog {
 class Catalogue {
  public:
   // `services` outlive the catalogue and all that it makes.
-  explicit Catalogue(Services& services) : services_(services) {}
+  explicit Catalogue(Services& services)
+      : services_(services), printing_(AddService<PrintDesk>()) {}
   Catalogue(const Catalogue&) = delete;
   Catalogue& operator=(const Catalogue&) = delete;
 
@@ -43,14 +45,8 @@ class Catalogue {
     return made;
   }
 
-  // The same for one that several families use: there is one of its kind, made for the first.
-  template <class Service>
-  Service& SharedService() {
-    for (const auto& service : family_services_) {
-      if (auto* made = dynamic_cast<Service*>(service.get())) return *made;
-    }
-    return AddService<Service>();
-  }
+  // What every family with pages prints through.
+  PrintDesk& printing() const { return printing_; }
 
   // Says how the widget of that number (of the widget table), or the dialog of that name, is made
   // when it is wanted. `family` are the family services that its constructor takes at its end.
@@ -80,6 +76,7 @@ class Catalogue {
  private:
   Services& services_;
   std::vector<std::unique_ptr<FamilyService>> family_services_;
+  PrintDesk& printing_;
   std::vector<CatalogueWidget> widgets_;
   std::vector<CatalogueDialog> dialogs_;
   std::vector<FolderSetting> folders_;
