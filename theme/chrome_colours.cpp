@@ -4,7 +4,7 @@
 
 namespace varnel {
 
-ChromeColours ApplyChrome(ThemeRecord& theme, const SystemColours& system) {
+ChromeColours DeriveChrome(ThemeRecord& theme, const SystemColours& system) {
   constexpr int kBarBase = 145;
   constexpr int kBorderWeight = 205;
   DeriveOnChrome(theme, system);

@@ -22,7 +22,7 @@ struct ChromeColours {
 };
 
 // Derives the theme's two colours anew (DeriveOnChrome) and computes the chrome from them.
-ChromeColours ApplyChrome(ThemeRecord& theme, const SystemColours& system);
+ChromeColours DeriveChrome(ThemeRecord& theme, const SystemColours& system);
 
 enum class ButtonLook { kNormal, kHover, kPressed };
 

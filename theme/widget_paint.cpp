@@ -18,7 +18,7 @@ constexpr ColourPair kClosePressed{0x1622A0, 0x1622A0};
 }  // namespace
 
 WidgetPaint WidgetPaintOf(ThemeRecord& theme, bool high_contrast, const SystemColours& system) {
-  const ChromeColours chrome = ApplyChrome(theme, system);
+  const ChromeColours chrome = DeriveChrome(theme, system);
   WidgetPaint paint{theme, chrome, high_contrast};
   ThemeRecord& painted = paint.theme;
   painted.lngTHEMECOLOR = Translate(theme.lngTHEMECOLOR, system);

@@ -15,7 +15,7 @@ struct WidgetPaint {
   bool readable = true;  // texts may be written in ink or with a halo
 };
 
-// Derives the colours of `theme` anew (ApplyChrome). With `high_contrast` everything has the
+// Derives the colours of `theme` anew (DeriveChrome). With `high_contrast` everything has the
 // system's window colours instead of the theme's and is opaque; the fonts stay.
 WidgetPaint WidgetPaintOf(ThemeRecord& theme, bool high_contrast, const SystemColours& system);
 

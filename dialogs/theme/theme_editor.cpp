@@ -53,7 +53,7 @@ std::wstring NumberLabel(const ThemeRecord& theme, int number) {
 
 Readability ReadabilityOf(const ThemeRecord& theme, const SystemColours& system) {
   ThemeRecord painted = theme;
-  const ChromeColours chrome = ApplyChrome(painted, system);
+  const ChromeColours chrome = DeriveChrome(painted, system);
   return {ContrastRatio(Translate(theme.lngTHEMEBARFONTCOLOR, system), chrome.bar.first),
           ContrastRatio(Translate(theme.lngTHEMEPANELFONTCOLOR, system), chrome.ground)};
 }

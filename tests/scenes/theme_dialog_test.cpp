@@ -79,7 +79,7 @@ Colour GroundOf(Colour colour, int contrast) {
   ThemeRecord theme;
   theme.lngTHEMECOLOR = colour;
   theme.lngTHEMECONTRAST = contrast;
-  return ApplyChrome(theme, UserSystemColours()).ground;
+  return DeriveChrome(theme, UserSystemColours()).ground;
 }
 
 TEST_F(ThemeDialogScene, ChangesShowAtOnceAndGoWhenClosed) {

@@ -57,7 +57,7 @@ void WeatherService::WeatherDataGet() {
     failure_.clear();
   }
   if (live_data_) ReadLiveAnswer();
-  DataFileRead();
+  ReadLabels();
   if (!fetching_ && !(live_source() && AnswerIsFresh())) Fetch();
 }
 
@@ -129,7 +129,7 @@ void WeatherService::TakeResponse(const std::string& bytes, bool live) {
     updated_ = services_.clock.Now();
     fetching_ = false;
     failure_.clear();
-    DataFileRead();
+    ReadLabels();
   } else {
     Fail(std::wstring(complaint));
   }
@@ -144,9 +144,8 @@ void WeatherService::Fail(std::wstring reason) {
   ShowOnWidget();
 }
 
-void WeatherService::DataFileRead() {
-  if (auto labels =
-          varnel::DataFileRead(txtDATA_, ReadFlag(services_.settings, kTempSelected), data_)) {
+void WeatherService::ReadLabels() {
+  if (auto labels = DataFileRead(txtDATA_, ReadFlag(services_.settings, kTempSelected), data_)) {
     labels_ = *std::move(labels);
   }
   ShowOnWidget();

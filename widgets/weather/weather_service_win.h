@@ -30,7 +30,7 @@ class WeatherService : public FamilyService {
   // called now and then.
   void KeepUpToDate();
   // Reads the stored response again.
-  void DataFileRead();
+  void ReadLabels();
 
   // What the widget is to show; the forecast is empty and the temperature "-" while nothing is
   // known.

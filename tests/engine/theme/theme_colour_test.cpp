@@ -77,7 +77,7 @@ TEST(Theme, DerivedColoursOfTheDefault) {
   DeriveOnLoad(theme, kSystem);
   EXPECT_EQ(theme.lngTHEMECOLORPANEL, Rgb(122, 164, 247));
   EXPECT_EQ(theme.lngTHEMECOLORSUBTLE, Rgb(157, 187, 247));  // of 1, 79, 235 with weight 98
-  const ChromeColours chrome = ApplyChrome(theme, kSystem);
+  const ChromeColours chrome = DeriveChrome(theme, kSystem);
   EXPECT_EQ(theme.lngTHEMECOLORSUBTLE, Rgb(144, 176, 239));  // of 4, 76, 219 with weight 113
   EXPECT_EQ(theme.lngTHEMECOLORPANEL, Rgb(122, 164, 247));
   EXPECT_EQ(chrome.ground, theme.lngTHEMECOLORPANEL);
@@ -91,7 +91,7 @@ TEST(Chrome, TheBarTurnsWhiteFromContrast145On) {
   for (const std::int32_t contrast : {145, 146, 255, std::numeric_limits<std::int32_t>::max()}) {
     ThemeRecord theme;
     theme.lngTHEMECONTRAST = contrast;
-    EXPECT_EQ(ApplyChrome(theme, kSystem).bar, (ColourPair{kWhite, kWhite})) << contrast;
+    EXPECT_EQ(DeriveChrome(theme, kSystem).bar, (ColourPair{kWhite, kWhite})) << contrast;
   }
 }
 
