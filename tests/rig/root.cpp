@@ -9,6 +9,8 @@ namespace {
 
 // Where nobody answers.
 constexpr wchar_t kNowhere[] = L"http://127.0.0.1:9/";
+// What all programs of the machine share: which of them run when a user logs on.
+constexpr wchar_t kAtLogon[] = L"Software\\Microsoft\\Windows\\CurrentVersion\\Run";
 
 std::wstring UniqueTitle() {
   LARGE_INTEGER ticks = {};
@@ -31,6 +33,12 @@ Root::Root()
 Root::~Root() {
   settings_.RemoveAll();
   RemoveAll(folder_);
+  for (HKEY hive : {HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER}) {
+    const Registry at_logon(hive, kAtLogon);
+    for (const std::wstring& name : at_logon.ValueNames(L"")) {
+      if (name.find(title_) != std::wstring::npos) at_logon.RemoveValue(L"", name);
+    }
+  }
 }
 
 std::wstring Root::Arguments() const {

@@ -16,7 +16,8 @@ class Root {
   Root();
   Root(const Root&) = delete;
   Root& operator=(const Root&) = delete;
-  // Removes settings and folder; programs that use them must have ended.
+  // Removes settings, folder, and what was registered under the root's name to run at logon; the
+  // programs that used them must have ended.
   ~Root();
 
   // The settings, as sections below the root key.
