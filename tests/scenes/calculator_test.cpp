@@ -7,9 +7,9 @@
 #include <algorithm>
 
 #include "resources/control_ids.h"
+#include "tests/rig/clipboard.h"
 #include "tests/rig/scene.h"
 #include "tests/support/cases.h"
-#include "win/system/clipboard.h"
 
 namespace varnel {
 namespace {
@@ -154,18 +154,17 @@ TEST_F(Calculator, CopiesAndPastes) {
                                                              {L"\u2212 12 345", L"-12345"},
                                                              {L"no number", L"-12345"},
                                                              {L"", L"-12345"}};
-  HWND owner =
-      ::CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
+  const Clipboard clipboard;
   // By a click, and not by Activate: right after that a modifier may go unnoticed here.
   Press({lblCLEAR});
   for (const auto& [pasted, shown] : cases) {
-    ASSERT_TRUE(CopyText(owner, pasted));
+    ASSERT_TRUE(clipboard.Put({pasted}));
     Chord({VK_CONTROL, 'V'});
     EXPECT_SOON_EQ(Shown(), shown);
   }
   const auto copied = [&](std::wstring_view expected) {
     Chord({VK_CONTROL, 'C'});
-    return WaitFor([&] { return PastedText(owner, 1000); }, std::wstring(expected));
+    return WaitFor([&] { return clipboard.Text(); }, std::wstring(expected));
   };
   EXPECT_EQ(copied(L"-12345"), L"-12345");
   ClickLine(1);
@@ -173,7 +172,6 @@ TEST_F(Calculator, CopiesAndPastes) {
   Chord({VK_CONTROL, 'A'});
   const std::wstring all = L"12 / 5 = 2.4\r\n7 * 3 = 21.0\r\n1 / 3 = 0.333";
   EXPECT_EQ(copied(all), all);
-  ::DestroyWindow(owner);
 }
 
 TEST_F(Calculator, RecallsByClickAndByKey) {

@@ -4,6 +4,7 @@
 
 #include <commctrl.h>
 
+#include "tests/rig/clipboard.h"
 #include "tests/scenes/notes_scene.h"
 #include "win/graphics/pictures.h"
 
@@ -94,6 +95,31 @@ TEST_F(Notes, WhatIsTypedAndFormattedByKeysIsInTheFile) {
   EXPECT_EQ(spaced.first + spaced.left, 720);
   EXPECT_EQ(spaced.line_rule, LineRule::kMultiple);
   EXPECT_EQ(spaced.line_spacing, 23);
+}
+
+TEST_F(Notes, WhatOtherProgramsCopiedIsPastedAndGivenBack) {
+  Start();
+  const Clipboard clipboard;
+  ASSERT_TRUE(clipboard.Put(
+      {L"seen aloud", R"({\rtf1{\colortbl;\red9\green8\blue200;}{\b seen} {\cf1 aloud}})"}));
+  Chord({VK_CONTROL, 'V'});
+  EXPECT_SOON_EQ(Content(), L"seen aloud");
+  Chord({VK_CONTROL, VK_SPACE});
+  Type(L" ");
+  Chord({VK_CONTROL, VK_SHIFT, 'V'});
+  EXPECT_SOON_EQ(Content(), L"seen aloud seen aloud");
+  Chord({VK_CONTROL, 'A'});
+  Chord({VK_CONTROL, 'C'});
+  EXPECT_SOON(clipboard.Text() == L"seen aloud seen aloud");
+  const RtfDocument given = ReadRtf(clipboard.Rtf()).document;
+  Chord({VK_CONTROL, 'S'});
+  const RtfDocument saved = Saved(OnlyNote());
+  for (const RtfDocument* note : {&given, &saved}) {
+    EXPECT_EQ(note->text, L"seen aloud seen aloud");
+    EXPECT_TRUE(FormatAt(*note, L"seen").bold);
+    EXPECT_FALSE(FormatAt(*note, L"aloud").bold);
+    EXPECT_NE(FormatAt(*note, L"aloud").colour, FormatAt(*note, L"seen").colour);
+  }
 }
 
 TEST_F(Notes, PanelsFormatAndPutIn) {

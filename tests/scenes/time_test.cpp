@@ -5,9 +5,9 @@
 
 #include "base/number_text.h"
 #include "resources/control_ids.h"
+#include "tests/rig/clipboard.h"
 #include "tests/rig/scene.h"
 #include "win/files/disk_files.h"
-#include "win/system/clipboard.h"
 
 namespace varnel {
 namespace {
@@ -205,7 +205,7 @@ TEST_F(Time, StopwatchStartLapsePauseResumeReset) {
   ASSERT_SOON(Text(right) == L" Reset ");
   const std::wstring paused = shown();
   Chord({VK_CONTROL, 'C'});
-  EXPECT_SOON_EQ(PastedText(nullptr, 100), paused);
+  EXPECT_SOON_EQ(Clipboard().Text(), paused);
   ASSERT_TRUE(ClickOn(right));
   EXPECT_SOON_EQ(shown(), L"00:00.00");
   EXPECT_EQ(Text(right), L" Stop ");

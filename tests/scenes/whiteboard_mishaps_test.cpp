@@ -5,9 +5,9 @@
 #include <cstring>
 #include <random>
 
+#include "tests/rig/clipboard.h"
 #include "tests/rig/remote.h"
 #include "tests/scenes/whiteboard_scene.h"
-#include "win/system/clipboard.h"
 #include "win/system/com.h"
 
 namespace varnel {
@@ -111,9 +111,8 @@ TEST_F(WhiteboardMishaps, ALargeBoardScrollsAndIsDrawnOnWhereItIsShown) {
 TEST_F(WhiteboardMishaps, PicturesAndTextComeFromOutside) {
   Start();
   const ComApartment apartment;
-  HWND owner = ::CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr,
-                                 nullptr);
-  ASSERT_TRUE(CopyContent(owner, {{}, {}, Image(30, 20, PixelOf(4))}));
+  const Clipboard clipboard;
+  ASSERT_TRUE(clipboard.Put({{}, {}, Image(30, 20, PixelOf(4))}));
   Chord({VK_CONTROL, 'V'});
   MoveMouse(OnScreen({101, 101}));
   MoveMouse(OnScreen({100, 100}));
@@ -139,8 +138,7 @@ TEST_F(WhiteboardMishaps, PicturesAndTextComeFromOutside) {
   EXPECT_EQ(std::ranges::count(board.All(), PixelOf(5)), 25 * 10);
 
   Chord({VK_CONTROL, 'C'});
-  EXPECT_SOON(PastedPicture(owner) == board);
-  ::DestroyWindow(owner);
+  EXPECT_SOON(clipboard.Picture() == board);
 }
 
 TEST_F(WhiteboardMishaps, TheSessionEndsInTheMiddleOfAStroke) {
