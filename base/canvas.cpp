@@ -92,9 +92,10 @@ void Canvas::KeepStroke() {
   std::vector<CanvasTile> tiles;
   tiles.reserve(stroke_.size());
   for (std::size_t i = 0; i < stroke_.size(); ++i) {
-    const Rect& area = stroke_[i];
+    const auto& [area, touched] = stroke_[i];
     stroke_index_[IndexAt(area.left / kTile, area.top / kTile)] = 0;
-    tiles.emplace_back(area, before_.data() + i * kTilePixels, kTile);
+    const std::size_t first = At((touched.top - area.top) * kTile + touched.left - area.left);
+    tiles.emplace_back(touched, before_.data() + i * kTilePixels + first, kTile);
   }
   stroke_.clear();
   before_.clear();
@@ -129,8 +130,11 @@ Rect Canvas::DrawSegment(PointF from, PointF to) {
   const Capsule capsule(from, to, pen_tip_);
   const Rect changed = Intersection(capsule.bounds(), Whole());
   for (int down = changed.top / kTile; down * kTile < changed.bottom; ++down) {
+    const int top = std::max(changed.top, down * kTile);
+    Capsule::RowReach rows;
+    capsule.ReachInRows(top, std::min(changed.bottom, (down + 1) * kTile) - top, rows);
     for (int across = changed.left / kTile; across * kTile < changed.right; ++across) {
-      DrawInTile(capsule, across, down);
+      DrawInTile(capsule, rows, across, down);
     }
   }
   return changed;
@@ -147,7 +151,7 @@ std::size_t Canvas::TileOfStroke(int across, int down) {
       before_.insert(before_.end(), row, row + width);
       before_.insert(before_.end(), At(kTile) - width, 0);
     }
-    stroke_.push_back(area);
+    stroke_.push_back({area, {}});
     index = static_cast<int>(stroke_.size());
     before_.resize(stroke_.size() * kTilePixels);
     covered_.resize(stroke_.size() * kTilePixels);
@@ -155,12 +159,14 @@ std::size_t Canvas::TileOfStroke(int across, int down) {
   return At(index - 1);
 }
 
-void Canvas::DrawInTile(const Capsule& capsule, int across, int down) {
+void Canvas::DrawInTile(const Capsule& capsule, const Capsule::RowReach& rows, int across,
+                        int down) {
   const Rect part = Intersection(TileArea(across, down), capsule.bounds());
   const Point corner{across * kTile, down * kTile};
   Capsule::SquareReach reach;
-  if (part.empty() || !capsule.Reach(corner, part, reach)) return;
+  if (part.empty() || !capsule.Reach(corner, part, rows, reach)) return;
   const std::size_t tile = TileOfStroke(across, down);
+  stroke_[tile].touched = Union(stroke_[tile].touched, part);
   capsule.Raise(corner, part, reach,
                 std::span<std::uint8_t, kTilePixels>(&covered_[tile * kTilePixels], kTilePixels));
   for (int y = part.top; y < part.bottom; ++y) {
@@ -172,7 +178,7 @@ void Canvas::DrawInTile(const Capsule& capsule, int across, int down) {
 // The columns count from the tile's left.
 inline void Canvas::MixRow(std::size_t tile, int y, int left, int right) {
   constexpr int kGroup = Capsule::kLanes;
-  const Rect& area = stroke_[tile];
+  const Rect& area = stroke_[tile].area;
   const int width = area.width();
   const std::size_t row = tile * kTilePixels + At((y - area.top) * kTile);
   const std::uint8_t* const covered = covered_.data() + row;

@@ -66,7 +66,7 @@ class Canvas {
   Rect TileArea(int across, int down) const;
   std::vector<CanvasTile> TilesOf(const Rect& area) const;
   std::size_t TileOfStroke(int across, int down);
-  void DrawInTile(const Capsule& capsule, int across, int down);
+  void DrawInTile(const Capsule& capsule, const Capsule::RowReach& rows, int across, int down);
   void MixRow(std::size_t tile, int y, int left, int right);
   void KeepStroke();
 
@@ -76,10 +76,14 @@ class Canvas {
   bool drawing_ = false;
   std::uint32_t pen_pixel_ = 0;
   PenTip pen_tip_;
-  // The parts of the picture that the stroke has come to, and of each a whole tile of pixels: as
-  // they were then, and what the stroke covers of them. Kept from stroke to stroke, as memory is
-  // slow to be had.
-  std::vector<Rect> stroke_;
+  // The tiles of the picture that the stroke has come to, and of each all pixels: as they were
+  // then, and what the stroke covers of them. Kept from stroke to stroke, as memory is slow to be
+  // had.
+  struct StrokeTile {
+    Rect area;
+    Rect touched;  // what of it the stroke may have changed
+  };
+  std::vector<StrokeTile> stroke_;
   std::vector<std::uint32_t> before_;
   std::vector<std::uint8_t> covered_;
   std::vector<int> stroke_index_;  // of each tile of the largest picture; 0: not come to yet, else

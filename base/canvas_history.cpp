@@ -24,11 +24,12 @@ CanvasTile::CanvasTile(const Rect& area, const std::uint32_t* pixels, std::size_
   const auto width = static_cast<std::size_t>(area.width());
   const auto height = static_cast<std::size_t>(area.height());
   const auto row = [=](std::size_t y) { return std::span(pixels + y * stride, width); };
-  bool plain = true;
-  for (std::size_t y = 0; y < height && plain; ++y) {
-    plain = std::ranges::all_of(row(y), [=](std::uint32_t pixel) { return pixel == *pixels; });
+  std::uint32_t differences = 0;
+  for (std::size_t y = 0; y < height && differences == 0; ++y) {
+    // A whole row without a look in between, which is several pixels at once.
+    for (const std::uint32_t pixel : row(y)) differences |= pixel ^ *pixels;
   }
-  if (plain) {
+  if (differences == 0) {
     pixels_.assign(1, *pixels);
     return;
   }

@@ -100,32 +100,38 @@ inline Capsule::Extent Capsule::ColumnsWithin(Lanes row, float radius) const {
   return {-FloorOf(to_centre - extent.left), FloorOf(extent.right - to_centre) + AllOf(1)};
 }
 
-bool Capsule::Reach(Point corner, const Rect& part, SquareReach& reach) const {
-  const Lanes part_left = AllOf(static_cast<float>(part.left - base_.x));
-  const Lanes part_right = AllOf(static_cast<float>(part.right - base_.x));
-  const Lanes to_corner = AllOf(static_cast<float>(base_.x - corner.x));
+void Capsule::ReachInRows(int top, int rows, RowReach& reach) const {
   const bool wide = inner_ >= kWideInside;
+  for (int i = 0; i < rows; i += kLanes) {
+    const Lanes row =
+        CountFrom(static_cast<float>(top + i - base_.y) + to_centre_y_) * AllOf(stretch_);
+    const Extent outer = ColumnsWithin(row, outer_);
+    const Extent inner = wide ? ColumnsWithin(row, inner_) : Extent{outer.right, outer.right};
+    Store(reach.left.data() + i, outer.left);
+    Store(reach.right.data() + i, outer.right);
+    Store(reach.whole_left.data() + i, inner.left);
+    Store(reach.whole_right.data() + i, inner.right);
+  }
+}
+
+bool Capsule::Reach(Point corner, const Rect& part, const RowReach& rows,
+                    SquareReach& reach) const {
+  const Lanes to_corner = AllOf(static_cast<float>(base_.x - corner.x));
+  const Lanes part_left = AllOf(static_cast<float>(part.left - corner.x));
+  const Lanes part_right = AllOf(static_cast<float>(part.right - corner.x));
   Lanes any = AllOf(0);
   for (int i = 0; i < part.height(); i += kLanes) {
-    const Lanes row =
-        CountFrom(static_cast<float>(part.top + i - base_.y) + to_centre_y_) * AllOf(stretch_);
-    const auto put = [&](SquareReach::Columns& columns, Lanes places) {
-      StoreWhole(columns.data() + i, places + to_corner);
+    const auto columns = [&](const RowReach::Columns& from, Lanes least, Lanes most) {
+      return Least(Most(Load(from.data() + i) + to_corner, least), most);
     };
-    const Extent outer = ColumnsWithin(row, outer_);
-    const Lanes left = Least(Most(outer.left, part_left), part_right);
-    const Lanes right = Least(Most(outer.right, left), part_right);
-    Lanes whole_left = right, whole_right = right;
-    if (wide) {
-      const Extent inner = ColumnsWithin(row, inner_);
-      whole_right = Least(Most(inner.right, left), right);
-      whole_left = WhereAtMost(inner.right, inner.left, whole_right, Most(inner.left, left));
-      whole_left = Least(whole_left, whole_right);
-    }
-    put(reach.left, left);
-    put(reach.right, right);
-    put(reach.whole_left, whole_left);
-    put(reach.whole_right, whole_right);
+    const Lanes left = columns(rows.left, part_left, part_right);
+    const Lanes right = columns(rows.right, left, part_right);
+    const Lanes whole_right = columns(rows.whole_right, left, right);
+    const Lanes whole_left = columns(rows.whole_left, left, whole_right);
+    StoreWhole(reach.left.data() + i, left);
+    StoreWhole(reach.right.data() + i, right);
+    StoreWhole(reach.whole_left.data() + i, whole_left);
+    StoreWhole(reach.whole_right.data() + i, whole_right);
     any = Most(any, right - left);
   }
   return AnyAbove(any, 0);
@@ -215,9 +221,11 @@ void Capsule::Raise(Point corner, const Rect& part, const SquareReach& reach,
 std::uint8_t Capsule::CoverageAt(int x, int y) const {
   std::array<std::uint8_t, kSquare * kSquare> covered{};
   const Rect part = RectAt({x, y}, {1, 1});
+  if (Intersection(part, bounds_).empty()) return 0;
+  RowReach rows;
   SquareReach reach;
-  if (Intersection(part, bounds_).empty() || !Reach({x, y}, part, reach)) return 0;
-  Raise({x, y}, part, reach, covered);
+  ReachInRows(y, 1, rows);
+  if (Reach({x, y}, part, rows, reach)) Raise({x, y}, part, reach, covered);
   return covered[0];
 }
 

@@ -33,16 +33,26 @@ class Capsule {
   static constexpr int kSquare = 32;  // a side of the squares that are drawn at once, in pixels
   static constexpr int kLanes = 4;    // pixels that are computed together
 
-  // Of each row of a part of a square, from the part's top: the columns that may be covered and,
-  // among them, those that are for sure covered wholly, each with the column just outside. None of
-  // them when the two are the same. Columns count from the square's left.
+  // Of each of up to kSquare rows: the columns that may be covered and, among them, those that are
+  // for sure covered wholly, each with the column just outside; none of them where the first is not
+  // less than the second. Whole numbers, which only Reach knows how to read.
+  struct RowReach {
+    using Columns = std::array<float, kSquare>;
+    alignas(16) Columns left, right, whole_left, whole_right;
+  };
+  // What is reached in `rows` rows, 1 to kSquare, from the row `top` on.
+  void ReachInRows(int top, int rows, RowReach& reach) const;
+
+  // The same in a part of a square, from the part's top. Columns count from the square's left, and
+  // the first never exceeds the second.
   struct SquareReach {
     using Columns = std::array<int, kSquare>;
     alignas(16) Columns left, right, whole_left, whole_right;
   };
-  // What is reached of `part`, which lies in the square at `corner`; rows below its bottom count
-  // for nothing. False when that is nothing.
-  bool Reach(Point corner, const Rect& part, SquareReach& reach) const;
+  // What is reached of `part`, which lies in the square at `corner` and begins with the first row
+  // that `rows` tells of; rows below its bottom count for nothing. False when that is nothing.
+  bool Reach(Point corner, const Rect& part, const RowReach& rows, SquareReach& reach) const;
+
   // Raises how much each pixel of the square is covered, from 0 nothing to 255 all, to what this
   // covers of it.
   void Raise(Point corner, const Rect& part, const SquareReach& reach,

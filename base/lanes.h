@@ -47,6 +47,13 @@ inline Lanes FloorOf(Lanes numbers) {
   const Lanes cut = _mm_cvtepi32_ps(_mm_cvttps_epi32(numbers));
   return cut - _mm_and_ps(_mm_cmpgt_ps(cut, numbers), AllOf(1));
 }
+// From and to `four`, which is a multiple of 16 bytes.
+inline Lanes Load(const float* four) {
+  return _mm_load_ps(four);
+}
+inline void Store(float* four, Lanes numbers) {
+  _mm_store_ps(four, numbers);
+}
 // Stores whole numbers at `four`, which is a multiple of 16 bytes.
 inline void StoreWhole(int* four, Lanes numbers) {
   _mm_store_si128(reinterpret_cast<__m128i*>(four), _mm_cvttps_epi32(numbers));
