@@ -82,7 +82,8 @@ BoardForm::BoardForm(Services& services, const FormEntry& entry, int index,
                }),
       draft_timer_(*this, kDraftTickMs,
                    [this] {
-                     document().Tend(::GetTickCount64());
+                     // As at the next tick, so that no draft comes late.
+                     document().Tend(::GetTickCount64() + kDraftTickMs);
                      if (!board_.BoardModified()) draft_timer_.Stop();
                    }),
       traits_(traits),

@@ -215,7 +215,9 @@ bool CalendarBoard::Restore(const DocumentVersion& version) {
 }
 
 void CalendarBoard::Tend(std::uint64_t now) {
-  if (std::exchange(noted_changes_, board_.changes()) != board_.changes()) file_->NoteChange(now);
+  const bool changed = std::exchange(noted_changes_, board_.changes()) != board_.changes();
+  // Counted from the first of the changes, however long the hand goes on.
+  if (changed && !file_->DraftDue()) file_->NoteChange(now);
   if (const auto due = file_->DraftDue(); due && now >= *due) KeepDraft(now);
 }
 

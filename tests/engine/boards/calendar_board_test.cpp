@@ -173,6 +173,7 @@ TEST_F(CalendarMonths, UnsavedChangesComeBackAfterAKill) {
     Calendar run(files_, {2024, 2});
     february = run.Draw(9);
     run.calendar.Tend(1000);
+    run.Draw(9);
     run.calendar.Tend(3999);
     EXPECT_TRUE(FindDrafts(files_, kFolder).empty());
     run.calendar.Tend(4000);

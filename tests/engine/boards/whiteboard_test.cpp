@@ -192,6 +192,7 @@ TEST_F(Boards, ComeBackWhereTheProgramWasEnded) {
     run.boards.Show(L"a.bmp");
     run.Draw();
     run.boards.Tend(1000);
+    run.Draw();
     run.boards.Tend(3999);
     EXPECT_TRUE(FindDrafts(disk, kFolder).empty());
     run.boards.Tend(4000);
