@@ -199,5 +199,53 @@ TEST_F(Calendar, AKilledProgramComesBackWithTheDrawing) {
   EXPECT_FALSE(FileExists(draft));
 }
 
+TEST_F(Calendar, WhatOthersMakeOfTheMonthIsShownOrKeptBesideIt) {
+  constexpr std::uint32_t kBlue = 0xFF0000FF, kGreen = 0xFF00FF00;
+  const std::string blue = WriteBmp(Image(200, 150, kBlue), BmpDepth::k24Bits);
+  const std::string green = WriteBmp(Image(200, 150, kGreen), BmpDepth::k24Bits);
+  const std::wstring beside =
+      root().folder() + L"\\calendar\\pic_" + EnglishMonthTitle(ThisMonth()) + L"_2.bmp";
+  const auto shows_blue = [&](int column, int row) {
+    return Picture(RectAt(Middle(column, row), {1, 1})).At({0, 0}) == RGB(0, 0, 255);
+  };
+  Stroke(2, 3);
+  EXPECT_SOON(HasRed(2, 3));
+  Save();
+  ASSERT_TRUE(WriteBytes(FileOf(ThisMonth()), blue));
+  EXPECT_SOON(shows_blue(2, 3) && shows_blue(5, 1));
+
+  Stroke(1, 1);
+  EXPECT_SOON(HasRed(1, 1));
+  ASSERT_TRUE(WriteBytes(FileOf(ThisMonth()), green));
+  PressKey(VK_NEXT);
+  EXPECT_SOON_EQ(Title(), EnglishMonthTitle(MovedBy(ThisMonth(), 1)));
+  EXPECT_EQ(FileBytes(beside), green);
+  PressKey(VK_PRIOR);
+  EXPECT_SOON(HasRed(1, 1) && shows_blue(5, 1));
+}
+
+TEST_F(Calendar, AFullDiskLosesNothing) {
+  const std::wstring disk = PathFromEnvironment(L"VARNEL_SMALL_DISK");
+  if (disk.empty()) GTEST_SKIP() << "only root can make a small disk";
+  program().Kill();
+  root().settings().SetText(L"frmCALpr\\Details", L"Calendar Folder Location",
+                            disk + L"\\calendar\\");
+  Start();
+  Stroke(2, 3);
+  PressKey(VK_NEXT);
+  EXPECT_SOON(Text(Control(widget_, lblSCREEN)).find(L"disk is full") != std::wstring::npos);
+  EXPECT_EQ(Title(), EnglishMonthTitle(ThisMonth()));
+  EXPECT_SOON(HasRed(2, 3));
+  ASSERT_TRUE(ChooseShared(program(), L"mnuDCEXIT"));
+  HWND question = WaitForDialog(program());
+  ASSERT_TRUE(question && CloseDialog(question, IDYES));
+  EXPECT_EQ(program().WaitForExit(), 0u);
+  // The month does not fit, but its ink alone does.
+  Start();
+  EXPECT_SOON(HasRed(2, 3));
+  program().Kill();
+  RemoveAll(disk + L"\\calendar");
+}
+
 }  // namespace
 }  // namespace varnel

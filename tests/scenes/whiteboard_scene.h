@@ -75,6 +75,10 @@ class WhiteboardScene : public Scene {
     Stroke(points, button);
   }
   Point OnScreen(Point point) const { return {board_.left + point.x, board_.top + point.y}; }
+  // The colour that the screen shows there.
+  Colour Shown(Point at) const {
+    return static_cast<Colour>(Picture(RectAt(OnScreen(at), {1, 1})).At({0, 0}));
+  }
 
   std::wstring Folder() { return root().folder() + L"\\wboard"; }
   // The boards that are files, without those in the hidden folder.

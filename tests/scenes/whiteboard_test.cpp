@@ -80,6 +80,8 @@ TEST_F(WhiteboardScene, TextAndPictureAreMergedWhereTheyArePut) {
   ASSERT_TRUE(insert(picture));
   ASSERT_TRUE(Activate(form_));
   MoveMouse(OnScreen({220, 65}));
+  // It has come to the pointer.
+  EXPECT_SOON(Shown({205, 55}) == PenAt(4).colour && Shown({235, 75}) == PenAt(4).colour);
   Chord({VK_SHIFT, VK_RIGHT});
   PressKeys({VK_DOWN, VK_DOWN, VK_RETURN});
   board = Save();
