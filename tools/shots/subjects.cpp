@@ -178,6 +178,15 @@ void FillMonth(const Program& program, HWND calendar) {
                  SWP_NOZORDER);
 }
 
+// Changes what is shown, saves it and opens the dialog with what it was before.
+Preparation Versions(const Preparation& change, const wchar_t* commands) {
+  return [change, commands](const Program& program, HWND form) {
+    change(program, form);
+    Choose(form, std::wstring(commands) + L"SAVE");
+    Choose(form, std::wstring(commands) + L"VERSIONS");
+  };
+}
+
 Preparation PickerTab(int tab) {
   return [tab](const Program& program, HWND form) {
     Choose(form, L"mnuCALINSPIC");
@@ -228,6 +237,7 @@ std::vector<Subject> CalendarSubjects() {
       {L"calendar-menu", kCalendar, kPlain, {}, OpenMenu, Part::kForm, L"#32768", PlantMonth},
       CalendarDialog(L"calendar-text", Command(L"mnuCALINSTXT"), L"frmCALit"),
       CalendarDialog(L"calendar-folder", Command(L"mnuCALPROPS"), L"frmCALpr"),
+      CalendarDialog(L"calendar-versions", Versions(FillMonth, L"mnuCAL"), L"frmCALvr"),
       CalendarDialog(L"calendar-picker-family", PickerTab(0), L"frmCALip"),
       CalendarDialog(L"calendar-picker-work", PickerTab(6), L"frmCALip")};
 }
@@ -259,6 +269,14 @@ std::vector<Subject> WhiteboardSubjects() {
        Command(L"mnuWBOARDINSTEXT"),
        Part::kForm,
        L"frmWBDit",
+       PlantBoards},
+      {L"whiteboard-versions",
+       kWhiteboard,
+       kDpis,
+       {},
+       Versions(LabelBoard, L"mnuWBOARD"),
+       Part::kForm,
+       L"frmWBDvr",
        PlantBoards},
       {L"whiteboard-folder",
        kWhiteboard,
