@@ -253,15 +253,6 @@ void DocumentFile::NoteRename(const std::wstring& path) {
   if (files_.Rename(draft_path_, draft_path) == FileResult::kDone) draft_path_ = draft_path;
 }
 
-FileRead DocumentFile::Restore(const DocumentVersion& version, std::size_t limit) {
-  FileRead read = files_.Read(version.path, limit);
-  if (!read) return read;
-  const FileResult result = Save(read.bytes, OthersChanges::kReplace);
-  if (result != FileResult::kDone) return {result, {}, {}};
-  read.stamp = stamp_;
-  return read;
-}
-
 void DocumentFile::Close() {
   changed_ = false;
   first_change_.reset();

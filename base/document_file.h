@@ -89,9 +89,6 @@ class DocumentFile {
   std::vector<DocumentVersion> Versions() const {
     return VersionsOf(files_, path_);
   }  // newest first
-  // Puts a version in the document's place, which becomes a version itself; unsaved changes are
-  // lost. Gives what is now the content, or why all stayed as it was.
-  FileRead Restore(const DocumentVersion& version, std::size_t limit);
 
   // Drops unsaved changes, and the draft of them: the normal end of work on a document.
   void Close();

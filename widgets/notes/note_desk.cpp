@@ -257,10 +257,17 @@ bool NoteDesk::SideBarRefresh() {
 }
 
 bool NoteDesk::Restore(const DocumentVersion& version) {
-  if (!SaveModified()) return false;
-  const FileRead read = file_->Restore(version, kMostNoteBytes);
+  // Read before anything is saved: saving may be what drops the oldest version.
+  const FileRead read = files_.Read(version.path, kMostNoteBytes);
   if (!read) {
     TellTrouble(document_.path(), read.result);
+    return false;
+  }
+  const std::wstring path = document_.path();
+  if (!SaveModified() || document_.path() != path) return false;
+  const FileResult result = file_->Save(read.bytes, OthersChanges::kReplace);
+  if (result != FileResult::kDone) {
+    TellTrouble(path, result);
     return false;
   }
   const NoteContent::Shown shown = content_.Show(NoteTypeOf(document_.path()), read.bytes);

@@ -107,11 +107,6 @@ void NoteDocument::Opened(std::wstring_view path, NoteType type) {
   modified_ = false;
 }
 
-std::wstring NoteDocument::SavePath(std::wstring_view folder, const LocalTime& now,
-                                    const FileExists& exists) const {
-  return exists(path_) ? path_ : GeneratedNotePath(folder, now, path_, type_, exists);
-}
-
 void NoteDocument::Saved(std::wstring_view path) {
   path_ = path;
   modified_ = false;

@@ -80,9 +80,6 @@ class NoteDocument {
   void Opened(std::wstring_view path, NoteType type);
   // The editor changed, by the user's hand or, while `loading`, by the program's.
   void Changed(bool loading) { modified_ = modified_ || !loading; }
-  // Where a save goes: the path while it exists, else a generated one.
-  std::wstring SavePath(std::wstring_view folder, const LocalTime& now,
-                        const FileExists& exists) const;
   // The document was written to that path, which is now its own.
   void Saved(std::wstring_view path);
   // A save on closing that the user does not want: the changes count as none.
@@ -98,9 +95,6 @@ class NoteDocument {
   NoteType type() const { return type_; }
   std::int32_t number() const { return number_; }
   bool modified() const { return modified_; }
-  // While the widget goes away: closing the note starts no new one.
-  bool closing() const { return closing_; }
-  void SetClosing(bool closing) { closing_ = closing; }
 
  private:
   std::wstring path_;
@@ -108,7 +102,6 @@ class NoteDocument {
   std::int32_t counter_;
   std::int32_t number_ = 0;
   bool modified_ = false;
-  bool closing_ = false;
 };
 
 }  // namespace varnel

@@ -28,7 +28,7 @@ void NotesForm::BindCommands() {
        {L"mnuNOTESRENAME", [this] { NOTERenameShow(); }, has_row},
        {L"mnuNOTESDELETE", [this] { NoteDelete(); }, has_row},
        {L"mnuNOTESCLOSE", [this] { DocumentClose(); }},
-       {L"mnuNOTESPRINT", [this] { DocumentPrint(); }, [this] { return CanPrint(); }},
+       {L"mnuNOTESPRINT", [this] { DocumentPrint(); }},
        {L"mnuNOTESPANELS", [this] { ToggleList(); }, {}, [this] { return list_wanted_; }},
        {L"OpenFind", [this] { OpenFind(); }},
        {L"FindNext", [this] { FindNext(); }},

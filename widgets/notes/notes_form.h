@@ -172,7 +172,6 @@ class NotesForm : public WidgetForm,  // frmNOTwg
   void RefreshAll();
   void ShowCountsInStrip();
   void ToggleList();
-  bool CanPrint() const;
   bool CanUndo() const { return editor_.edit().CanUndo() || edited_.CanUndo(); }
   bool CanRedo() const { return editor_.edit().CanRedo() || edited_.CanRedo(); }
 

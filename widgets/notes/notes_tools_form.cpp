@@ -136,10 +136,6 @@ void NotesForm::TextCopy() {
   ::SendMessageW(editor_.handle(), WM_COPY, 0, 0);
 }
 
-bool NotesForm::CanPrint() const {
-  return services().program.HasDialog(L"frmNOTpp");
-}
-
 void NotesForm::RefreshAll() {
   SideBarRefresh();
   ::InvalidateRect(editor_.handle(), nullptr, TRUE);

@@ -49,14 +49,6 @@ TEST_F(Documents, SavedOnesKeepTheirTenFormerContents) {
   EXPECT_EQ(disk.FileNames(kFolder, L""), std::vector<std::wstring>{L"memo.rtf"});
   EXPECT_EQ(document.Versions()[1].stamp.size, 2u);
 
-  document.NoteChange(5);
-  EXPECT_EQ(document.Restore(document.Versions()[3], kLimit).bytes, "9");
-  EXPECT_EQ(Content(), "9");
-  EXPECT_FALSE(document.changed());
-  EXPECT_EQ(Versions().front(), "13");
-  EXPECT_EQ(document.Restore({kFolder + L"\\none", {}}, kLimit).result, FileResult::kMissing);
-  EXPECT_EQ(Content(), "9");
-
   disk.Plant(kFolder + L"\\.varnel\\memo.rtf.rtf.3", "another document's");
   EXPECT_EQ(disk.Rename(kPath, kFolder + L"\\b.rtf"), FileResult::kDone);
   MoveVersions(disk, kPath, kFolder + L"\\b.rtf");

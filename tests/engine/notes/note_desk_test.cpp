@@ -110,6 +110,25 @@ TEST_F(NotesOnTheDesk, AreNeverWrittenOverUnasked) {
   EXPECT_EQ(content.text, "theirs once more");
 }
 
+TEST_F(NotesOnTheDesk, GoBackToTheOldestVersionWithChangesUnsaved) {
+  disk.Plant(Path(L"a.txt"), "0");
+  ASSERT_TRUE(desk.DocumentOpenFile(Path(L"a.txt")));
+  for (std::size_t i = 1; i <= kMostVersions; ++i) {
+    Type(std::to_string(i));
+    ASSERT_EQ(desk.DocumentSaveFile(NoteType::kTxt, Path(L"a.txt")), FileResult::kDone);
+  }
+  ASSERT_EQ(desk.Versions().size(), kMostVersions);
+  const DocumentVersion oldest = desk.Versions().back();
+  Type(" unsaved");
+  ASSERT_TRUE(desk.Restore(oldest)) << "which the saving of the changes drops";
+  EXPECT_EQ(content.text, "0");
+  EXPECT_EQ(On(L"a.txt"), "0");
+  EXPECT_FALSE(desk.document().modified());
+  EXPECT_EQ(disk.files[desk.Versions().front().path], "012345678910 unsaved");
+  EXPECT_FALSE(desk.Restore(oldest));
+  EXPECT_EQ(content.text, "0");
+}
+
 TEST_F(NotesOnTheDesk, AreExportedRenamedAndDeleted) {
   disk.Plant(Path(L"memo.rtf"), "old");
   disk.Plant(Path(L"other.txt"), "other");

@@ -83,12 +83,11 @@ TEST(NoteDocument, StatesOfANote) {
   EXPECT_FALSE(note.modified());
   note.Changed(false);
   EXPECT_TRUE(note.modified());
-  const std::wstring path = note.SavePath(L"n\\", kMorning, Only({}));
+  const std::wstring path = GeneratedNotePath(L"n\\", kMorning, note.path(), note.type(), Only({}));
   EXPECT_EQ(path, L"n\\101007953_Notes 2.TXT");
   note.Saved(path);
   EXPECT_FALSE(note.modified());
   EXPECT_EQ(note.title(), L"101007953_Notes 2");
-  EXPECT_EQ(note.SavePath(L"n\\", kAfternoon, Only({path})), path);
   note.Exported({L"x\\copy.rtf", NoteType::kRtf}, L"x\\copy.rtf");
   EXPECT_TRUE(note.path() == path && note.type() == NoteType::kTxt);
   note.Exported({L"x\\new.rtf", NoteType::kRtf}, L"n\\1.RTF");

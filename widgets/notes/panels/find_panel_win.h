@@ -13,7 +13,6 @@ class FindPanel : public NotePanel {  // pfrFIND
   FindPanel(NotePanelHost& host, EditedNote& note);
 
   void Load() override;
-  const wchar_t* name() const override { return L"Find and replace"; }
   bool ForPlainText() const override { return true; }
   void Place(const Rect& box) override;
   bool OnControl(int id, int code) override;

@@ -11,7 +11,6 @@ class FontsPanel : public NotePanel {  // pfrFONTS
   using NotePanel::NotePanel;
 
   void Load() override;
-  const wchar_t* name() const override { return L"Fonts"; }
   void OnOpened() override;
   void Refresh() override;
   bool OnControl(int id, int code) override;

@@ -180,8 +180,8 @@ void InsertPanel::InsertChosen() {
 // --- documents
 
 TextPanel::TextPanel(NotePanelHost& host)
-    : InsertPanel(host, {L"Insert a document", drvFOLDERS, dirFOLDERS, flbLIST, rtbPREV, btnTXTINS,
-                         kTextFolder, IsNoteFile}),
+    : InsertPanel(host,
+                  {drvFOLDERS, dirFOLDERS, flbLIST, rtbPREV, btnTXTINS, kTextFolder, IsNoteFile}),
       rtbPREV_(host.PanelServices().files, NoteEditor::Silent()) {}
 
 void TextPanel::Load() {
@@ -248,8 +248,8 @@ void PicturePreview::Paint(Surface& surface) {
 }
 
 PicturePanel::PicturePanel(NotePanelHost& host)
-    : InsertPanel(host, {L"Insert a picture", drvPICTURES, dirPICTURES, flbLISTPICS, imgPREVIEW,
-                         btnINSPICTURE, kPictureFolder, IsPictureFile}),
+    : InsertPanel(host, {drvPICTURES, dirPICTURES, flbLISTPICS, imgPREVIEW, btnINSPICTURE,
+                         kPictureFolder, IsPictureFile}),
       imgPREVIEW_(host.PanelServices().ui) {}
 
 void PicturePanel::Load() {

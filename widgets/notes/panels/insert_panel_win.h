@@ -14,7 +14,6 @@ namespace varnel {
 
 // What differs between the two.
 struct InsertKind {
-  const wchar_t* name;
   int drives;
   int folders;
   int files;
@@ -29,7 +28,6 @@ class InsertPanel : public NotePanel {
   InsertPanel(NotePanelHost& host, const InsertKind& kind) : NotePanel(host), kind_(kind) {}
 
   void Load() override;
-  const wchar_t* name() const override { return kind_.name; }
   int Rows(int width) const override;
   void Place(const Rect& box) override;
   void OnOpened() override;

@@ -48,7 +48,6 @@ class NotePanel {
 
   // Makes the controls, hidden.
   virtual void Load() = 0;
-  virtual const wchar_t* name() const = 0;  // as the tool is called that opens it
   // Whether it may be open beside a plain text note.
   virtual bool ForPlainText() const { return false; }
   // The rows that it wants where it is so wide, in pixels.

@@ -10,7 +10,6 @@ class ParagraphPanel : public NotePanel {  // pfrPGRAPH
   using NotePanel::NotePanel;
 
   void Load() override;
-  const wchar_t* name() const override { return L"Paragraph"; }
   void Refresh() override;
   bool OnControl(int id, int code) override;
   ButtonCheck CheckOf(int id) const override;

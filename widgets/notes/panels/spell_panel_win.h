@@ -14,7 +14,6 @@ class SpellPanel : public NotePanel {  // pfrSPELL
   SpellPanel(NotePanelHost& host, EditedNote& note, clsNOTsp& checker);
 
   void Load() override;
-  const wchar_t* name() const override { return L"Spelling"; }
   bool ForPlainText() const override { return true; }
   int Rows(int width) const override;
   void Place(const Rect& box) override;
