@@ -136,7 +136,8 @@ void NotesForm::OnUnload() {
   notice_timer_.Stop();
   search_timer_.Stop();
   watch_.Watch({});
-  services().settings.Write(kOpenNoteFolder, L"");
+  // What another program closed unasked comes back with the next start.
+  if (!desk_.document().modified()) services().settings.Write(kOpenNoteFolder, L"");
   link_.widget = nullptr;
 }
 
