@@ -177,6 +177,22 @@ TEST_F(Notes, PanelsFormatAndPutIn) {
   EXPECT_EQ(ParagraphAt(again, L"big").line_spacing, 23);
 }
 
+TEST_F(Notes, TheTextHasAMenuOfItsOwnByMouseAndByKey) {
+  Start();
+  Type(L"word");
+  Chord({VK_CONTROL, 'A'});
+  ASSERT_TRUE(ClickOn(editor_, MouseButton::kRight));
+  ASSERT_TRUE(WaitForMenus(program(), 1));
+  PressKey('U');  // undo
+  EXPECT_SOON_EQ(Content(), L"");
+  PressKey(VK_APPS);
+  ASSERT_TRUE(WaitForMenus(program(), 1));
+  PressKey('R');  // redo
+  EXPECT_SOON_EQ(Content(), L"word");
+  Choose(form_, L"mnuNOTESSAVE");
+  EXPECT_FALSE(OnlyNote().empty());
+}
+
 TEST_F(Notes, PlainTextHasNoFormats) {
   Start();
   PressKey(VK_F2);

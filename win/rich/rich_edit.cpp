@@ -133,14 +133,14 @@ void RichEdit::KeepUndoSafe() {
 LRESULT RichEdit::Answer(const ControlMessage& message) {
   if (message.message == WM_NCDESTROY) {
     handle_ = nullptr;
-  } else if (Intercept(message.message, message.wparam)) {
+  } else if (Intercept(message.message, message.wparam, message.lparam)) {
     return 0;
   }
   return hook_.PassOn(message);
 }
 
 // True when the message is not for the control.
-bool RichEdit::Intercept(UINT message, WPARAM wparam) {
+bool RichEdit::Intercept(UINT message, WPARAM wparam, LPARAM lparam) {
   switch (message) {
     case WM_PASTE:
     case EM_PASTESPECIAL:
@@ -157,6 +157,10 @@ bool RichEdit::Intercept(UINT message, WPARAM wparam) {
       return OnKey(wparam);
     case WM_MOUSEWHEEL:
       return OnWheel(wparam);
+    case WM_CONTEXTMENU:
+      // Some versions keep it to themselves and show nothing.
+      ::SendMessageW(::GetParent(handle_), message, reinterpret_cast<WPARAM>(handle_), lparam);
+      return true;
     default:
       return false;
   }

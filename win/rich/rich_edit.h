@@ -165,7 +165,7 @@ class RichEdit {
  private:
   LRESULT Answer(const ControlMessage& message);
   void KeepUndoSafe();
-  bool Intercept(UINT message, WPARAM wparam);
+  bool Intercept(UINT message, WPARAM wparam, LPARAM lparam);
   bool OnKey(WPARAM key);
   bool OnWheel(WPARAM wparam);
   void Paste();
