@@ -87,8 +87,9 @@ void SideList::Arrange(bool at_end) {
   if (const int height = RowHeight(); height > 0) rows.bottom -= rows.height() % height;
   const int hidden = ::GetSystemMetricsForDpi(SM_CXVSCROLL, static_cast<UINT>(look_.text.dpi));
   ::SetWindowRgn(handle_, ::CreateRectRgn(0, 0, rows.width(), rows.height()), FALSE);
+  // What stood over its former place, such as a panel that opens, is not to move along.
   ::SetWindowPos(handle_, nullptr, rows.left, rows.top, rows.width() + hidden, rows.height(),
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
   RECT inside = {};
   ::GetClientRect(handle_, &inside);
   ListView_SetColumnWidth(handle_, 0, std::min(rows.width(), static_cast<int>(inside.right)));
