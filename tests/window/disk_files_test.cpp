@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <thread>
 
 #include "tests/support/file_store_contract.h"
 #include "win/files/file_fault.h"
@@ -83,6 +84,23 @@ TEST(DiskFiles, ReadersWhoShareEverythingAreNoLackOfRights) {
   }
   EXPECT_TRUE(rig.files().Replace(path, "newer"));
   EXPECT_EQ(rig.files().Read(path, 10).bytes, "newer");
+}
+
+TEST(DiskFiles, ReadersWhoAreGoneSoonAreWaitedFor) {
+  DiskRig rig;
+  const std::wstring path = rig.folder() + L"\\a.txt";
+  ASSERT_TRUE(rig.files().Replace(path, "old"));
+  UniqueFile held(
+      ::CreateFileW(path.c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING, 0, nullptr));
+  ASSERT_TRUE(held);
+  std::thread reader([&] {
+    for (int i = 0; i < 5000 && DiskFiles().Stamp(path + L".new").size == 0; ++i) ::Sleep(1);
+    ::Sleep(30);
+    held.Close();
+  });
+  EXPECT_EQ(rig.files().Replace(path, "new").result, FileResult::kDone);
+  reader.join();
+  EXPECT_EQ(rig.files().Read(path, 10).bytes, "new");
 }
 
 TEST(DebugLog, AnotherFileIsWrittenWhereItsOwnCannotBe) {
