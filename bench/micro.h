@@ -41,6 +41,18 @@ double SecondsFor(Step step) {
   return Median(seconds);
 }
 
+// What the first step takes in the second's time. They take turns, since the machine's pace changes
+// from one second to the next.
+template <class First, class Second>
+double Ratio(First first, Second second, int turns = 60) {
+  std::vector<double> firsts, seconds;
+  for (int i = 0; i < turns; ++i) {
+    firsts.push_back(TimeOf(first));
+    seconds.push_back(TimeOf(second));
+  }
+  return Median(firsts) / Median(seconds);
+}
+
 // Keeps a result from being computed away.
 template <class Value>
 void Keep(const Value& value) {
@@ -61,6 +73,7 @@ std::vector<Probe> BoardProbes();
 // Those that need the platform; none in a native build.
 std::vector<Probe> PlatformProbes();
 std::vector<Probe> BoardPlatformProbes();
+std::vector<Probe> NotesPlatformProbes();
 std::vector<Probe> PagePlatformProbes();
 
 }  // namespace varnel::bench

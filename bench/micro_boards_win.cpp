@@ -1,34 +1,17 @@
 // Timings of boards against what the platform does by itself, by turns in one run.
 #include <windows.h>
 
-#include <filesystem>
-#include <fstream>
 #include <span>
 
 #include "base/bmp.h"
-#include "base/document_folder.h"
-#include "base/number_text.h"
 #include "bench/micro.h"
+#include "bench/on_disk.h"
 #include "bench/strokes.h"
 #include "win/files/disk_files.h"
-#include "win/files/system_recycle_bin.h"
 #include "win/graphics/surface.h"
 
 namespace varnel::bench {
 namespace {
-
-constexpr int kTurns = 60;
-
-// The first against the second, by turns.
-template <class First, class Second>
-double Ratio(First first, Second second, int turns = kTurns) {
-  std::vector<double> firsts, seconds;
-  for (int i = 0; i < turns; ++i) {
-    firsts.push_back(TimeOf(first));
-    seconds.push_back(TimeOf(second));
-  }
-  return Median(firsts) / Median(seconds);
-}
 
 double SegmentAgainstGdi(int width) {
   const std::vector<PointF> points = StrokePoints();
@@ -56,19 +39,6 @@ double SegmentAgainstGdi(int width) {
   return Ratio(smooth, plain, 2000);
 }
 
-std::wstring TemporaryPath(std::wstring_view name) {
-  return std::filesystem::temp_directory_path().wstring() + std::wstring(name);
-}
-
-// Writes over a file, and where it is wished waits until the disk has it.
-void WritePlainly(const std::wstring& path, const std::string& bytes, bool flushed) {
-  const UniqueFile file(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
-                                      FILE_ATTRIBUTE_NORMAL, nullptr));
-  DWORD written = 0;
-  ::WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
-  if (flushed) ::FlushFileBuffers(file.get());
-}
-
 // With all that saving does, the picture made and the old file kept until the new one is on the
 // disk, against writing the same bytes over a file.
 double SaveAgainstPlainWrite(bool flushed) {
@@ -84,32 +54,6 @@ double SaveAgainstPlainWrite(bool flushed) {
   return ratio;
 }
 
-// Listed and sorted, against asking for every name.
-double ListAgainstFindFile() {
-  constexpr int kBoards = 10'000;
-  const std::wstring folder = TemporaryPath(L"varnel bench boards");
-  std::filesystem::create_directory(folder);
-  for (int i = 0; i < kBoards; ++i) {
-    std::ofstream(
-        std::filesystem::path(folder + L"\\pic_" + NumberText(i * 7919 % kBoards) + L".bmp"));
-  }
-  DiskFiles files;
-  SystemRecycleBin bin;
-  DocumentFolder boards(files, bin, {L".bmp"});
-  boards.Adopt(folder);
-  const auto find = [&] {
-    WIN32_FIND_DATAW found = {};
-    HANDLE search = ::FindFirstFileW((folder + L"\\*.bmp").c_str(), &found);
-    int count = 1;
-    while (::FindNextFileW(search, &found)) ++count;
-    ::FindClose(search);
-    Keep(count);
-  };
-  const double ratio = Ratio([&] { Keep(boards.Refresh().any()); }, find, 9);
-  std::filesystem::remove_all(folder);
-  return ratio;
-}
-
 }  // namespace
 
 std::vector<Probe> BoardPlatformProbes() {
@@ -121,7 +65,8 @@ std::vector<Probe> BoardPlatformProbes() {
            [] { return SaveAgainstPlainWrite(false); }},
           {"full-HD board saved, against a plain write that is flushed too", "x",
            [] { return SaveAgainstPlainWrite(true); }},
-          {"10,000 boards listed and sorted, against FindFirstFile", "x", ListAgainstFindFile}};
+          {"10,000 boards listed and sorted, against FindFirstFile", "x",
+           [] { return ListAgainstFindFile(L".bmp", {L".bmp"}); }}};
 }
 
 }  // namespace varnel::bench

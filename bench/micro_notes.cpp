@@ -5,6 +5,7 @@
 
 #include "base/text.h"
 #include "bench/micro.h"
+#include "bench/notes_sample.h"
 #include "widgets/notes/find/find_text.h"
 #include "widgets/notes/rtf/rtf_edits.h"
 #include "widgets/notes/rtf/rtf_reader.h"
@@ -18,7 +19,6 @@ namespace {
 
 constexpr std::size_t kWords = 170'000;
 constexpr std::size_t kUsual = 5'000;  // of which most of a text is made
-constexpr std::size_t kMegabyte = 1 << 20;
 
 // A made-up dictionary, as large as a real one and with words as long.
 std::string MadeUpList() {
@@ -152,23 +152,6 @@ double ReplaceTenThousand() {
            const Replacements all = ReplaceAll(text, finder, L"needles and pins", 0);
            Keep(WithEdits(text, all.edits).size());
          });
-}
-
-// Formatted text as people have it: a change of format every few words, letters beyond ASCII in
-// one word of five.
-std::string MadeUpRtf() {
-  constexpr const char* kFormats[] = {"\\b ",    "\\b0 ",   "\\i ",   "\\i0 ",
-                                      "\\fs28 ", "\\fs24 ", "\\cf1 ", "\\cf0 "};
-  std::mt19937 random(13);
-  std::string rtf =
-      "{\\rtf1\\ansi\\ansicpg1252\\uc1\\deff0{\\fonttbl{\\f0\\fcharset0 Tahoma;}}"
-      "{\\colortbl ;\\red200\\green0\\blue0;}\\pard\\plain\\fs24 ";
-  while (rtf.size() < kMegabyte) {
-    if (random() % 6 == 0) rtf += kFormats[random() % std::size(kFormats)];
-    rtf += random() % 5 == 0 ? "caf\\'e9 \\u380?\\u243?\\u322?w " : "of plain words ";
-    if (random() % 12 == 0) rtf += "\\par\r\n";
-  }
-  return rtf + "\\par}";
 }
 
 double ReadFormatted() {

@@ -18,6 +18,31 @@ def cpu_ms(pid):
         return 0
 
 
+def busy_ms(pid):
+    """Returns the time that the threads of a process have run, or would have if they had been let."""
+    total = 0
+    for task in (PROC / str(pid) / "task").glob("*/schedstat"):
+        ran, waited, _ = map(int, task.read_text().split())
+        total += ran + waited
+    return total / 1e6
+
+
+def wait_for_rest(pid, stretch=0.6, most=0.08, patience=120):
+    """Waits until a process is at work for at most that part of a stretch of so many seconds.
+
+    Returns the moment of time.monotonic() at which the rest began.
+    """
+    looks = [(time.monotonic(), busy_ms(pid))]
+    while looks[-1][0] - looks[0][0] < patience:
+        time.sleep(0.03)
+        now, busy = time.monotonic(), busy_ms(pid)
+        former = [look for look in looks if now - look[0] >= stretch]
+        if former and busy - former[-1][1] <= most * 1000 * (now - former[-1][0]):
+            return former[-1][0]
+        looks.append((now, busy))
+    raise TimeoutError(f"process {pid} does not come to rest")
+
+
 def anonymous_mib(pid):
     """Returns the memory that belongs to no file, which is what a program costs on its own."""
     for line in (PROC / str(pid) / "smaps_rollup").read_text().splitlines():

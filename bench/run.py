@@ -42,11 +42,16 @@ def idle_ms_per_s(pid, seconds):
 
 def measure(subject, idle, look_closer, samples):
     """Starts a subject once and adds what it costs to `samples`; returns whether it came up."""
+    begin = time.monotonic()
     pid, painted = start(subject)
     try:
         if painted < 0:
             print(f"{subject.name}: its {subject.windows} windows did not come", file=sys.stderr)
             return False
+        if subject.to_rest:
+            rest = processes.wait_for_rest(pid)
+            samples[subject.name, figures.REST].append(1000 * (rest - begin))
+            return True
         samples[subject.name, figures.START].append(painted)
         samples[subject.name, figures.START_CPU].append(processes.cpu_ms(pid))
         if not look_closer:

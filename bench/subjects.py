@@ -23,6 +23,20 @@ NOWHERE = {
     r"Settings\Details": {"Web Address": "http://127.0.0.1:9/"},
     r"frmWTHpr\Details": {"Live Weather Address": "http://127.0.0.1:9/"},
 }
+def long_text(formatted):
+    """Returns a megabyte of paragraphs of 60 to 240 letters, every seventh bold where it may be."""
+    words, paragraphs, size = "some plain words of a text that nobody wrote ".split(), [], 0
+    while size < 1 << 20:
+        number = len(paragraphs)
+        text = " ".join(words[(number * 7 + i) % len(words)] for i in range(12 + number * 5 % 37))
+        size += len(text) + 2
+        paragraphs.append(f"{{\\b {text}}}" if formatted and number % 7 == 0 else text)
+    if not formatted:
+        return "\r\n".join(paragraphs).encode()
+    head = r"{\rtf1\ansi\deff0{\fonttbl{\f0 Tahoma;}}\f0\fs20 "
+    return (head + "\\par\r\n".join(paragraphs) + "}").encode()
+
+
 LONG_LOG = "".join(f'"{i} * 3 = {i * 3}.0"\r\n' for i in range(10_000)).encode()
 TOOLS = ("Clock", "Calc", "Stopwatch", "Timer", "Weather")
 ALL_WIDGETS = (*TOOLS, "Calendar", "Notes", "Whiteboard")
@@ -37,7 +51,8 @@ class Subject:
     windows: int = 1
     widgets: tuple = ()
     settings: dict = field(default_factory=dict)  # section to name to text
-    files: dict = field(default_factory=dict)  # name in the data folder to bytes
+    files: dict = field(default_factory=dict)  # path in its folder to bytes
+    to_rest: bool = False  # it is a document that is opened, until nothing is left to do
     presses: tuple = ()  # form and control
     program: Path = PROGRAM
 
@@ -51,20 +66,21 @@ class Subject:
 
     def words(self):
         """Returns the command line that starts it."""
-        if self.command:
-            return ["wine", *self.command]
         folder = "Z:" + str(self.folder).replace("/", "\\")
+        if self.command:
+            return ["wine", *self.command, *(f"{folder}\\{name}" for name in self.files)]
         return ["wine", str(self.program), "/settings", self.key, "/data", folder]
 
     def prepare(self):
         """Puts its settings into the registry and its files into its folder."""
-        if self.command:
-            return
-        flags = {f"Start-Load-{widget}": "True" for widget in self.widgets}
         shutil.rmtree(self.folder, ignore_errors=True)
         self.folder.mkdir(parents=True)
         for name, content in self.files.items():
+            (self.folder / name).parent.mkdir(parents=True, exist_ok=True)
             (self.folder / name).write_bytes(content)
+        if self.command:
+            return
+        flags = {f"Start-Load-{widget}": "True" for widget in self.widgets}
         write_settings(self.key, {**NOWHERE, DETAILS: flags, **self.settings}, self.folder)
 
     def press(self):
@@ -78,7 +94,7 @@ class Subject:
         if not self.command:
             key = rf"HKCU\Software\{self.key}"
             subprocess.run(["wine", "reg", "delete", key, "/f"], stdout=subprocess.DEVNULL)
-            shutil.rmtree(self.folder, ignore_errors=True)
+        shutil.rmtree(self.folder, ignore_errors=True)
 
 
 def write_settings(key, sections, folder):
@@ -104,6 +120,11 @@ def bare_window(name, timers):
     return Subject(name, command=(str(WINDOWS_BUILD / "bench/bench_hello.exe"), str(timers)))
 
 
+WORDPAD = (r"C:\Program Files\Windows NT\Accessories\wordpad.exe",)
+# Unsaved changes of a run before are what the program shows when it starts.
+DRAFT = "tavrin/.varnel/long.{}.draft"
+
+
 SUBJECTS = (
     bare_window("one timer", 1),
     bare_window("two timers", 2),
@@ -121,6 +142,13 @@ SUBJECTS = (
     Subject("calculator, long log", windows=2, widgets=("Calc",), files={"calc2.dat": LONG_LOG}),
     Subject("five widgets", windows=6, widgets=TOOLS),
     Subject("all widgets", windows=9, widgets=ALL_WIDGETS),
+    Subject("notes", windows=2, widgets=("Notes",)),
+    Subject("wordpad, formatted", WORDPAD, files={"long.rtf": long_text(True)}, to_rest=True),
+    Subject("formatted note", windows=2, widgets=("Notes",),
+            files={DRAFT.format("rtf"): long_text(True)}, to_rest=True),
+    Subject("wordpad, plain text", WORDPAD, files={"long.txt": long_text(False)}, to_rest=True),
+    Subject("plain text note", windows=2, widgets=("Notes",),
+            files={DRAFT.format("txt"): long_text(False)}, to_rest=True),
 )
 
 
