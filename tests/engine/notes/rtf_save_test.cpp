@@ -87,6 +87,10 @@ TEST(RtfMend, LettersAndIndentsAreToldRight) {
   EXPECT_EQ(document.paragraph_formats[document.paragraphs[0].format].numbering,
             Numbering::kBullet);
   EXPECT_EQ(MendRtf(*mended, {text, indents}), *mended);
+  const auto swapped = MendRtf(kSpoiled, {text, {}, true, true});
+  ASSERT_TRUE(swapped);
+  const std::vector<ParagraphIndents> meant = {{720, -360, 0}, {0, 0, 0}};
+  EXPECT_EQ(IndentsOf(ReadRtf(*swapped).document), meant);
 }
 
 TEST(RtfMend, OtherStructuresAreRefused) {

@@ -204,9 +204,8 @@ std::optional<std::string> NoteEditor::Bytes(NoteType type) {
   const auto whole = Whole(edit_.Rtf(), pictures);
   if (!whole) return std::nullopt;
   const std::wstring text = edit_.Units({0, edit_.Length()});
-  std::vector<ParagraphIndents> indents;
-  if (RichEdit::SwapsIndents()) indents = IndentsOfSwapped(*whole, SystemRtfOrigin());
-  return MendRtf(*whole, {text, indents, RichEdit::WritesRaisedInTwips()}, SystemRtfOrigin());
+  return MendRtf(*whole, {text, {}, RichEdit::WritesRaisedInTwips(), RichEdit::SwapsIndents()},
+                 SystemRtfOrigin());
 }
 
 std::optional<std::string> NoteEditor::Whole(std::string rtf,

@@ -161,10 +161,6 @@ class Mender {
   bool indents_changed_ = false;
 };
 
-}  // namespace
-
-namespace {
-
 // Half a point is ten twips.
 std::string WithRaisedInHalfPoints(std::string_view rtf) {
   std::string mended;
@@ -180,36 +176,44 @@ std::string WithRaisedInHalfPoints(std::string_view rtf) {
   return mended += rtf.substr(done);
 }
 
-}  // namespace
-
-std::vector<ParagraphIndents> IndentsOfSwapped(std::string_view rtf, const RtfOrigin& origin) {
+std::vector<ParagraphIndents> IndentsOfSwapped(const RtfDocument& document) {
   std::vector<ParagraphIndents> indents;
-  const RtfReading reading = ReadRtf(rtf, origin);
-  for (const RtfParagraph& paragraph : reading.document.paragraphs) {
-    const ParagraphFormat& written = reading.document.paragraph_formats[paragraph.format];
+  for (const RtfParagraph& paragraph : document.paragraphs) {
+    const ParagraphFormat& written = document.paragraph_formats[paragraph.format];
     indents.push_back({written.left + written.first, -written.left, written.right});
   }
   return indents;
 }
 
-std::optional<std::string> MendRtf(std::string_view control_rtf, const EditorTruth& truth,
-                                   const RtfOrigin& origin) {
-  if (truth.raised_in_twips) {
-    return MendRtf(WithRaisedInHalfPoints(control_rtf), {truth.text, truth.indents}, origin);
-  }
+std::optional<std::string> MendLettersAndIndents(std::string rtf, EditorTruth truth,
+                                                 const RtfOrigin& origin) {
   RtfTrace trace;
-  const RtfReading reading = ReadRtf(control_rtf, origin, &trace);
+  const RtfReading reading = ReadRtf(rtf, origin, &trace);
   if (reading.fault != RtfFault::kNone) return std::nullopt;
+  std::vector<ParagraphIndents> indents;
+  if (truth.swapped_indents) truth.indents = indents = IndentsOfSwapped(reading.document);
   Mender mender(reading, trace, truth);
   if (!mender.Compare()) return std::nullopt;
-  if (mender.empty()) return std::string(control_rtf);
-  std::string mended = mender.Applied(control_rtf);
+  if (mender.empty()) return rtf;
+  std::string mended = mender.Applied(rtf);
   RtfTrace new_trace;
   const RtfReading again = ReadRtf(mended, origin, &new_trace);
   if (again.fault != RtfFault::kNone) return std::nullopt;
   Mender check(again, new_trace, truth);
   if (!check.Compare() || !check.empty()) return std::nullopt;
   return mended;
+}
+
+}  // namespace
+
+std::optional<std::string> MendRtf(std::string_view control_rtf, const EditorTruth& truth,
+                                   const RtfOrigin& origin) {
+  const auto has = [&](std::string_view word) {
+    return control_rtf.find(word) != std::string_view::npos;
+  };
+  const bool raised = truth.raised_in_twips && (has("\\up") || has("\\dn"));
+  return MendLettersAndIndents(
+      raised ? WithRaisedInHalfPoints(control_rtf) : std::string(control_rtf), truth, origin);
 }
 
 }  // namespace varnel

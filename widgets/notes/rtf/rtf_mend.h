@@ -20,16 +20,15 @@ struct ParagraphIndents {
   bool operator==(const ParagraphIndents&) const = default;
 };
 
-// What the editor shows, which its file has to say.
+// What the editor shows, which its file has to say, and what is known of how it writes.
 struct EditorTruth {
   std::wstring_view text;                     // its characters; a picture may be kObject or a blank
   std::span<const ParagraphIndents> indents;  // of each paragraph; empty: not compared
   bool raised_in_twips = false;  // the control wrote \up and \dn in twips, not in half points
+  // It took the two words of indents for each other: it wrote where all lines but the first begin,
+  // from the first, as \li, and where the first begins as \fi. Then `indents` does not count.
+  bool swapped_indents = false;
 };
-
-// The indents of each paragraph of an RTF whose writer took the two words for each other: it wrote
-// where all lines but the first begin, from the first, as \li, and where the first begins as \fi.
-std::vector<ParagraphIndents> IndentsOfSwapped(std::string_view rtf, const RtfOrigin& origin = {});
 
 // The RTF with every character and indent that differs from the truth rewritten, or as it is when
 // none does. Nothing when the two have other paragraphs, pictures or breaks in other places, or the
