@@ -6,6 +6,7 @@
 
 #include "tests/rig/clipboard.h"
 #include "tests/scenes/notes_scene.h"
+#include "widgets/notes/notes_layout.h"
 #include "win/graphics/pictures.h"
 
 namespace varnel {
@@ -307,8 +308,9 @@ TEST_F(Notes, TheListOpensSavesRenamesAndDeletes) {
   Type(L"one");
   Chord({VK_CONTROL, 'N'});  // saves what is changed without asking
   Type(L"two");
-  Chord({VK_CONTROL, 'S'});
+  ASSERT_TRUE(ClickOn(Control(form_, lablTOOLSINS + int{kToolSave})));
   EXPECT_SOON(Files().size() == 2);
+  EXPECT_SOON(FocusedWindow() == editor_) << "whoever clicks a tool goes on writing";
   HWND list = Control(form_, lvwFILES);
   const Rect rows = RectOf(list);
   Click({rows.left + 20, rows.top + 10});

@@ -18,6 +18,12 @@ constexpr int kZoomStep = 10;
 constexpr int kLeastZoom = 20;
 constexpr int kMostZoom = 500;
 
+// Tools, and of the title bar's buttons those for menu and minimising.
+bool GivesKeyboardBack(int button) {
+  const int tool = button - lablTOOLSINS;
+  return (tool >= 0 && tool < kToolCount) || button == lablTBARTOP || button == lablTBARTOP + 1;
+}
+
 }  // namespace
 
 LRESULT NotesForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
@@ -28,6 +34,13 @@ LRESULT NotesForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
       if (header.idFrom == rtbPAGEBOX) return editor_.edit().OnNotify(header);
       return 0;
     }
+    case WM_COMMAND:
+      // Whoever clicks a tool, or brings the window back, goes on writing.
+      if (HIWORD(wparam) == BN_CLICKED && GivesKeyboardBack(LOWORD(wparam)) &&
+          ::GetFocus() == reinterpret_cast<HWND>(lparam)) {
+        ::SetFocus(editor_.handle());
+      }
+      break;
     case WM_CONTEXTMENU:
       if (reinterpret_cast<HWND>(wparam) != editor_.handle()) break;
       ShowEditorMenu(lparam);
