@@ -7,6 +7,7 @@
 #include "win/system/hardening.h"
 #include "win/system/process.h"
 #include "win/system/single_instance.h"
+#include "win/windows/common_controls.h"
 
 namespace {
 
@@ -33,6 +34,7 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, wchar_t*, int) {
     ShowFirstInstance(name);
     return 0;
   }
+  varnel::UseThemedControls();
   const varnel::ComApartment apartment;
   return varnel::Application(instance, command_line, varnel::ProgramFamilies()).Run();
 }

@@ -7,6 +7,7 @@
 #include "base/rounded_box.h"
 #include "frame/frame_painter_win.h"
 #include "win/graphics/system_rect.h"
+#include "win/windows/frameless_button.h"
 #include "win/windows/window_text.h"
 
 namespace varnel {
@@ -28,19 +29,19 @@ TextButtons::TextButtons(Window& owner)
 
 bool TextButtons::Add(int id, const std::wstring& word, wchar_t glyph, bool on_bar) {
   HWND handle = ::CreateWindowExW(
-      0, L"BUTTON", word.c_str(), WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW, 0, 0, 0, 0,
-      owner_.handle(), reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
-  if (!hook_.Attach(handle)) return false;
+      0, FramelessButtonClass(), word.c_str(), WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW, 0,
+      0, 0, 0, owner_.handle(), reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr,
+      nullptr);
+  if (!handle || (check_of_ && !hook_.Attach(handle))) return false;
   buttons_.push_back({id, handle, glyph, on_bar, glyph != 0});
   return true;
 }
 
 // A button that is drawn by its owner keeps no check of its own.
 LRESULT TextButtons::Answer(const ControlMessage& message) const {
-  if (AsksForFrame(message.message)) return 0;
   const LRESULT result = hook_.PassOn(message);
   const bool asks = message.message == BM_GETCHECK || message.message == BM_GETSTATE;
-  if (!asks || !check_of_) return result;
+  if (!asks) return result;
   const ButtonCheck check = check_of_(::GetDlgCtrlID(message.control));
   if (check == ButtonCheck::kOff) return result;
   return result | (check == ButtonCheck::kOn ? BST_CHECKED : BST_INDETERMINATE);
@@ -74,6 +75,13 @@ void TextButtons::Enable(int id, bool on) {
     ::SetFocus(::GetNextDlgTabItem(owner_.handle(), button->handle, TRUE));
   }
   ::EnableWindow(button->handle, on);
+}
+
+void TextButtons::TellChecks(std::function<ButtonCheck(int id)> check_of) {
+  if (!check_of_) {
+    for (const TextButton& button : buttons_) hook_.Attach(button.handle);
+  }
+  check_of_ = std::move(check_of);
 }
 
 void TextButtons::TellWord(int id, bool on) {

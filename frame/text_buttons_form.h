@@ -54,7 +54,7 @@ class TextButtons {
   void Place(int id, const Rect& box);  // pixels of the form
   void Enable(int id, bool on);
   // How those buttons stand that are on or off, for programs that read the screen aloud.
-  void TellChecks(std::function<ButtonCheck(int id)> check_of) { check_of_ = std::move(check_of); }
+  void TellChecks(std::function<ButtonCheck(int id)> check_of);
   // Whether a tooltip tells the button's word; at first where a glyph stands in place of it.
   void TellWord(int id, bool on);
   // The key that does the same; the tooltip tells it behind the word.
@@ -85,7 +85,7 @@ class TextButtons {
   void HoverTick(Timer& timer);
 
   Window& owner_;
-  ControlHook hook_;
+  ControlHook hook_;  // of all buttons, once their checks are told
   std::vector<TextButton> buttons_;
   std::function<ButtonCheck(int id)> check_of_;
   int hovered_ = 0;  // the button under the mouse, or 0

@@ -9,10 +9,10 @@ import subprocess
 import sys
 
 # Libraries that every Windows maps from its own list of known ones or has loaded already, so that no
-# file beside the program can stand in for them; and comctl32, which the manifest names.
+# file beside the program can stand in for them.
 ALLOWED = {
     "kernel32.dll", "user32.dll", "gdi32.dll", "advapi32.dll", "shell32.dll", "ole32.dll",
-    "oleaut32.dll", "comdlg32.dll", "comctl32.dll", "msvcrt.dll",
+    "oleaut32.dll", "comdlg32.dll", "msvcrt.dll",
 }
 FLAGS = ("HIGH_ENTROPY_VA", "DYNAMIC_BASE", "NX_COMPAT")
 MOST_BYTES = 6 * 1024 * 1024

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "win/system/com.h"
+#include "win/windows/common_controls.h"
 #include "win/windows/window.h"
 
 namespace varnel::test {
@@ -60,6 +61,8 @@ class HostWindow : public Window {
 
 class Hosted : public ::testing::Test {
  protected:
+  Hosted() { UseThemedControls(); }
+
   ComApartment apartment_;
   Ui ui_{::GetModuleHandleW(nullptr), {}, {}};
   HostWindow host_{ui_};

@@ -8,9 +8,21 @@ namespace varnel {
 namespace {
 
 constexpr wchar_t kLibrary[] = L"comctl32.dll";
+constexpr WORD kManifest = 2;     // the resource that names the newer version
 constexpr int kMorePictures = 8;  // room is made for so many at a time
 
 }  // namespace
+
+void UseThemedControls() {
+  ACTCTXW description = {};
+  description.cbSize = sizeof description;
+  description.dwFlags = ACTCTX_FLAG_HMODULE_VALID | ACTCTX_FLAG_RESOURCE_NAME_VALID;
+  description.hModule = ::GetModuleHandleW(nullptr);
+  description.lpResourceName = MAKEINTRESOURCEW(kManifest);
+  HANDLE context = ::CreateActCtxW(&description);
+  ULONG_PTR cookie = 0;
+  if (context != INVALID_HANDLE_VALUE) ::ActivateActCtx(context, &cookie);
+}
 
 bool LoadCommonControls(DWORD classes) {
   auto* load =

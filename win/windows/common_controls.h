@@ -1,4 +1,4 @@
-// The system's extra controls: their library is loaded when the first of them is wanted, not at
+// The system's newer controls: their library is loaded when the first of them is wanted, not at
 // start-up.
 #pragma once
 
@@ -7,6 +7,11 @@
 #include "base/geometry.h"
 
 namespace varnel {
+
+// From here on this thread, and those that it starts, make their controls and dialogs in the newer,
+// themed version. The process as a whole does not, so that what draws its buttons itself loads
+// nothing for them. Where the system refuses, the older version does.
+void UseThemedControls();
 
 // Makes the window classes named by `classes` (ICC_ bits) known. False when this system has none.
 bool LoadCommonControls(DWORD classes);
