@@ -141,6 +141,11 @@ class Resampler {
     Span& span = inked_[static_cast<std::size_t>(y)];
     if (span.known) return span;
     const auto row = kept_.Row(y).subspan(static_cast<std::size_t>(left_), sums_.size());
+    // Most rows have none, which is soonest seen of all pixels together.
+    std::uint32_t any = 0;
+    for (const std::uint32_t pixel : row) any |= pixel;
+    span = {0, 0, true};
+    if (any == 0) return span;
     const auto is_ink = [](std::uint32_t pixel) { return pixel != 0; };
     const auto first = std::ranges::find_if(row, is_ink);
     const auto last = std::find_if(row.rbegin(), std::make_reverse_iterator(first), is_ink);

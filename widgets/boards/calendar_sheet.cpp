@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "base/bmp.h"
-#include "base/ink_block.h"
 #include "base/resample.h"
 #include "widgets/boards/calendar_layout.h"
 
@@ -58,13 +57,12 @@ MonthInk NoInk(int first_weekday) {
 }
 
 std::optional<MonthInk> MonthInkIn(std::string_view file, Month month, int first_weekday) {
-  if (auto found = InkIn(file)) {
-    MonthInk ink{std::move(found->sheet), found->first_weekday};
-    if (ink.sheet.width() != kSheetSize.width || ink.sheet.height() != kSheetSize.height) {
-      ink.sheet = Resampled(ink.sheet, kSheetSize);
+  if (auto ink = InkIn(file)) {
+    if (ink->sheet.width() != kSheetSize.width || ink->sheet.height() != kSheetSize.height) {
+      ink->sheet = Resampled(ink->sheet, kSheetSize);
     }
-    if (ink.first_weekday == first_weekday) return ink;
-    if (auto arranged = Rearranged(ink, month, first_weekday)) return arranged;
+    if (ink->first_weekday == first_weekday) return ink;
+    if (auto arranged = Rearranged(*ink, month, first_weekday)) return arranged;
     return ink;
   }
   const auto picture = ReadBmp(file);
@@ -73,7 +71,8 @@ std::optional<MonthInk> MonthInkIn(std::string_view file, Month month, int first
 }
 
 std::string MonthFileBytes(const Image& picture, const MonthInk& ink) {
-  return WithInk(WriteBmp(picture, BmpDepth::k24Bits), {ink.sheet, ink.first_weekday});
+  constexpr std::size_t kUsualInkBytes = 256 * 1024;  // so that there is seldom need to copy
+  return WithInk(WriteBmp(picture, BmpDepth::k24Bits, kUsualInkBytes), ink);
 }
 
 std::string MonthDraftBytes(const MonthInk& ink) {

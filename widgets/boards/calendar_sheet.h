@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "base/image.h"
+#include "base/ink_block.h"
 #include "widgets/boards/month.h"
 
 namespace varnel {
@@ -13,10 +14,8 @@ namespace varnel {
 // The most bytes that a month's file may have.
 inline constexpr std::size_t kMostMonthBytes = std::size_t{512} << 20;
 
-struct MonthInk {
-  Image sheet;            // of kSheetSize, premultiplied
-  int first_weekday = 0;  // of the grid that it is to be shown on, 0 Sunday to 6 Saturday
-};
+// On a sheet of kSheetSize.
+using MonthInk = Ink;
 
 // A sheet without ink.
 MonthInk NoInk(int first_weekday);
