@@ -62,4 +62,13 @@ int FittingHeight(std::wstring_view text, Size area, int most, const TextMeasure
   });
 }
 
+std::wstring FirstFitting(std::span<const std::wstring> texts, int room, int font_height,
+                          const TextMeasure& measure) {
+  const auto fits = [&](const std::wstring& text) {
+    return measure.Measure(text, font_height).width <= room;
+  };
+  const auto found = std::ranges::find_if(texts, fits);
+  return found == texts.end() ? texts.back() : *found;
+}
+
 }  // namespace varnel

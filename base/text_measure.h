@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -40,5 +41,10 @@ int LargestFontIn(Size area, int most, const std::function<Size(int height)>& si
 
 // The same for one line of text.
 int FittingHeight(std::wstring_view text, Size area, int most, const TextMeasure& measure);
+
+// The first of `texts`, at least one and each shorter than the one before, that is no wider than
+// `room`; the last when none is.
+std::wstring FirstFitting(std::span<const std::wstring> texts, int room, int font_height,
+                          const TextMeasure& measure);
 
 }  // namespace varnel

@@ -183,6 +183,9 @@ Preparation Versions(const Preparation& change, const wchar_t* commands) {
   return [change, commands](const Program& program, HWND form) {
     change(program, form);
     Choose(form, std::wstring(commands) + L"SAVE");
+    const Rect board = RectOf(Control(form, picMAINBOARD));
+    Drag({board.left + 30, board.bottom - 30}, {board.left + 90, board.bottom - 30});
+    Choose(form, std::wstring(commands) + L"SAVE");
     Choose(form, std::wstring(commands) + L"VERSIONS");
   };
 }

@@ -8,9 +8,10 @@
 namespace varnel {
 namespace {
 
-constexpr int kBarWidth = 9;      // at 96 dpi
-constexpr int kWheelPixels = 48;  // that a notch of the wheel scrolls, at 96 dpi
-constexpr int kMostPoints = 64;   // that the system keeps
+constexpr int kBarWidth = 9;        // at 96 dpi
+constexpr int kLeastWithBars = 64;  // of a board's height, at 96 dpi; less is all for the board
+constexpr int kWheelPixels = 48;    // that a notch of the wheel scrolls, at 96 dpi
+constexpr int kMostPoints = 64;     // that the system keeps
 
 Point PointOf(LPARAM lparam) {
   return {static_cast<short>(LOWORD(lparam)), static_cast<short>(HIWORD(lparam))};
@@ -66,8 +67,9 @@ void BoardSurface::Place(const Rect& place, const BoardSurfaceLook& look) {
   const Size board = owner_.BoardSize();
   const int bar = Scaled(kBarWidth, look.dpi);
   Rect view = place;
-  bool down = board.height > place.height();
-  const bool across = board.width > place.width() - (down ? bar : 0);
+  const bool roomy = place.height() >= Scaled(kLeastWithBars, look.dpi);
+  bool down = roomy && board.height > place.height();
+  const bool across = roomy && board.width > place.width() - (down ? bar : 0);
   down = down || (across && board.height > place.height() - bar);
   if (down) view.right = std::max(view.left, view.right - bar);
   if (across) view.bottom = std::max(view.top, view.bottom - bar);

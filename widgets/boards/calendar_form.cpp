@@ -113,8 +113,10 @@ void CalendarForm::MonthShown() {
   month_offset_ = MonthsBetween(ThisMonth(), calendar_.month());
   month_grid_ = GridOfMonth(calendar_.month(), calendar_.first_weekday(), true);
   midnight_timer_.Restart(SecondsToMidnight(now) * 1000);
-  Form_Resize();
+  // At once, as it is what the user waits for; what stands around it follows.
   CalendarRefreshBoard();
+  ::UpdateWindow(picMAINBOARD_.handle());
+  Form_Resize();
   WidgetRefresh();
 }
 
@@ -183,9 +185,9 @@ MonthGrid CalendarForm::GridOfMonth(Month month, int first_weekday, bool with_to
 }
 
 // "Wednesday 16 September, week 38 - today"
-std::wstring CalendarForm::DayText(const Date& date) const {
+std::wstring CalendarForm::DayText(const Date& date, std::wstring_view pattern) const {
   const auto day = std::ranges::find(month_grid_.days, date);
-  std::wstring text = DayName(date, L"dddd d mmmm");
+  std::wstring text = DayName(date, pattern);
   if (day == month_grid_.days.end()) return text;
   const auto cell = static_cast<std::size_t>(day - month_grid_.days.begin());
   text += L", week " + NumberText(month_grid_.weeks[cell / kWeekDays]);

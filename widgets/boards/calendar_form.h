@@ -72,7 +72,11 @@ class CalendarForm : public BoardForm, private CalendarWidget {  // frmCALwg
   // What is shown of the sheet, up to date.
   const Image& InkShown();
   std::wstring DayName(const Date& date, std::wstring_view pattern) const;
-  std::wstring DayText(const Date& date) const;
+  std::wstring DayText(const Date& date, std::wstring_view pattern) const;
+  // Of the day under the pointer, or of today, as much as the strip has room for.
+  std::wstring PointedText() const;
+  // As much of the month's title as the bar has room for.
+  std::wstring BarTitle() const;
   void PlaceLabels(const Rect& panel);
   void PlaceToday(const Rect& panel);
   void PlaceStripLabels();

@@ -90,7 +90,7 @@ void CalendarForm::LayOutPanel(const Rect& panel) {
 
 void CalendarForm::PlaceLabels(const Rect& panel) {
   const std::wstring title = calendar_.title();
-  PlaceTitle(title);
+  PlaceTitle(BarTitle());
   lblSeptember2015_.SetText(title);
   const FontMeasure measure(ui().fonts, paint().theme.strTHEMEPANELFONTNAME, true);
   const Rect& box = places_.title;
@@ -128,8 +128,7 @@ void CalendarForm::PlaceToday(const Rect& panel) {
 void CalendarForm::PlaceStripLabels() {
   const std::wstring said = BoardForm::StatusText();
   lblSCREEN_.SetText(said);
-  lblMOUSE_.SetText(
-      DayText(pointed_ < 0 ? today_ : month_grid_.days[static_cast<std::size_t>(pointed_)]));
+  lblMOUSE_.SetText(PointedText());
   Rect box = layout().status_text;
   box.top += 1;  // below the line that the frame draws
   const TextStyle style = StripTextStyle(paint(), dpi());
@@ -144,8 +143,27 @@ void CalendarForm::PlaceStripLabels() {
 
 std::wstring CalendarForm::StripText() const {
   const std::wstring said = BoardForm::StatusText();
-  if (!said.empty()) return said;
-  return DayText(pointed_ < 0 ? today_ : month_grid_.days[static_cast<std::size_t>(pointed_)]);
+  return said.empty() ? PointedText() : said;
+}
+
+std::wstring CalendarForm::PointedText() const {
+  constexpr std::wstring_view kBrief = L"ddd d mmm";
+  const Date day = pointed_ < 0 ? today_ : month_grid_.days[static_cast<std::size_t>(pointed_)];
+  const TextStyle style = StripTextStyle(paint(), dpi());
+  return FirstFitting(
+      std::array{DayText(day, L"dddd d mmmm"), DayText(day, kBrief), DayName(day, kBrief)},
+      layout().status_text.width() - 2 * HaloRoom(dpi()), style.font.height,
+      FontMeasure(ui().fonts, style.font.face, false));
+}
+
+std::wstring CalendarForm::BarTitle() const {
+  const Month month = calendar_.month();
+  const std::wstring brief = DayName({month.year, month.month, 1}, L"mmm");
+  const TextStyle style = BarTextStyle(paint(), dpi());
+  return FirstFitting(
+      std::array{calendar_.title(), brief + L" " + PaddedNumber(month.year, 4), brief},
+      layout().title_text.width() - 2 * HaloRoom(dpi()), style.font.height,
+      FontMeasure(ui().fonts, style.font.face, style.font.bold));
 }
 
 void CalendarForm::RefreshContent() {
@@ -221,7 +239,9 @@ Image CalendarForm::PictureOfMonth(Month month, const MonthInk& ink) {
   const CalendarGrid grid = shown ? grid_ : LayOutCalendarGrid(kUsualBoard, kDefaultDpi);
   const MonthGrid days = GridOfMonth(month, ink.first_weekday, false);
   if (!shown || ink.sheet != board_.pixels()) return PictureOn(grid, days, ink.sheet);
-  Image picture = PaintedGrid(grid, days);
+  // The grid as it stands on the screen, where today is not in it.
+  const bool painted = !ground_.empty() && month_grid_.month == month && month_grid_.today < 0;
+  Image picture = painted ? ground_ : PaintedGrid(grid, days);
   std::ranges::transform(picture.All(), InkShown().All(), picture.All().begin(), PixelOver);
   return picture;
 }

@@ -141,5 +141,15 @@ TEST(PicturePack, IsReadAndCutOffAnywhere) {
   }
 }
 
+TEST(CalendarLayout, OfSeveralTextsTheFirstThatFitsIsTaken) {
+  const test::PlainMeasure measure;
+  const std::array<std::wstring, 3> titles = {L"November 2026", L"Nov 2026", L"Nov"};
+  const int brief = measure.Measure(titles[1], 12).width;
+  EXPECT_EQ(FirstFitting(titles, brief - 1, 12, measure), titles[2]);
+  EXPECT_EQ(FirstFitting(titles, brief, 12, measure), titles[1]);
+  EXPECT_EQ(FirstFitting(titles, 10 * brief, 12, measure), titles[0]);
+  EXPECT_EQ(FirstFitting(titles, 0, 12, measure), titles[2]);
+}
+
 }  // namespace
 }  // namespace varnel
