@@ -77,10 +77,29 @@ HFONT PagePainter::FontOf(const PageFont& font, int height) {
   return made.get();
 }
 
+// Printers may take long to change fonts, so texts of one font are painted together. They do not
+// lie on each other.
+void PagePainter::PaintTexts(const std::vector<PlacedText>& texts, const PageDevice& device) {
+  if (texts.empty()) return;
+  by_font_.clear();
+  for (const PlacedText& text : texts) by_font_.push_back(&text);
+  std::ranges::stable_sort(by_font_, {}, [](const PlacedText* text) {
+    const PageFont& font = text->font;
+    return std::tie(font.half_points, font.bold, font.italic, font.charset, font.name);
+  });
+  const SelectedObject restored(device.dc, ::GetCurrentObject(device.dc, OBJ_FONT));
+  const PageFont* selected = nullptr;
+  for (const PlacedText* text : by_font_) {
+    if (!selected || *selected != text->font) {
+      selected = &text->font;
+      const double height = selected->half_points * kTwipsPerHalfPoint * device.down;
+      ::SelectObject(device.dc, FontOf(*selected, static_cast<int>(std::lround(height))));
+    }
+    PaintText(*text, device);
+  }
+}
+
 void PagePainter::PaintText(const PlacedText& text, const PageDevice& device) {
-  const int height =
-      static_cast<int>(std::lround(text.font.half_points * kTwipsPerHalfPoint * device.down));
-  const SelectedObject selected(device.dc, FontOf(text.font, height));
   ::SetTextColor(device.dc, LineColour(text.colour, device));
   const int left = Across(device, text.left);
   const int base_line = Down(device, text.base_line);
@@ -119,7 +138,7 @@ void PagePainter::Paint(const PaintedPage& painted, const PageDevice& device) {
   }
   ::SetBkMode(device.dc, TRANSPARENT);
   ::SetTextAlign(device.dc, TA_BASELINE | TA_LEFT | TA_NOUPDATECP);
-  for (const PlacedText& text : page.texts) PaintText(text, device);
+  PaintTexts(page.texts, device);
   for (const PlacedRule& rule : page.rules) {
     PaintRule(rule, device, LineColour(rule.colour, device));
   }

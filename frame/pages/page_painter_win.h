@@ -39,9 +39,11 @@ class PagePainter {
  private:
   using FontKey = std::tuple<std::wstring, int, int, bool, bool>;  // and height
   HFONT FontOf(const PageFont& font, int height);
+  void PaintTexts(const std::vector<PlacedText>& texts, const PageDevice& device);
   void PaintText(const PlacedText& text, const PageDevice& device);
 
   std::map<FontKey, UniqueFont> fonts_;
+  std::vector<const PlacedText*> by_font_;  // of one page, while it is painted
   std::vector<int> advances_;
 };
 
