@@ -123,6 +123,7 @@ LIMITS = (
     Limit("calendar, a month saved and the next painted", most=60),
     Limit("full-HD board saved, against a plain write", most=1.3),
     Limit("10,000 boards listed and sorted, against FindFirstFile", most=1.6),
+    Limit("preview, key to painted page", most=16),
     Limit("feed reader", least=100),
     Limit("weather, longest block while 1 MB comes", most=50),
     Limit("note of 100 KB, key to painted letter", most=16),

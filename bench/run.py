@@ -137,7 +137,8 @@ def main():
     pairs = compared(chosen, options.before)
     samples = measure_all(chosen + [before for _, before in pairs], runs, idle)
     values = {figures.EXE_SIZE: (PROGRAM.stat().st_size / 1e6, "MB")}
-    for probe in ("bench_latency", "bench_boards", "bench_theme", "bench_weather", "bench_micro"):
+    for probe in ("bench_latency", "bench_boards", "bench_theme", "bench_preview", "bench_weather",
+                  "bench_micro"):
         values |= probe_values("wine", str(WINDOWS_BUILD / f"bench/{probe}.exe"))
     print_table(figures.rows(samples, values))
     if pairs:

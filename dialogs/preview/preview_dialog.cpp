@@ -69,6 +69,7 @@ void PreviewDialog::OnOpen() {
   tooltip_ = Tooltip();
   tip_ = nullptr;
   told_.clear();
+  to_follow_ = false;
   for (int step : ZoomSteps()) {
     ::SendMessageW(Control(cboZOOM), CB_ADDSTRING, 0,
                    reinterpret_cast<LPARAM>((NumberText(step) + L" %").c_str()));
@@ -114,7 +115,6 @@ void PreviewDialog::TakeDocument() {
                                                    : fields.title + L" - Print Preview")
                                  .c_str());
   told_.clear();
-  settled_ = false;
   pages_.Open(document_, SetupOf(settings_), std::move(fields));
   ShowSetup();
   picSHEETS_->Refresh();
@@ -274,7 +274,8 @@ bool PreviewDialog::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
   switch (message) {
     case WM_TIMER:
       if (wparam == kTick) Tick();
-      return wparam == kTick;
+      if (wparam == kFollow) FollowPage();
+      return wparam == kTick || wparam == kFollow;
     case WM_SIZE:
       if (wparam != SIZE_MINIMIZED) Arrange();
       return true;

@@ -34,6 +34,8 @@ class PreviewDialog : public Dialog, public SheetViewOwner {  // frmNOTpp
 
   // Laying out, printing and asking the printer go on beside the user by this timer.
   static constexpr UINT_PTR kTick = 1;
+  // What tells of a page follows it by this one: the page itself is to be seen first.
+  static constexpr UINT_PTR kFollow = 2;
   void StartTicking();
 
   void OnPage(int page) override;
@@ -56,6 +58,7 @@ class PreviewDialog : public Dialog, public SheetViewOwner {  // frmNOTpp
   void Tick();
   void CountPages();
   void ShowPage();
+  void FollowPage();
   void ShowStatus();
   void ShowZoom();
   void SetZoom(const SheetZoom& zoom, std::optional<Point> at = {});
@@ -113,7 +116,7 @@ class PreviewDialog : public Dialog, public SheetViewOwner {  // frmNOTpp
   bool setup_wanted_ = true;
   bool filling_ = false;  // controls change by our own hand
   int last_text_ = 0;     // of the header and footer, the one that was written in last
-  bool settled_ = false;
+  bool to_follow_ = false;
   Tooltip tooltip_;
   HWND tip_ = nullptr;
 

@@ -54,7 +54,14 @@ void PreviewDialog::CountPages() {
 }
 
 void PreviewDialog::ShowPage() {
+  if (!to_follow_) to_follow_ = ::SetTimer(handle(), kFollow, kTickMs, nullptr) != 0;
+}
+
+void PreviewDialog::FollowPage() {
+  ::KillTimer(handle(), kFollow);
+  to_follow_ = false;
   const int page = picSHEETS_->page();
+  picTHUMBS_->GoTo(page);
   if (::GetFocus() != Control(txtPAGE)) SetControlText(txtPAGE, NumberText(page + 1));
   const bool first = page == 0;
   const bool last = page + 1 >= pages_.pages() && pages_.count().settled;
@@ -113,7 +120,6 @@ void PreviewDialog::OnPage(int page) {
     picSHEETS_->GoTo(page);  // and tells that
     return;
   }
-  picTHUMBS_->GoTo(page);
   ShowPage();
 }
 

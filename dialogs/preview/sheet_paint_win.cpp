@@ -44,60 +44,86 @@ void PaintShadow(Surface& surface, const Rect& sheet, int width) {
 
 }  // namespace
 
-// A sheet as it is painted once and shown often; null where that would take too much.
-const Surface* SheetView::Kept(int page, Size size) {
-  if (static_cast<long long>(size.width) * size.height > kMostSheetPixels) return nullptr;
+SheetLayout::Pages SheetView::Seen() const {
+  const Rect view = View();
+  return layout_.PagesIn(RectAt(scroll_, {view.width(), view.height()}));
+}
+
+SheetView::KeptSheet* SheetView::FindKept(int page, Size size) {
   const auto found = std::ranges::find(kept_, page, &KeptSheet::page);
-  if (found != kept_.end()) {
-    if (found->size == size && found->version == pages_.version()) {
-      kept_.splice(kept_.begin(), kept_, found);
-      return &kept_.front().surface;
-    }
+  if (found == kept_.end()) return nullptr;
+  if (found->size != size || found->version != pages_.version()) {
     kept_.erase(found);
+    return nullptr;
   }
-  kept_.push_front({page, size, pages_.version(), Surface(size)});
-  Surface& surface = kept_.front().surface;
-  PaintKept(surface, page);
+  kept_.splice(kept_.begin(), kept_, found);
+  return &kept_.front();
+}
+
+void SheetView::Keep(int page, Size size, bool fine) {
+  kept_.push_front({page, size, pages_.version(), Surface(size), fine});
+  PaintKept(kept_.front().surface, page, fine);
+  // What is in sight or comes next is never dropped: it would be painted again and again.
+  const SheetLayout::Pages seen = Seen();
   long long pixels = 0;
   for (auto sheet = kept_.begin(); sheet != kept_.end();) {
     pixels += static_cast<long long>(sheet->size.width) * sheet->size.height;
-    sheet =
-        pixels > kMostKeptPixels && sheet != kept_.begin() ? kept_.erase(sheet) : std::next(sheet);
+    const bool close = sheet->page >= seen.first - 1 && sheet->page <= seen.last + 1;
+    sheet = pixels > kMostKeptPixels && !close ? kept_.erase(sheet) : std::next(sheet);
   }
-  return &surface;
 }
 
-bool SheetView::IsKept(int page, Size size) const {
-  const auto found = std::ranges::find(kept_, page, &KeptSheet::page);
-  return found != kept_.end() && found->size == size && found->version == pages_.version();
+// A sheet as it is painted once and shown often; null where that would take too much.
+const Surface* SheetView::Kept(int page, Size size) {
+  if (static_cast<long long>(size.width) * size.height > kMostSheetPixels) return nullptr;
+  if (const KeptSheet* sheet = FindKept(page, size)) return &sheet->surface;
+  Keep(page, size, false);
+  return &kept_.front().surface;
+}
+
+bool SheetView::PaintFinely(int page) {
+  if (page < 0 || page >= layout_.pages()) return false;
+  const Rect sheet = layout_.Sheet(page);
+  const Size size{sheet.width(), sheet.height()};
+  if (static_cast<long long>(size.width) * size.height > kMostSheetPixels) return false;
+  if (KeptSheet* kept = FindKept(page, size)) {
+    if (kept->fine) return false;
+    PaintKept(kept->surface, page, true);
+    kept->fine = true;
+  } else {
+    Keep(page, size, true);
+  }
+  return true;
 }
 
 void SheetView::PaintAhead() {
-  const Rect view = View();
-  const SheetLayout::Pages seen = layout_.PagesIn(RectAt(scroll_, {view.width(), view.height()}));
-  // One at a time, so that nothing waits for long.
-  const int page = to_paint_ahead_ == 2 ? seen.last + 1 : seen.first - 1;
-  if (--to_paint_ahead_ <= 0) ahead_.Stop();
-  if (page < 0 || page >= layout_.pages()) return;
-  const Rect sheet = layout_.Sheet(page);
-  const Size size{sheet.width(), sheet.height()};
-  if (!IsKept(page, size)) Kept(page, size);
+  const SheetLayout::Pages seen = Seen();
+  for (int page = seen.first; page <= seen.last; ++page) {
+    if (!PaintFinely(page)) continue;
+    const RECT sheet = ToSystem(SheetInWindow(page));
+    ::InvalidateRect(handle(), &sheet, FALSE);
+    return;
+  }
+  if (!PaintFinely(seen.last + 1) && !PaintFinely(seen.first - 1)) ahead_.Stop();
 }
 
 // Letters of a small page stand where paper has them only when they are painted larger: the
-// platform's own small ones are as wide as whole pixels let them be.
-void SheetView::PaintKept(Surface& surface, int page) {
+// platform's own small ones are as wide as whole pixels let them be. That takes a while.
+void SheetView::PaintKept(Surface& surface, int page, bool fine) {
   const Size size = surface.size();
   const double scale = layout_.pixels_per_twip();
+  const auto paint = [&](Surface& to, int factor) {
+    FillRectangle(to.dc(), to.wanted(), RGB(0xFF, 0xFF, 0xFF));
+    painter_.Paint(*pages_.At(page),
+                   {to.dc(), scale * factor, scale * factor, {}, pages_.setup().colour});
+  };
   const double dots = scale * kTwipsPerInch;
   const long long pixels = static_cast<long long>(size.width) * size.height;
-  int factor = std::clamp(static_cast<int>(std::ceil(kFineDots / dots)), 1, kMostFiner);
+  int factor = fine ? std::clamp(static_cast<int>(std::ceil(kFineDots / dots)), 1, kMostFiner) : 1;
   while (factor > 1 && pixels * factor * factor > kMostFinePixels) --factor;
-  const Size fine{size.width * factor, size.height * factor};
-  Surface large(fine);
-  FillRectangle(large.dc(), RectAt({0, 0}, fine), RGB(0xFF, 0xFF, 0xFF));
-  painter_.Paint(*pages_.At(page),
-                 {large.dc(), scale * factor, scale * factor, {}, pages_.setup().colour});
+  if (factor == 1) return paint(surface, 1);
+  Surface large({size.width * factor, size.height * factor});
+  paint(large, factor);
   BoxShrink(large.pixels(), size, factor, surface.pixels());
 }
 
@@ -234,9 +260,8 @@ void SheetView::PaintGuide(Surface& surface) {
 void SheetView::Paint(Surface& surface) {
   const Rect view = View();
   FillRectangle(surface.dc(), view, Ground());
-  const SheetLayout::Pages seen = layout_.PagesIn(RectAt(scroll_, {view.width(), view.height()}));
+  const SheetLayout::Pages seen = Seen();
   for (int page = seen.first; page <= seen.last; ++page) PaintSheet(surface, page);
-  to_paint_ahead_ = 2;
   ahead_.Start();
   PaintGuide(surface);
   if (kind_ == Kind::kSheets) PaintRulers(surface);

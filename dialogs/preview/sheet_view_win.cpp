@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <utility>
 
 #include "win/graphics/system_rect.h"
 
@@ -19,6 +20,7 @@ constexpr int kReach = 4;  // around a margin's end
 constexpr int kLine = 48;  // that an arrow key scrolls
 constexpr int kThumbColumns = 1;
 constexpr int kAheadMs = 40;
+constexpr int kBarsMs = 15;
 
 }  // namespace
 
@@ -28,7 +30,11 @@ SheetView::SheetView(Ui& ui, Kind kind, PreviewPages& pages, SheetViewOwner& own
       pages_(pages),
       owner_(owner),
       unit_(unit),
-      ahead_(*this, kAheadMs, [this] { PaintAhead(); }) {
+      ahead_(*this, kAheadMs, [this] { PaintAhead(); }),
+      bars_(*this, kBarsMs, [this] {
+        bars_.Stop();
+        SetScrollBars();
+      }) {
   if (kind == Kind::kThumbs) zoom_.kind = SheetZoom::Kind::kPageWidth;
 }
 
@@ -72,19 +78,23 @@ void SheetView::LayOut() {
   page_ = std::clamp(page_, 0, std::max(room.pages - 1, 0));
 }
 
+// Each call paints a bar, which takes longer than painting the sheets: so these come first.
 void SheetView::SetScrollBars() {
-  const Rect view = View();
-  const auto set = [this](int bar, int whole, int part, int at) {
+  const auto set = [this](int bar, ScrollRange& shown, const ScrollRange& now) {
+    if (shown == now) return;
+    shown = now;
     SCROLLINFO info = {};
     info.cbSize = sizeof info;
     info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS | SIF_DISABLENOSCROLL;
-    info.nMax = std::max(whole - 1, 0);
-    info.nPage = static_cast<UINT>(part);
-    info.nPos = at;
+    info.nMax = std::max(now.whole - 1, 0);
+    info.nPage = static_cast<UINT>(now.part);
+    info.nPos = now.at;
     ::SetScrollInfo(handle(), bar, &info, TRUE);
   };
-  set(SB_VERT, layout_.whole().height, view.height(), scroll_.y);
-  if (kind_ == Kind::kSheets) set(SB_HORZ, layout_.whole().width, view.width(), scroll_.x);
+  const Rect view = View();
+  set(SB_VERT, down_, {layout_.whole().height, view.height(), scroll_.y});
+  if (kind_ != Kind::kSheets) return;
+  set(SB_HORZ, across_, {layout_.whole().width, view.width(), scroll_.x});
 }
 
 void SheetView::Show(const SheetZoom& zoom, int columns, std::optional<Point> at) {
@@ -116,10 +126,10 @@ void SheetView::GoTo(int page) {
   const bool other = page != page_;
   page_ = page;
   asked_for_ = true;
-  ScrollTo(kind_ == Kind::kSheets ? layout_.ScrollTo(page, scroll_)
-                                  : layout_.Revealing(page, scroll_));
+  const bool scrolled = ScrollTo(kind_ == Kind::kSheets ? layout_.ScrollTo(page, scroll_)
+                                                        : layout_.Revealing(page, scroll_));
   if (!other) return;
-  ::InvalidateRect(handle(), nullptr, FALSE);
+  if (!scrolled) ::InvalidateRect(handle(), nullptr, FALSE);
   if (kind_ == Kind::kSheets) owner_.OnPage(page);
 }
 
@@ -133,24 +143,26 @@ void SheetView::ScrollByViews(int views) {
   ScrollBy(0, views * std::max(view.height() - Scaled(kLine, dpi()), 1));
 }
 
-void SheetView::ScrollTo(Point scroll) {
+bool SheetView::ScrollTo(Point scroll) {
   scroll = layout_.Bounded(scroll);
-  if (!(scroll == scroll_)) {
-    scroll_ = scroll;
-    SetScrollBars();
-    ::InvalidateRect(handle(), nullptr, FALSE);
-  }
-  TellPage();
+  const bool scrolled = !(scroll == scroll_);
+  scroll_ = scroll;
+  const bool other = FollowScroll();
+  if (scrolled || other) ::InvalidateRect(handle(), nullptr, FALSE);
+  if (scrolled && !bars_.enabled()) bars_.Start();
+  if (other) owner_.OnPage(page_);
+  return scrolled;
 }
 
 // The page that is looked at follows what is scrolled to; thumbs mark what they are told.
+bool SheetView::FollowScroll() {
+  if (kind_ != Kind::kSheets || asked_for_) return false;
+  const int former = std::exchange(page_, layout_.PageShown(scroll_));
+  return page_ != former;
+}
+
 void SheetView::TellPage() {
-  if (kind_ != Kind::kSheets || asked_for_) return;
-  const int shown = layout_.PageShown(scroll_);
-  if (shown == page_) return;
-  page_ = shown;
-  ::InvalidateRect(handle(), nullptr, FALSE);
-  owner_.OnPage(page_);
+  if (FollowScroll()) owner_.OnPage(page_);
 }
 
 Rect SheetView::SheetInWindow(int page) const {

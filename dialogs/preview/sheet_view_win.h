@@ -57,6 +57,15 @@ class SheetView : public PaintedWindow {
     Size size;
     int version;
     Surface surface;
+    bool fine;  // otherwise painted quickly, until there is time
+  };
+
+  // What a scroll bar shows.
+  struct ScrollRange {
+    int whole = -1;
+    int part = 0;
+    int at = 0;
+    bool operator==(const ScrollRange&) const = default;
   };
 
   void Paint(Surface& surface) override;
@@ -69,11 +78,13 @@ class SheetView : public PaintedWindow {
   bool OnCursor();
   bool TakeKey(WPARAM key);
 
-  Rect View() const;  // the window without its rulers
-  int Ruler() const;  // how thick one is; 0 for thumbs
+  Rect View() const;                // the window without its rulers
+  int Ruler() const;                // how thick one is; 0 for thumbs
+  SheetLayout::Pages Seen() const;  // at least in part
   void LayOut();
-  void ScrollTo(Point scroll);
+  bool ScrollTo(Point scroll);  // true when that is elsewhere
   void SetScrollBars();
+  bool FollowScroll();  // true when another page is looked at now
   void TellPage();
   Rect SheetInWindow(int page) const;
   // The place on a ruler in twips of the page that is looked at.
@@ -81,15 +92,18 @@ class SheetView : public PaintedWindow {
   std::optional<PageEdge> EdgeAt(Point at) const;
 
   void PaintSheet(Surface& surface, int page);
-  void PaintKept(Surface& surface, int page);
+  void PaintKept(Surface& surface, int page, bool fine);
   void PaintRulers(Surface& surface);
   void PaintRuler(Surface& surface, bool across);
   void PaintMarks(Surface& surface, bool across, const Rect& ruler, int origin);
   void PaintGuide(Surface& surface);
   const Surface* Kept(int page, Size size);
-  bool IsKept(int page, Size size) const;
-  // Paints what comes into sight next, so that scrolling has only to show it.
+  void Keep(int page, Size size, bool fine);
+  KeptSheet* FindKept(int page, Size size);
+  // Paints what is in sight finely, and what comes into sight next, so that scrolling has only to
+  // show it; one sheet at a time, so that nothing waits for long.
   void PaintAhead();
+  bool PaintFinely(int page);
 
   Kind kind_;
   PreviewPages& pages_;
@@ -99,6 +113,8 @@ class SheetView : public PaintedWindow {
   int columns_ = 1;
   SheetLayout layout_;
   Point scroll_;
+  ScrollRange down_;
+  ScrollRange across_;
   int page_ = 0;
   bool asked_for_ = false;  // the page was asked for: it stays the one until the user scrolls
   int wheel_turn_ = 0;
@@ -106,7 +122,7 @@ class SheetView : public PaintedWindow {
   PagePainter painter_;
   std::list<KeptSheet> kept_;  // the latest first
   Timer ahead_;
-  int to_paint_ahead_ = 0;
+  Timer bars_;
 };
 
 }  // namespace varnel
