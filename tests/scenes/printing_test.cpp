@@ -143,6 +143,18 @@ class Printing : public Scene {
     PressButton(preview_, cmdPRINT);
     return WaitForDialog(program());
   }
+  // Asks for copies of a range of pages.
+  void AnswerPrintDialog(const wchar_t* from, const wchar_t* to, const wchar_t* copies) {
+    // The numbers that the system's dialog gives its controls.
+    constexpr int kRange = 1058, kFrom = 1152, kTo = 1153, kCopies = 1154;
+    HWND dialog = PrintDialogOf();
+    ASSERT_TRUE(dialog);
+    ASSERT_TRUE(ClickOn(Control(dialog, kRange)));
+    SetText(Control(dialog, kFrom), from);
+    SetText(Control(dialog, kTo), to);
+    SetText(Control(dialog, kCopies), copies);
+    ASSERT_TRUE(CloseDialog(dialog, IDOK));
+  }
   // The test platform's printing is slow beside other work.
   bool Printed(std::wstring_view told) {
     return WaitUntil([&] { return Status().find(told) != std::wstring::npos; }, 4 * kPatience);
@@ -237,13 +249,19 @@ TEST_F(Printing, WithoutAPrinterThePreviewWorksAndSaysSo) {
   EXPECT_SOON_EQ(Text(Control(preview_, cboZOOM)), L"100 %");
   Chord({VK_CONTROL, VK_OEM_PLUS});
   EXPECT_SOON_EQ(Text(Control(preview_, cboZOOM)), L"110 %");
+  {
+    const HeldKeys ctrl{VK_CONTROL};
+    TurnWheel(CentreOf(Control(preview_, picSHEETS)), -2);
+  }
+  EXPECT_SOON_EQ(Text(Control(preview_, cboZOOM)), L"90 %");
+  EXPECT_EQ(Page(), L"2");
   Chord({VK_CONTROL, 'G'});
   Type(L"1\n");
   EXPECT_SOON_EQ(Page(), L"1");
   ASSERT_TRUE(ClickOn(Control(preview_, picSHEETS)));
   PressKey(VK_ESCAPE);
   EXPECT_TRUE(WaitForNoForm(program(), L"frmNOTpp"));
-  EXPECT_TRUE(Kept(L"Zoom", L"110 %"));
+  EXPECT_TRUE(Kept(L"Zoom", L"90 %"));
 }
 
 TEST_F(Printing, MarginsAreDraggedAndTypedAndLeaveAColumn) {
@@ -273,6 +291,53 @@ TEST_F(Printing, MarginsAreDraggedAndTypedAndLeaveAColumn) {
   SetText(left, L"wide");
   PressKey(VK_RETURN);
   EXPECT_SOON(Text(left) == L"6.96 in" || Text(left) == L"170 mm");
+}
+
+TEST_F(Printing, PaperOfAnOwnSizeIsTyped) {
+  OpenNote(8);
+  const int before = PageCount();
+  HWND papers = Control(preview_, cboPAPER);
+  ASSERT_TRUE(papers);
+  EXPECT_FALSE(IsEnabled(Control(preview_, txtPAPERSIZE)));
+  ASSERT_TRUE(Select(papers, static_cast<int>(Items(papers).size()) - 1));
+  ASSERT_SOON(IsEnabled(Control(preview_, txtPAPERSIZE)));
+  for (const int side : {0, 1}) {
+    ASSERT_TRUE(ClickOn(Control(preview_, txtPAPERSIZE + side)));
+    SetText(Control(preview_, txtPAPERSIZE + side), L"144 mm");
+    PressKey(VK_RETURN);
+  }
+  // In twips, give or take what the user's unit leaves out.
+  const auto height = [this] {
+    return WholeNumber(root().settings().Text(kDetails, L"Paper-Height").value_or(L"0"));
+  };
+  EXPECT_SOON(std::abs(height().value_or(0) - 8164) < 20);
+  EXPECT_SOON(PageCount() > before);
+}
+
+TEST_F(Printing, RangesAndCopiesAreTakenAndPrintingIsCancelled) {
+  const FilePrinter printer(root().folder());
+  ASSERT_TRUE(printer.ready());
+  WithoutTexts();
+  OpenNote(42);
+  ASSERT_SOON(PageCount() == 5);
+  const auto shown = ShownPages();
+  AnswerPrintDialog(L"2", L"3", L"2");
+  ASSERT_TRUE(Printed(L"4 pages were sent to"));
+  const auto printed = PrintedPages(printer.output());
+  ASSERT_EQ(printed.size(), 4u);
+  for (std::size_t side = 0; side < 4; ++side) EXPECT_EQ(printed[side], shown[1 + side % 2]);
+
+  AnswerPrintDialog(L"1", L"5", L"40");
+  ASSERT_SOON(Status().starts_with(L"Printing page"));
+  EXPECT_FALSE(IsEnabled(Control(preview_, cmdPRINT)));
+  ASSERT_TRUE(ClickOn(Control(preview_, picSHEETS)));
+  PressKey(VK_ESCAPE);
+  HWND question = WaitForDialog(program());
+  ASSERT_TRUE(question);
+  EXPECT_TRUE(CloseDialog(question, IDNO));
+  EXPECT_TRUE(ClickOn(Control(preview_, cmdSTOPPRINT)));
+  ASSERT_TRUE(Printed(L"Printing was cancelled after"));
+  EXPECT_TRUE(IsEnabled(Control(preview_, cmdPRINT)));
 }
 
 TEST_F(Printing, APrinterThatFailsIsToldInPlainWords) {

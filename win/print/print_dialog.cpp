@@ -89,6 +89,11 @@ PrintDialogResult Fault() {
   return code == 0 ? PrintDialogResult::kCancelled : PrintDialogResult::kFailed;
 }
 
+// Wine's dialog of today gives the range that was asked for without the flag that says so.
+bool LosesFlagOfRange() {
+  return LateFunction<const char * CDECL()>(L"ntdll.dll", "wine_get_version") != nullptr;
+}
+
 // The dialog of today, with several ranges; nothing where this system lacks it.
 bool AskInSheet(HWND owner, const PrinterChoice& start, int pages, PrintDialogAnswer& answer) {
   auto* ask = LateFunction<HRESULT WINAPI(PRINTDLGEXW*)>(kDialogs, "PrintDlgExW");
@@ -121,7 +126,7 @@ bool AskInSheet(HWND owner, const PrinterChoice& start, int pages, PrintDialogAn
   if (request.Flags & PD_CURRENTPAGE) {
     answer.wish.ranges.clear();
     answer.wish.ranges.push_back({0, 0});
-  } else if (request.Flags & PD_PAGENUMS) {
+  } else if ((request.Flags & PD_PAGENUMS) || LosesFlagOfRange()) {
     for (DWORD i = 0; i < std::min(request.nPageRanges, kMostRanges); ++i) {
       answer.wish.ranges.push_back(
           {static_cast<int>(ranges[i].nFromPage), static_cast<int>(ranges[i].nToPage)});
