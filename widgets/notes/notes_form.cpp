@@ -109,7 +109,6 @@ void NotesForm::OnLoad() {
   lblCHARS_.Load(handle(), lblCHARS);
   lblLINESTAT_.Load(handle(), lblLINESTAT);
   lblZOOM_.Load(handle(), lblZOOM);
-  OpenAtStart();
   link_.widget = this;
 }
 
