@@ -10,6 +10,7 @@ namespace {
 
 // Lengths at 96 dpi.
 constexpr int kListWidth = 124;
+constexpr int kMostListWidth = 180;  // of a wide panel a quarter and a little more
 constexpr int kSearchHeight = 24;
 constexpr int kSearchGap = 6;
 constexpr int kLeastListHeight = 84;  // with the search box above it
@@ -41,7 +42,9 @@ NotesLayout LayOutNotes(Size panel, int dpi, const NotesWishes& wishes) {
     tools.push_back(tool);
     strip.push_back(place);
   }
-  DocumentWishes wanted{wishes.list ? kListWidth : 0, 0};
+  const int width =
+      std::clamp(panel.width * kDefaultDpi / dpi * 7 / 25, kListWidth, kMostListWidth);
+  DocumentWishes wanted{wishes.list ? width : 0, 0};
   DocumentLayout frame = LayOutDocument(panel, dpi, strip, wanted);
   if (wishes.panel_rows) {
     // As wide as all that stands below the strip.
@@ -72,7 +75,7 @@ NotesLayout LayOutNotes(Size panel, int dpi, const NotesWishes& wishes) {
   const int side = Scaled(small ? kPaperSide / 2 : kPaperSide, dpi);
   const int edge = Scaled(kPaperEdge, dpi);
   const Rect& paper = frame.document;
-  layout.editor = {paper.left + side, paper.top + 2 * edge, paper.right - edge,
+  layout.editor = {paper.left + side, paper.top + (small ? 2 : 4) * edge, paper.right - edge,
                    paper.bottom - 2 * edge};
   return layout;
 }

@@ -16,7 +16,8 @@ namespace varnel {
 namespace {
 
 // Lengths at 96 dpi.
-constexpr int kListFont = 13;
+constexpr int kListFont = 12;
+constexpr int kTextSide = 6;  // that the text keeps free at the right
 constexpr int kPanelFont = 13;
 constexpr int kRowHeight = 27;
 constexpr int kRowSide = 6;
@@ -51,7 +52,11 @@ void NotesForm::LayOutPanel(const Rect& panel) {
   PlaceList(panel);
   if (places_.editor != former) {
     PlaceWindow(editor_.handle(), Within(panel, places_.editor));
+    editor_.edit().SetMargins(0, Scaled(kTextSide, dpi()));
     editor_.edit().ScrollToCaret();
+    // Some versions leave the caret where it stood before the text was wrapped anew.
+    const RichRange caret = editor_.edit().Selection();
+    if (caret.empty()) editor_.edit().Select(caret);
   }
   ::ShowWindow(editor_.handle(), places_.editor.empty() ? SW_HIDE : SW_SHOWNA);
   if (desk_.notice() == kNoRoom && (!OpenPanel() || !places_.open_panel.empty())) desk_.Tell({});
@@ -137,7 +142,9 @@ void NotesForm::PlaceStrip() {
 // --- what is shown
 
 void NotesForm::RefreshContent() {
-  if (ready_) TextStatusRefresh();
+  // Not before the editor has its place: a long text takes minutes to be wrapped to no width.
+  if (!ready_) OpenAtStart();
+  TextStatusRefresh();
 }
 
 void NotesForm::ShowNote() {
