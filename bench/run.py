@@ -19,7 +19,7 @@ import processes
 from subjects import PROGRAM, ROOT, SUBJECTS, WINDOWS_BUILD, of_program
 
 NATIVE_BUILD = os.environ.get("VARNEL_BENCH_NATIVE", ROOT / "build/native")
-PATIENCE = 30  # seconds for the windows of a subject to come
+PATIENCE = 120  # seconds for the windows of a subject to come
 REST = 5  # seconds from the start to the look at the memory
 IDLE_STRETCHES = 2
 

@@ -4,6 +4,7 @@
 #include "tests/rig/controls.h"
 #include "tests/rig/files.h"
 #include "tests/rig/input.h"
+#include "tests/rig/menus.h"
 
 namespace varnel::shots {
 
@@ -74,17 +75,52 @@ Preparation NotePanel(WORD key) {
   };
 }
 
+// The properties, or the question on closing a note that is not saved.
+Preparation NoteCommand(const wchar_t* command) {
+  return [command](const Program& program, HWND form) {
+    WriteNotes(program, form);
+    Choose(form, command);
+  };
+}
+
+void ShowVersions(const Program& program, HWND form) {
+  WriteNotes(program, form);
+  for (const wchar_t* more : {L" Serves eight.", L" Keeps for two days."}) {
+    const std::wstring title = Text(Control(form, lblNotes));
+    Type(more);
+    Choose(form, L"mnuNOTESSAVE");
+    WaitUntil([&] { return Text(Control(form, lblNotes)) != title; }, 1500);
+  }
+  Choose(form, L"mnuNOTESVERSIONS");
+}
+
+void OpenTextMenu(const Program& program, HWND form) {
+  WriteNotes(program, form);
+  Chord({VK_CONTROL, 'A'});
+  PressKey(VK_APPS);
+}
+
 }  // namespace
 
 std::vector<Subject> NoteSubjects() {
   return {
-      {L"notes", kNotes, kDpis | kFewPresets, {}, WriteNotes},
+      {L"notes", kNotes, kDpis | kManyPresets, {}, WriteNotes},
       {L"notes-find", kNotes, kDpis | kFewPresets, {}, FindInNote},
       {L"notes-spelling", kNotes, kDpis | kFewPresets, {}, SpellNote},
       {L"notes-fonts", kNotes, kDpis, {}, NotePanel(VK_F2)},
       {L"notes-paragraph", kNotes, kDpis, {}, NotePanel(VK_F4)},
       {L"notes-text", kNotes, kPlain, {}, NotePanel(VK_F9)},
       {L"notes-picture", kNotes, kPlain, {}, NotePanel(VK_F11)},
+      {L"notes-properties",
+       kNotes,
+       kDpis,
+       {},
+       NoteCommand(L"mnuNOTESPROPS"),
+       Part::kForm,
+       L"frmNOTpr"},
+      {L"notes-closing", kNotes, kDpis, {}, NoteCommand(L"mnuNOTESCLOSE"), Part::kForm, L"#32770"},
+      {L"notes-versions", kNotes, kDpis, {}, ShowVersions, Part::kForm, L"frmNOTvr"},
+      {L"notes-text-menu", kNotes, kPlain, {}, OpenTextMenu, Part::kForm, L"#32768"},
   };
 }
 
