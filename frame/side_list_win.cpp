@@ -168,7 +168,11 @@ void SideList::Rename(std::size_t row) {
   Select(row);
   ListView_EnsureVisible(handle_, static_cast<int>(row), FALSE);
   ::SetFocus(handle_);
-  ListView_EditLabel(handle_, static_cast<int>(row));
+  HWND edit = ListView_EditLabel(handle_, static_cast<int>(row));
+  RECT bounds = {};
+  if (!edit || !ListView_GetItemRect(handle_, static_cast<int>(row), &bounds, LVIR_BOUNDS)) return;
+  const Rect box = owner_.EditBox(FromSystem(bounds));
+  if (!box.empty()) PlaceWindow(edit, box);
 }
 
 void SideList::RepaintRow(std::size_t row) const {

@@ -39,6 +39,8 @@ class SideListOwner {
   virtual ~SideListOwner() = default;
   // What is read out of the row, and edited when it is renamed.
   virtual std::wstring RowText(std::size_t row) const = 0;
+  // Where in a row that lies in `row` its text is edited; empty for the whole row.
+  virtual Rect EditBox(const Rect& /*row*/) const { return {}; }
   // What a list without rows says in one line.
   virtual std::wstring EmptyText() const = 0;
   // Paints the row over the list's ground, which is there already.

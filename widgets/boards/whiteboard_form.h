@@ -45,6 +45,7 @@ class WhiteboardForm : public BoardForm,  // frmWBDwg
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
   std::wstring RowText(std::size_t row) const override { return whiteboard_.boards().Title(row); }
   std::wstring EmptyText() const override { return L"No boards yet"; }
+  Rect EditBox(const Rect& row) const override;
   void PaintRow(Surface& surface, const SideRow& row) override;
   void OnRowChosen(std::size_t row) override;
   void OnRowRenamed(std::size_t row, const std::wstring& text) override;

@@ -106,6 +106,12 @@ void WhiteboardForm::DrawPanelButton(const ButtonPainting& painting) {
                          (id == ToolId(BoardTool::kPicture) && board_.BoardMode() == L"PICTURE"));
 }
 
+// About the name, with the box's own border and a little more.
+Rect WhiteboardForm::EditBox(const Rect& row) const {
+  constexpr int kRoom = 3;
+  return Intersection(Inset(LayOutBoardRow(row, dpi()).name, -Scaled(kRoom, dpi())), row);
+}
+
 void WhiteboardForm::PaintRow(Surface& surface, const SideRow& row) {
   const DocumentFolder& boards = whiteboard_.boards();
   if (row.index >= boards.count()) return;
