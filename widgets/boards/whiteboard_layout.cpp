@@ -9,6 +9,8 @@ namespace {
 constexpr int kToolSide = 24;
 constexpr int kColours = kPens - 1;  // without the eraser
 constexpr int kListWidth = 116;
+constexpr int kWideListWidth = 146;  // holds the name of a new board in full
+constexpr int kWidePanel = 460;      // from here on
 constexpr int kRowHeight = 62;
 constexpr int kRowGap = 6;  // between the cards
 constexpr int kPictureWidth = 54;
@@ -32,7 +34,8 @@ std::array<StripTool, 2 + kBoardTools> StripOf(int pens_width) {
 }  // namespace
 
 WhiteboardLayout LayOutWhiteboard(Size panel, int dpi, bool list_wanted) {
-  const DocumentWishes wishes{list_wanted ? kListWidth : 0, 0};
+  const int list = panel.width >= Scaled(kWidePanel, dpi) ? kWideListWidth : kListWidth;
+  const DocumentWishes wishes{list_wanted ? list : 0, 0};
   DocumentLayout laid = LayOutDocument(panel, dpi, StripOf(kColours * kToolSide), wishes);
   WhiteboardLayout layout;
   const Rect pens = laid.tools[0];
