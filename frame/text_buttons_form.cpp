@@ -60,6 +60,14 @@ void TextButtons::SetText(int id, std::wstring_view text) {
   Repaint(id);
 }
 
+void TextButtons::SetGlyph(int id, wchar_t glyph) {
+  const auto found = std::ranges::find(buttons_, id, &TextButton::id);
+  if (found == buttons_.end() || found->glyph == glyph) return;
+  found->glyph = glyph;
+  found->tells_word = glyph != 0;
+  Repaint(id);
+}
+
 void TextButtons::Place(int id, const Rect& box) {
   const TextButton* button = Find(id);
   if (!button) return;

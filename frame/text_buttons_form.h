@@ -51,6 +51,8 @@ class TextButtons {
   const TextButton* Find(int id) const;
   // Without effect on an id that is no button's.
   void SetText(int id, std::wstring_view text);
+  // What is drawn, and then told by a tooltip; 0: the text.
+  void SetGlyph(int id, wchar_t glyph);
   void Place(int id, const Rect& box);  // pixels of the form
   void Enable(int id, bool on);
   // How those buttons stand that are on or off, for programs that read the screen aloud.

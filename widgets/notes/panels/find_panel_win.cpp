@@ -1,6 +1,9 @@
 #include "widgets/notes/panels/find_panel_win.h"
 
+#include <commctrl.h>
+
 #include <algorithm>
+#include <utility>
 
 #include "base/number_text.h"
 #include "resources/control_ids.h"
@@ -12,7 +15,12 @@ namespace {
 
 constexpr int kBoxWidth = 150;
 constexpr ULONGLONG kQuietMs = 500;  // before what takes long is told
+constexpr int kNarrowBox = 72;
+constexpr int kNarrowFace = 27;
 constexpr wchar_t kUpGlyph = L'\xE212';
+constexpr wchar_t kDownGlyph = L'\xE213';
+constexpr wchar_t kReplaceGlyph = L'\xE250';
+constexpr wchar_t kReplaceAllGlyph = L'\xE257';
 constexpr wchar_t kDrawnByPanel = L' ';
 
 bool Held(int key) {
@@ -25,16 +33,19 @@ FindPanel::FindPanel(NotePanelHost& host, EditedNote& note)
     : NotePanel(host), voice_(host), note_(note), desk_(note, voice_) {}
 
 void FindPanel::Load() {
-  AddCombo(cboFINDWHAT, CBS_DROPDOWN, L"Find what", {kBoxWidth});
-  AddButton(btnFINDNEXT, L"Find next", 0, {68});
+  AddCombo(cboFINDWHAT, CBS_DROPDOWN, L"Find what",
+           {.width = kBoxWidth, .narrow = kNarrowBox, .grows = true});
+  AddButton(btnFINDNEXT, L"Find next", kDownGlyph, {.width = 68, .narrow = 24});
   AddButton(btnFINDPREVIOUS, L"Find previous", kUpGlyph, {24, 1});
-  AddButton(chkMATCHCASE, L"Match case", kDrawnByPanel, {30, 1});
-  AddButton(chkWHOLEWORDS, L"Whole words", kDrawnByPanel, {30, 1});
-  AddCombo(cboREPLACEWITH, CBS_DROPDOWN, L"Replace with", {kBoxWidth, 2, true});
-  AddButton(btnREPLACE, L"Replace", 0, {62, 2});
-  AddButton(btnREPLACEALL, L"Replace all", 0, {80, 2});
-  for (const int id : {cboFINDWHAT, cboREPLACEWITH}) {
+  AddButton(chkMATCHCASE, L"Match case", kDrawnByPanel, {kNarrowFace, 1});
+  AddButton(chkWHOLEWORDS, L"Whole words", kDrawnByPanel, {kNarrowFace, 1});
+  AddCombo(cboREPLACEWITH, CBS_DROPDOWN, L"Replace with", {kBoxWidth, 2, true, kNarrowBox, true});
+  AddButton(btnREPLACE, L"Replace", kReplaceGlyph, {62, 2, false, 24});
+  AddButton(btnREPLACEALL, L"Replace all", kReplaceAllGlyph, {80, 2, false, 24});
+  for (const auto& [id, hint] :
+       {std::pair(cboFINDWHAT, L"Find"), std::pair(cboREPLACEWITH, L"Replace with")}) {
     ::SendMessageW(Control(id), CB_LIMITTEXT, kLongestSetting, 0);
+    ::SendMessageW(Control(id), CB_SETCUEBANNER, 0, reinterpret_cast<LPARAM>(hint));
   }
   const Settings& settings = host().PanelServices().settings;
   match_case_ = ReadCheck(settings, kFindMatchCaseBox);

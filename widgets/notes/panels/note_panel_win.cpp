@@ -16,10 +16,11 @@ int NotePanel::Rows(int width) const {
 }
 
 void NotePanel::AddButton(int id, const wchar_t* word, wchar_t glyph, const PanelCell& cell) {
-  host_.PanelButtons().Add(id, word, glyph, false);
+  const bool word_where_wide = cell.narrow > 0;
+  host_.PanelButtons().Add(id, word, word_where_wide ? L'\0' : glyph, false);
   HWND handle = Control(id);
   ::ShowWindow(handle, SW_HIDE);
-  parts_.push_back({id, handle, false});
+  parts_.push_back({id, handle, false, word_where_wide ? glyph : L'\0'});
   cells_.push_back(cell);
 }
 
@@ -27,7 +28,7 @@ void NotePanel::AddCombo(int id, DWORD style, const wchar_t* word, const PanelCe
   HWND handle = ::CreateWindowExW(
       0, L"COMBOBOX", word, WS_CHILD | WS_TABSTOP | WS_VSCROLL | CBS_AUTOHSCROLL | style, 0, 0, 0,
       0, host_.PanelParent(), reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
-  parts_.push_back({id, handle, true});
+  parts_.push_back({id, handle, true, 0});
   cells_.push_back(cell);
 }
 
@@ -35,14 +36,14 @@ void NotePanel::AddLabel(int id, const wchar_t* text, const PanelCell& cell) {
   auto label = std::make_unique<ThemedLabel>(host_.PanelServices().ui);
   label->Load(host_.PanelParent(), id);
   label->SetText(text);
-  parts_.push_back({id, label->handle(), false});
+  parts_.push_back({id, label->handle(), false, 0});
   cells_.push_back(cell);
   labels_.push_back(std::move(label));
 }
 
 void NotePanel::AddWindow(int id, HWND window, const PanelCell& cell) {
   ::ShowWindow(window, SW_HIDE);
-  parts_.push_back({id, window, false});
+  parts_.push_back({id, window, false, 0});
   cells_.push_back(cell);
 }
 
@@ -74,6 +75,10 @@ void NotePanel::Place(const Rect& box) {
       PlaceWindow(part.handle, place);
     } else if (shown) {
       PlaceWindow(part.handle, place);
+      const bool narrow = place.width() < Scaled(cells_[i].width, dpi);
+      if (part.narrow_glyph) {
+        host_.PanelButtons().SetGlyph(part.id, narrow ? part.narrow_glyph : L'\0');
+      }
     }
     ::ShowWindow(part.handle, shown ? SW_SHOWNA : SW_HIDE);
     if (shown) ::InvalidateRect(part.handle, nullptr, FALSE);

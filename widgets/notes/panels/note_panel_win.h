@@ -82,6 +82,7 @@ class NotePanel {
   }
   NotePanelHost& host() const { return host_; }
   HWND Control(int id) const { return ::GetDlgItem(host_.PanelParent(), id); }
+  // Shows the glyph, or else the word; of a cell that can be narrow the glyph only while it is.
   void AddButton(int id, const wchar_t* word, wchar_t glyph, const PanelCell& cell);
   // A drop-down list, or a box to type in with a list (CBS_DROPDOWN).
   void AddCombo(int id, DWORD style, const wchar_t* word, const PanelCell& cell);
@@ -101,6 +102,7 @@ class NotePanel {
     int id;
     HWND handle;
     bool combo;
+    wchar_t narrow_glyph;
   };
 
   NotePanelHost& host_;

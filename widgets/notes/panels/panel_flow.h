@@ -13,6 +13,8 @@ struct PanelCell {
   int width = 24;
   int rank = 0;            // where there is no room the cells of the highest rank go first
   bool new_group = false;  // stands a little farther from the one before
+  int narrow = 0;          // its width where not all cells have room otherwise; 0: the same
+  bool grows = false;      // takes of what room is left when cells are narrow
 };
 
 inline constexpr int kPanelRow = 24;  // the height of a row
@@ -28,9 +30,9 @@ constexpr int PanelHeight(int rows) {
 int RowsOfPanel(int width, int dpi, std::span<const PanelCell> cells);
 
 // The place of each cell in a panel of `panel` pixels, from its corner; empty where it has to be
-// left out. Cells stand in their order, from left to right and row by row; none is cut off, and
-// none stands alone at a row's end whose group goes on in the next, while there is room for the
-// group.
+// left out. Before one is, all that can be narrow are. Cells stand in their order, from left to
+// right and row by row; none is cut off, and none stands alone at a row's end whose group goes on
+// in the next, while there is room for the group.
 std::vector<Rect> FlowPanel(Size panel, int dpi, std::span<const PanelCell> cells);
 
 }  // namespace varnel
