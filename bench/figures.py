@@ -130,6 +130,10 @@ LIMITS = (
     Limit("note of 1 MB saved, against streaming it out to a file", most=1.3),
     Limit("10,000 notes listed and sorted, against FindFirstFile", most=1.6),
     Limit("first of 100 hits among 10,000 notes", most=0.3),
+    Limit("10,000 hits in a note of 1 MB replaced, against opening it", most=1.5),
+    Limit("dictionary of 170,000 words read", most=20),
+    Limit("suggestions for a word", most=10),
+    Limit("spelling of 1 MB, against bare look-ups", most=3),
     Limit("calculator log, a line added to 10,000 against none", most=1.2),
 )
 

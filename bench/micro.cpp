@@ -17,6 +17,7 @@ void Run(std::span<char*> words) {
 #ifdef _WIN32
   std::ranges::move(PlatformProbes(), std::back_inserter(probes));
   std::ranges::move(BoardPlatformProbes(), std::back_inserter(probes));
+  std::ranges::move(FindPlatformProbes(), std::back_inserter(probes));
   std::ranges::move(NotesPlatformProbes(), std::back_inserter(probes));
   std::ranges::move(PagePlatformProbes(), std::back_inserter(probes));
 #endif

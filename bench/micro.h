@@ -73,6 +73,7 @@ std::vector<Probe> BoardProbes();
 // Those that need the platform; none in a native build.
 std::vector<Probe> PlatformProbes();
 std::vector<Probe> BoardPlatformProbes();
+std::vector<Probe> FindPlatformProbes();
 std::vector<Probe> NotesPlatformProbes();
 std::vector<Probe> PagePlatformProbes();
 

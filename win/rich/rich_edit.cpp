@@ -15,20 +15,32 @@ namespace {
 
 constexpr LPARAM kNoLimit = 0x7FFFFFFE;
 
+// Nothing may be thrown through the control, so that what is becomes an error.
+
 struct Source {
-  std::string_view left;
+  std::string_view bytes;
+  const RichEdit::GoOn& go_on;
+  std::size_t taken = 0;
+
+  bool MayGoOn() const {
+    return !go_on || go_on(static_cast<int>(taken * 100 / std::max<std::size_t>(bytes.size(), 1)));
+  }
 };
 
 DWORD CALLBACK ReadPiece(DWORD_PTR cookie, BYTE* buffer, LONG size, LONG* count) {
-  std::string_view& left = reinterpret_cast<Source*>(cookie)->left;
-  const std::string_view piece = left.substr(0, static_cast<std::size_t>(size));
+  Source& source = *reinterpret_cast<Source*>(cookie);
+  try {
+    if (!source.MayGoOn()) return ERROR_CANCELLED;
+  } catch (const std::exception&) {
+    return ERROR_CANCELLED;
+  }
+  const auto piece = source.bytes.substr(source.taken, static_cast<std::size_t>(size));
   std::ranges::copy(piece, reinterpret_cast<char*>(buffer));
-  left.remove_prefix(piece.size());
+  source.taken += piece.size();
   *count = static_cast<LONG>(piece.size());
   return 0;
 }
 
-// Nothing may be thrown through the control, so that want of memory becomes an error.
 DWORD CALLBACK WritePiece(DWORD_PTR cookie, BYTE* buffer, LONG size, LONG* count) {
   try {
     reinterpret_cast<std::string*>(cookie)->append(reinterpret_cast<const char*>(buffer),
@@ -79,6 +91,7 @@ RichEdit::~RichEdit() {
 
 bool RichEdit::Create(HWND parent, int id, DWORD style, const CharacterFormat& format,
                       int undo_steps) {
+  undo_steps_ = undo_steps;
   if (!::LoadLibraryExW(L"msftedit.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32)) return false;
   handle_ = ::CreateWindowExW(
       0, MSFTEDIT_CLASS, L"",
@@ -132,7 +145,7 @@ void RichEdit::KeepUndoSafe() {
 
 LRESULT RichEdit::Answer(const ControlMessage& message) {
   if (message.message == WM_NCDESTROY) {
-    handle_ = nullptr;
+    if (handle_ == message.control) handle_ = nullptr;
   } else if (Intercept(message.message, message.wparam, message.lparam)) {
     return 0;
   }
@@ -216,8 +229,8 @@ void RichEdit::OnDrop(HDROP drop) {
 
 // --- content
 
-bool RichEdit::StreamIn(UINT format, std::string_view bytes) const {
-  Source source{bytes};
+bool RichEdit::StreamIn(UINT format, std::string_view bytes, const GoOn& go_on) const {
+  Source source{bytes, go_on};
   EDITSTREAM stream = {reinterpret_cast<DWORD_PTR>(&source), 0, ReadPiece};
   SendTo(EM_STREAMIN, format, stream);
   return stream.dwError == 0;
@@ -232,16 +245,16 @@ std::string RichEdit::StreamOut(UINT format) const {
   return bytes;
 }
 
-bool RichEdit::PutRtf(std::string_view rtf, Scope scope) {
-  return StreamIn(static_cast<UINT>(SF_RTF | StreamScope(scope)), rtf);
+bool RichEdit::PutRtf(std::string_view rtf, Scope scope, const GoOn& go_on) {
+  return StreamIn(static_cast<UINT>(SF_RTF | StreamScope(scope)), rtf, go_on);
 }
 
-bool RichEdit::PutText(std::wstring_view text, Scope scope) {
+bool RichEdit::PutText(std::wstring_view text, Scope scope, const GoOn& go_on) {
   // A line end of two units that falls on the edge of two pieces counts twice on some systems.
   const std::wstring units = WithSingleLineEnds(text);
   const std::string_view bytes(reinterpret_cast<const char*>(units.data()),
                                units.size() * sizeof(wchar_t));
-  return StreamIn(static_cast<UINT>(SF_TEXT | SF_UNICODE | StreamScope(scope)), bytes);
+  return StreamIn(static_cast<UINT>(SF_TEXT | SF_UNICODE | StreamScope(scope)), bytes, go_on);
 }
 
 void RichEdit::Replace(const std::wstring& text) {

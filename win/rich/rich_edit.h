@@ -67,12 +67,14 @@ class RichEdit {
 
   // --- content
 
-  // Puts formatted text in; false when it is none or is cut off, and then what could be read is in
-  // the control. The control must never see formatted text that nobody has looked through: deep
-  // nesting ends some versions of it.
-  bool PutRtf(std::string_view rtf, Scope scope = Scope::kAll);
+  // Asked while a text goes in, with the percentage that the control has taken; false stops it.
+  using GoOn = std::function<bool(int percent)>;
+  // Puts formatted text in; false when it is none, is cut off or was stopped, and then what could
+  // be read is in the control. The control must never see formatted text that nobody has looked
+  // through: deep nesting ends some versions of it.
+  bool PutRtf(std::string_view rtf, Scope scope = Scope::kAll, const GoOn& go_on = nullptr);
   // Puts plain text in, with line ends of any kind, in the format at that place.
-  bool PutText(std::wstring_view text, Scope scope = Scope::kAll);
+  bool PutText(std::wstring_view text, Scope scope = Scope::kAll, const GoOn& go_on = nullptr);
   // Replaces what is selected; one step to undo.
   void Replace(const std::wstring& text);
   // What is in the control. Both throw where it does not give all of that.
@@ -162,6 +164,29 @@ class RichEdit {
     RichEdit& edit_;
   };
 
+  // A new, empty control takes the place of the one that is there, with the same default format,
+  // look and behaviour; handle() is its handle. The former one stays in sight, untouched, until the
+  // new one is kept, so that a text on its way in can still be given up. Besides, some versions
+  // need minutes to empty a control of a long text, and no time to make another. Throws where the
+  // system refuses. Not while a Quietly lives, nor may one outlive it.
+  class Anew {
+   public:
+    explicit Anew(RichEdit& edit);
+    Anew(const Anew&) = delete;
+    Anew& operator=(const Anew&) = delete;
+    ~Anew();  // unless kept, the former control is back
+    void Keep();
+
+   private:
+    void PutBack();
+
+    RichEdit& edit_;
+    HWND former_;
+    int caret_;
+    RichRange selection_;
+    LONG pictures_;
+  };
+
  private:
   LRESULT Answer(const ControlMessage& message);
   void KeepUndoSafe();
@@ -179,13 +204,14 @@ class RichEdit {
     return Send(message, wparam, reinterpret_cast<LPARAM>(&record));
   }
   CharacterFormat FormatOf(WPARAM scope) const;
-  bool StreamIn(UINT format, std::string_view bytes) const;
+  bool StreamIn(UINT format, std::string_view bytes, const GoOn& go_on) const;
   std::string StreamOut(UINT format) const;
   ComPointer<IRichEditOle> Ole() const;
 
   Events events_;
   ControlHook hook_{[this](const ControlMessage& message) { return Answer(message); }};
   HWND handle_ = nullptr;
+  int undo_steps_ = 0;
   int quiet_ = 0;
   int caret_ = 0;  // where it was seen last
   RichRange last_selection_;

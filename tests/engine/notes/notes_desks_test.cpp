@@ -22,8 +22,8 @@ class PlainNote final : public EditedNote {
   void Select(TextRange range) override {
     selection = {std::min(range.begin, text.size()), std::min(range.end, text.size())};
   }
-  bool MakeEdits(std::span<const TextEdit> edits) override {
-    if (refuses) return false;
+  bool MakeEdits(std::span<const TextEdit> edits, const GoOn& go_on) override {
+    if (refuses || (go_on && !go_on(50))) return false;
     text = WithEdits(text, edits);
     ++steps;
     return true;
@@ -126,7 +126,10 @@ TEST_F(FindDesks, ReplaceAllAsOneStepAndSayBothMessages) {
   listener.Said();
   note.text = std::wstring(5000, L'a');
   cat.wanted = L"a";
-  desk.ReplaceAll(cat, [](std::size_t) { return false; });
+  for (const int stop : {0, 10}) {
+    desk.ReplaceAll(cat, [stop](int percent) { return percent < stop; });
+    EXPECT_EQ(listener.notice, L"Stopped: nothing was replaced") << stop;
+  }
   note.refuses = true;
   desk.ReplaceAll(cat, nullptr);
   EXPECT_EQ(note.text, std::wstring(5000, L'a'));

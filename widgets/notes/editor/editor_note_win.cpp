@@ -2,6 +2,7 @@
 
 #include <richedit.h>
 
+#include <algorithm>
 #include <utility>
 
 #include "widgets/notes/rtf/rtf_edits.h"
@@ -19,8 +20,18 @@ RichRange ToRich(std::size_t begin, std::size_t end) {
 
 }  // namespace
 
-std::wstring EditorNote::Units() const {
+std::wstring EditorNote::AllUnits() const {
   return editor_.edit().Units({0, editor_.edit().Length()});
+}
+
+std::wstring EditorNote::Units() const {
+  std::wstring units = AllUnits();
+  for (const TextRange& hidden : editor_.Hidden()) {
+    for (std::size_t at = hidden.begin; at < std::min(hidden.end, units.size()); ++at) {
+      if (units[at] != kParagraphEnd) units[at] = kObject;
+    }
+  }
+  return units;
 }
 
 TextRange EditorNote::Selection() const {
@@ -34,7 +45,7 @@ void EditorNote::Select(TextRange range) {
 }
 
 std::optional<EditorNote::State> EditorNote::Now() {
-  State now{Units(), {}};
+  State now{AllUnits(), {}};
   if (!editor_.rich()) return now;
   auto rtf = editor_.Bytes(NoteType::kRtf);
   if (!rtf) return std::nullopt;
@@ -42,7 +53,7 @@ std::optional<EditorNote::State> EditorNote::Now() {
   return now;
 }
 
-bool EditorNote::MakeEdits(std::span<const TextEdit> edits) {
+bool EditorNote::MakeEdits(std::span<const TextEdit> edits, const GoOn& go_on) {
   if (edits.empty()) return true;
   if (edits.size() == 1) {
     MakeOneByOne(edits);
@@ -50,10 +61,14 @@ bool EditorNote::MakeEdits(std::span<const TextEdit> edits) {
   }
   auto before = Now();
   if (!before) return false;
-  if (!MakeInWhole(edits, *before)) {
+  auto after = After(edits, *before);
+  if (after) {
+    if (!Put(*after, go_on)) return false;
+  } else {
     const RichEdit::Quietly quietly(editor_.edit());
     MakeOneByOne(edits);
     editor_.edit().ForgetUndo();
+    after = Now();
   }
   std::size_t caret = edits.back().position + edits.back().text.size();
   for (const TextEdit& edit : edits.first(edits.size() - 1)) {
@@ -61,7 +76,6 @@ bool EditorNote::MakeEdits(std::span<const TextEdit> edits) {
   }
   Select({caret, caret});
   Changed();
-  auto after = Now();
   if (!after) return true;
   undone_.clear();
   done_.push_back({std::move(*before), std::move(*after)});
@@ -69,17 +83,17 @@ bool EditorNote::MakeEdits(std::span<const TextEdit> edits) {
   return true;
 }
 
-// False when the editor's text cannot be told from what it writes.
-bool EditorNote::MakeInWhole(std::span<const TextEdit> edits, const State& before) {
-  if (before.rtf.empty()) {
-    Put({WithEdits(before.units, edits), {}});
-    return true;
-  }
+// What the edits make of a text; nothing when the editor's text cannot be told from what it writes.
+std::optional<EditorNote::State> EditorNote::After(std::span<const TextEdit> edits,
+                                                   const State& before) const {
+  if (before.rtf.empty()) return State{WithEdits(before.units, edits), {}};
   RtfReading reading = ReadRtf(before.rtf, SystemRtfOrigin());
-  if (reading.fault != RtfFault::kNone || reading.document.text != before.units) return false;
+  if (reading.fault != RtfFault::kNone || reading.document.text != before.units) {
+    return std::nullopt;
+  }
   ApplyEdits(reading.document, edits);
-  Put({reading.document.text, WriteRtf(reading.document)});
-  return true;
+  std::string rtf = WriteRtf(reading.document);
+  return State{std::move(reading.document.text), std::move(rtf)};
 }
 
 void EditorNote::MakeOneByOne(std::span<const TextEdit> edits) {
@@ -91,16 +105,9 @@ void EditorNote::MakeOneByOne(std::span<const TextEdit> edits) {
   }
 }
 
-void EditorNote::Put(const State& state) {
-  if (!state.rtf.empty()) {
-    editor_.Show(NoteType::kRtf, state.rtf);
-    return;
-  }
-  const NoteEditor::Loading loading(editor_);
-  const CharacterFormat base = editor_.edit().DefaultFormat();
-  editor_.edit().PutText(state.units);
-  editor_.edit().SetFormat(base, RichEdit::Scope::kAll);
-  editor_.edit().ForgetUndo();
+bool EditorNote::Put(const State& state, const GoOn& go_on) {
+  return state.rtf.empty() ? editor_.ShowUnits(state.units, go_on)
+                           : editor_.ShowOther(state.rtf, go_on);
 }
 
 // The user did it, though the program has put it in.
@@ -109,7 +116,7 @@ void EditorNote::Changed() {
 }
 
 bool EditorNote::CanUndo() const {
-  return !done_.empty() && !editor_.edit().CanUndo() && Units() == done_.back().after.units;
+  return !done_.empty() && !editor_.edit().CanUndo() && AllUnits() == done_.back().after.units;
 }
 
 bool EditorNote::Undo() {
@@ -123,7 +130,7 @@ bool EditorNote::Undo() {
 
 bool EditorNote::CanRedo() const {
   return !undone_.empty() && !editor_.edit().CanUndo() && !editor_.edit().CanRedo() &&
-         Units() == undone_.back().before.units;
+         AllUnits() == undone_.back().before.units;
 }
 
 bool EditorNote::Redo() {

@@ -18,8 +18,9 @@ class EditorNote : public EditedNote {
   TextRange Selection() const override;
   void Select(TextRange range) override;
   // One edit is a step of the editor's own. More are made in the whole text at once; the editor
-  // forgets its steps, and the next undo of this class brings the former text back.
-  bool MakeEdits(std::span<const TextEdit> edits) override;
+  // forgets its steps, and the next undo of this class brings the former text back. `go_on` is
+  // asked in long texts alone.
+  bool MakeEdits(std::span<const TextEdit> edits, const GoOn& go_on) override;
 
   // Takes back a step of many edits, or makes it again. False when the editor has a step of its own
   // to take first, or there is none.
@@ -40,10 +41,11 @@ class EditorNote : public EditedNote {
     State after;
   };
 
+  std::wstring AllUnits() const;
   std::optional<State> Now();
-  bool MakeInWhole(std::span<const TextEdit> edits, const State& before);
+  std::optional<State> After(std::span<const TextEdit> edits, const State& before) const;
   void MakeOneByOne(std::span<const TextEdit> edits);
-  void Put(const State& state);
+  bool Put(const State& state, const GoOn& go_on = nullptr);
   void Changed();
 
   NoteEditor& editor_;

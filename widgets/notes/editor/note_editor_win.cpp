@@ -129,9 +129,9 @@ void NoteEditor::StartEmpty(NoteType type) {
 }
 
 void NoteEditor::ShowText(const std::wstring& text) {
-  {
-    const Loading loading(*this);
-    pictures_.Clear();
+  pictures_.Clear();
+  hides_ = false;
+  const auto put = [&](const RichEdit::GoOn&) {
     edit_.PutText({});
     edit_.SetDefaultFormat(base_);
     edit_.Select({0, 0});
@@ -149,9 +149,8 @@ void NoteEditor::ShowText(const std::wstring& text) {
       edit_.SetFormat(base_, RichEdit::Scope::kAll);
       edit_.Select({0, 0});
     }
-    edit_.ForgetUndo();
-  }
-  TakeText();
+  };
+  PutIn(put, nullptr);
 }
 
 NoteContent::Shown NoteEditor::Show(NoteType type, const std::string& bytes) {
@@ -160,16 +159,7 @@ NoteContent::Shown NoteEditor::Show(NoteType type, const std::string& bytes) {
   if (type == NoteType::kRtf) {
     const SafeRtfResult result = TakePicturesOut(bytes, SystemRtfOrigin());
     if (result.fault == RtfFault::kNone) {
-      {
-        const Loading loading(*this);
-        pictures_.Clear();
-        edit_.SetDefaultFormat(base_);
-        edit_.PutRtf(result.safe.rtf);
-        FinishRtf(result.safe, 0);
-        edit_.Select({0, 0});
-        edit_.ForgetUndo();
-      }
-      TakeText();
+      ShowSafe(result.safe, nullptr);
       return {type, {}};
     }
     // Its very bytes are kept where it is no more than a text.
@@ -297,6 +287,7 @@ bool NoteEditor::InsertRtf(std::string_view rtf) {
   if (!rich()) return InsertText(safe.document.text);
   {
     const Loading loading(*this);
+    hides_ = hides_ || HidesText(safe.document);
     const RichParagraph paragraph = edit_.SelectionParagraph();
     const int begin = edit_.Selection().from;
     const int former = edit_.Length() - (edit_.Selection().to - begin);

@@ -14,6 +14,7 @@
 #include "widgets/notes/rtf/rtf_pictures.h"
 #include "widgets/notes/text/note_text.h"
 #include "widgets/notes/text/text_file.h"
+#include "widgets/notes/text/text_words.h"
 #include "win/rich/rich_edit.h"
 
 namespace varnel {
@@ -56,6 +57,12 @@ class NoteEditor : public NoteContent {
 
   void StartEmpty(NoteType type) override;
   Shown Show(NoteType type, const std::string& bytes) override;
+  // Shows another state of the note: formatted text, or units of a plain one. `go_on` is asked only
+  // where that takes long; when it stops it, false is given and nothing has changed.
+  bool ShowOther(const std::string& rtf, const RichEdit::GoOn& go_on);
+  bool ShowUnits(const std::wstring& units, const RichEdit::GoOn& go_on);
+  // What of the text is not shown, in ascending order.
+  std::vector<TextRange> Hidden() const;
   std::optional<std::string> Bytes(NoteType type) override;
   // The same for what is selected alone.
   std::optional<std::string> SelectedRtf();
@@ -95,6 +102,9 @@ class NoteEditor : public NoteContent {
   std::wstring PlainText() const;
   std::optional<std::string> Whole(std::string rtf, std::span<const RichPicture> pictures) const;
   void ShowText(const std::wstring& text);
+  static bool HidesText(const RtfDocument& document);
+  bool ShowSafe(const SafeRtf& safe, const RichEdit::GoOn& go_on);
+  bool PutIn(const std::function<void(const RichEdit::GoOn&)>& put, const RichEdit::GoOn& go_on);
   // What the control did not read of a text that stands from `begin` on, and its pictures.
   void FinishRtf(const SafeRtf& safe, int begin);
   void SetLostFormats(const RtfDocument& document, int begin);
@@ -109,7 +119,8 @@ class NoteEditor : public NoteContent {
   NoteText text_;
   bool text_is_old_ = false;
   NotePictures pictures_;
-  TextForm form_;  // of a plain text
+  TextForm form_;       // of a plain text
+  bool hides_ = false;  // some of the text may be hidden
   int loading_ = 0;
 };
 

@@ -1,5 +1,6 @@
 #include "widgets/notes/find/find_desk.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "base/number_text.h"
@@ -8,6 +9,7 @@ namespace varnel {
 namespace {
 
 constexpr std::wstring_view kFromStart = L"From the start again: ";
+constexpr int kSearchShare = 5;  // of 100 parts that replacing takes, the search
 
 TextFinder FinderOf(const FindWishes& wishes) {
   return {wishes.wanted, FindOptionsWord(wishes.whole_words, wishes.match_case)};
@@ -93,21 +95,34 @@ void FindDesk::Replace(const FindWishes& wishes) {
   const FindSearch::Replacing done =
       search_.Replace(text, note_.Selection(), finder, wishes.replacement);
   if (done.found || !done.edit) Found(done.found, text, finder, kFromStart);
-  if (done.edit && note_.MakeEdits({&*done.edit, 1})) left_ = note_.Selection();
+  if (done.edit && note_.MakeEdits({&*done.edit, 1}, nullptr)) left_ = note_.Selection();
   Remember(wishes, true);
 }
 
-void FindDesk::ReplaceAll(const FindWishes& wishes, const std::function<bool(std::size_t)>& go_on) {
+void FindDesk::ReplaceAll(const FindWishes& wishes, const EditedNote::GoOn& go_on) {
   if (wishes.wanted.empty()) return;
   const TextFinder finder = FinderOf(wishes);
   search_.Prepare(finder, wishes.wanted, 0);
+  const std::size_t before = search_.position();
   const std::wstring text = note_.Units();
-  const Replacements all = search_.ReplaceEvery(text, finder, wishes.replacement, go_on);
-  const bool done = !all.stopped && (all.edits.empty() || note_.MakeEdits(all.edits));
+  bool stopped = false;
+  const EditedNote::GoOn ask = [&](int percent) {
+    stopped = stopped || (go_on && !go_on(percent));
+    return !stopped;
+  };
+  const Replacements all =
+      search_.ReplaceEvery(text, finder, wishes.replacement, [&](std::size_t done) {
+        return ask(static_cast<int>(done * kSearchShare / std::max<std::size_t>(text.size(), 1)));
+      });
+  const bool done =
+      !all.stopped && (all.edits.empty() || note_.MakeEdits(all.edits, [&](int percent) {
+        return ask(kSearchShare + percent * (100 - kSearchShare) / 100);
+      }));
   Remember(wishes, true);
   if (!done) {
-    voice_.Notice(all.stopped ? L"Stopped: nothing was replaced"
-                              : L"The note is too large for this: nothing was replaced");
+    search_.StartAt(before);
+    voice_.Notice(stopped ? L"Stopped: nothing was replaced"
+                          : L"The note is too large for this: nothing was replaced");
     return;
   }
   may_replace_ = false;

@@ -1,7 +1,6 @@
 // What the buttons of the find panel do to the note in the editor.
 #pragma once
 
-#include <functional>
 #include <string>
 
 #include "widgets/notes/editor/edited_note.h"
@@ -36,8 +35,8 @@ class FindDesk {
   bool FindNext(const FindWishes& wishes);
   bool FindPrevious(const FindWishes& wishes);
   void Replace(const FindWishes& wishes);
-  // `go_on` as in ReplaceAll of the texts.
-  void ReplaceAll(const FindWishes& wishes, const std::function<bool(std::size_t)>& go_on);
+  // When `go_on` stops it, the note is as it was.
+  void ReplaceAll(const FindWishes& wishes, const EditedNote::GoOn& go_on);
 
  private:
   void Remember(const FindWishes& wishes, bool both);

@@ -27,6 +27,14 @@ bool Held(int key) {
   return ::GetKeyState(key) < 0;
 }
 
+// Whether Esc is or was pressed since the last call, while this program has the keyboard.
+bool EscPressed() {
+  const bool pressed = ::GetAsyncKeyState(VK_ESCAPE) != 0;
+  DWORD process = 0;
+  ::GetWindowThreadProcessId(::GetForegroundWindow(), &process);
+  return pressed && process == ::GetCurrentProcessId();
+}
+
 }  // namespace
 
 FindPanel::FindPanel(NotePanelHost& host, EditedNote& note)
@@ -179,15 +187,16 @@ bool FindPanel::FindAgain(bool backwards) {
 
 void FindPanel::ReplaceAll() {
   const ULONGLONG started = ::GetTickCount64();
-  const std::size_t length = std::max<std::size_t>(note_.Units().size(), 1);
+  int told = -1;
+  EscPressed();  // what was pressed before does not count
   {
     const HourglassPointer pointer;
-    desk_.ReplaceAll(Wishes(), [this, started, length](std::size_t done) {
-      if (::GetTickCount64() - started < kQuietMs) return true;
-      voice_.Notice(L"Replacing: " + NumberText(static_cast<long long>(done * 100 / length)) +
-                    L" %. Esc stops");
-      ::UpdateWindow(host().PanelParent());
-      return (::GetAsyncKeyState(VK_ESCAPE) & 0x8000) == 0;
+    desk_.ReplaceAll(Wishes(), [&](int percent) {
+      if (::GetTickCount64() - started >= kQuietMs && std::exchange(told, percent) != percent) {
+        voice_.Notice(L"Replacing: " + NumberText(percent) + L" %. Esc stops");
+        ::UpdateWindow(host().PanelParent());
+      }
+      return !EscPressed();
     });
   }
   ShowHistories();

@@ -49,7 +49,7 @@ void SpellDesk::Check() {
 }
 
 void SpellDesk::MakeEdits(std::span<const TextEdit> edits) {
-  if (edits.empty() || note_.MakeEdits(edits)) {
+  if (edits.empty() || note_.MakeEdits(edits, nullptr)) {
     text_ = note_.Units();
   } else {
     // The checker counts on the edits.
