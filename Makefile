@@ -1,6 +1,6 @@
 # The front door. Each target installs what is missing first, so it works on a fresh machine.
 
-.PHONY: run test bench fuzz shots package tidy format clean prepare
+.PHONY: run test bench fuzz shots package try-package tidy format clean prepare
 
 # Starts the program; without a display, on a virtual one, leaving a picture in build/desktop.png.
 run: prepare
@@ -22,9 +22,13 @@ fuzz: prepare
 shots: prepare
 	@tools/shots.sh
 
-# Makes the archive to hand out, in build/package.
+# Makes what is handed out, in build/package: the installer and an archive.
 package: prepare
 	@tools/package.sh
+
+# Installs, uses, upgrades and removes it in a fresh Wine prefix.
+try-package: package
+	@tools/try_package.sh
 
 # Reviews the engines with clang-tidy.
 tidy: prepare
