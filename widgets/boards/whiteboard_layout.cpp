@@ -9,8 +9,8 @@ namespace {
 constexpr int kToolSide = 24;
 constexpr int kColours = kPens - 1;  // without the eraser
 constexpr int kListWidth = 116;
-constexpr int kWideListWidth = 146;  // holds the name of a new board in full
-constexpr int kWidePanel = 460;      // from here on
+constexpr int kWideListWidth = 162;  // holds the name of a new board in full
+constexpr int kWidePanel = 480;      // from here on
 constexpr int kRowHeight = 62;
 constexpr int kRowGap = 6;  // between the cards
 constexpr int kPictureWidth = 54;
