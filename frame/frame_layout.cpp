@@ -8,6 +8,11 @@ namespace {
 constexpr int kBorder = 1;
 constexpr int kButtonWidth = 28;
 constexpr int kGlyphWidth = 26;
+// Below this width the title goes before its symbol, and the buttons are as narrow as a finger lets
+// them be.
+constexpr int kNarrow = 190;
+constexpr int kNarrowButton = 24;
+constexpr int kTitleMargin = 6;
 
 }  // namespace
 
@@ -20,14 +25,17 @@ FrameLayout LayOutFrame(Size size, int dpi) {
   frame.pfrPANEL = {inner.left, bar_bottom, inner.right, strip_top};
   frame.picBOTTOMSTRIP = {inner.left, strip_top, inner.right, inner.bottom};
 
+  const bool narrow = inner.width() < Scaled(kNarrow, dpi);
+  const int button_width = Scaled(narrow ? kNarrowButton : kButtonWidth, dpi);
   int right = inner.right;
   for (int i = kBarButtonCount - 1; i >= 0; --i) {
-    const int left = std::max(inner.left, right - Scaled(kButtonWidth, dpi));
+    const int left = std::max(inner.left, right - button_width);
     frame.bar_buttons[i] = {left, inner.top, right, bar_bottom};
     right = left;
   }
-  const int glyph_right = std::min(right, inner.left + Scaled(kGlyphWidth, dpi));
-  frame.title_glyph = {inner.left, inner.top, glyph_right, bar_bottom};
+  const int glyph_right =
+      std::min(right, inner.left + Scaled(narrow ? kTitleMargin : kGlyphWidth, dpi));
+  if (!narrow) frame.title_glyph = {inner.left, inner.top, glyph_right, bar_bottom};
   frame.title_text = {glyph_right, inner.top, right, bar_bottom};
 
   const Rect& strip = frame.picBOTTOMSTRIP;

@@ -22,7 +22,8 @@ struct FrameLayout {
   bool operator==(const FrameLayout&) const = default;
 };
 
-// The frame of a window of `size` pixels at `dpi`. Parts that a very small window has no room for
+// The frame of a window of `size` pixels at `dpi`. In a narrow one the title has the room of its
+// symbol, which is left out. Parts that a very small window has no room for
 // are empty; no part lies outside the window.
 FrameLayout LayOutFrame(Size size, int dpi);
 

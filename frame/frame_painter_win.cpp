@@ -20,17 +20,22 @@ void PaintBar(Surface& surface, const FramePainting& frame) {
   PutImage(surface, {bar.left, bar.top}, image);
 }
 
-// Three short diagonal lines in the corner that sizes the window.
+// A triangle of dots in the corner that sizes the window.
 void PaintGrip(Surface& surface, const FramePainting& frame) {
-  const Colour colour = WritingOf(StripTextStyle(frame.paint, frame.dpi)).colour;
+  constexpr int kRows = 3;
+  constexpr int kShare = 170;  // of the ink in the dots' colour
+  const WidgetPaint& paint = frame.paint;
+  const Colour ink = WritingOf(StripTextStyle(paint, frame.dpi)).colour;
+  const Colour colour =
+      paint.high_contrast ? ink : Blend(ink, paint.chrome.ground, kShare, PlainColours());
   const Rect& grip = frame.layout.size_grip;
-  const int step = std::max(3, Scaled(4, frame.dpi));
-  const int edge = Scaled(3, frame.dpi);
-  const UniquePen pen(::CreatePen(PS_SOLID, std::max(1, Scaled(1, frame.dpi)), colour));
-  const SelectedObject selected(surface.dc(), pen.get());
-  for (int i = 1; i <= 3; ++i) {
-    ::MoveToEx(surface.dc(), grip.right - edge - i * step, grip.bottom - edge, nullptr);
-    ::LineTo(surface.dc(), grip.right - edge + 1, grip.bottom - edge - i * step - 1);
+  const int side = std::max(1, Scaled(2, frame.dpi));
+  const Point corner{grip.right - Scaled(4, frame.dpi), grip.bottom - Scaled(4, frame.dpi)};
+  for (int row = 0; row < kRows; ++row) {
+    for (int column = 0; column < kRows - row; ++column) {
+      const Point end{corner.x - 2 * side * column, corner.y - 2 * side * row};
+      FillRectangle(surface.dc(), {end.x - side, end.y - side, end.x, end.y}, colour);
+    }
   }
 }
 

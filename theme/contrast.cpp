@@ -15,6 +15,10 @@ double Linear(int channel) {
   return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
 }
 
+bool TakesDarkInk(Colour ground) {
+  return ContrastRatio(kBlack, ground) >= ContrastRatio(kWhite, ground);
+}
+
 // The end, black or white, towards which a halo for `text` starts out from `theme`.
 Colour HaloEnd(Colour text, Colour theme, double needed) {
   const bool darker = RelativeLuminance(theme) <= RelativeLuminance(text);
@@ -69,23 +73,27 @@ Colour OutlineColour(Colour wished, Colour ground) {
 
 Colour InkColour(Colour ground, Colour theme, const SystemColours& system) {
   const Colour behind = Translate(ground, system);
-  const bool dark = ContrastRatio(kBlack, behind) >= ContrastRatio(kWhite, behind);
-  return Shade(Translate(theme, system), dark ? kBlack : kWhite, behind, kReadableContrast, system);
+  return Shade(Translate(theme, system), TakesDarkInk(behind) ? kBlack : kWhite, behind,
+               kReadableContrast, system);
 }
 
 Writing WritingOf(Colour text, Colour ground, Colour theme, bool large, bool prefer_ink,
                   const SystemColours& system) {
   const Colour colour = Translate(text, system);
-  const double own = ContrastRatio(colour, Translate(ground, system));
+  const Colour behind = Translate(ground, system);
+  const double own = ContrastRatio(colour, behind);
   const double needed = large ? kReadableLargeContrast : kReadableContrast;
-  if (own >= needed) return {colour, std::nullopt};
+  // Dark letters on a dark ground look dull even where they reach what large text needs.
+  const bool dull = own < kReadableContrast && !TakesDarkInk(behind) &&
+                    RelativeLuminance(colour) < RelativeLuminance(behind);
+  if (own >= needed && !dull) return {colour, std::nullopt};
   const bool far_off = own < (large ? kLargeInkContrast : kSmallInkContrast);
   const double with_reserve = needed * kHaloReserve;
   const auto halo = HaloColour(colour, ground, theme, with_reserve, system);
   const bool weak = ContrastRatio(colour, *halo) < with_reserve;
-  const bool darker = RelativeLuminance(colour) < RelativeLuminance(Translate(ground, system));
+  const bool darker = RelativeLuminance(colour) < RelativeLuminance(behind);
   const bool thickens = (RelativeLuminance(*halo) < RelativeLuminance(colour)) == darker;
-  if (prefer_ink || far_off || thickens || weak)
+  if (prefer_ink || far_off || dull || thickens || weak)
     return {InkColour(ground, theme, system), std::nullopt};
   return {colour, halo};
 }

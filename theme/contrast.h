@@ -46,10 +46,12 @@ struct Writing {
 };
 
 // How a text of the colour `text` is written so that it can be read. One that has the contrast it
-// needs keeps its colour. Of the others those go to ink that are far from it, small text below
-// kSmallInkContrast and large text below kLargeInkContrast; those whose halo would only thicken
-// them, as it would lie beyond them as seen from the ground, or would be too weak; and those that
-// `prefer_ink`. The rest keep their colour and get a slim halo, with some contrast to spare.
+// needs keeps its colour, but for dark letters on a ground that asks for light ones: below
+// kReadableContrast they go to ink whatever their size. Of the others those go to ink that are far
+// from it, small text below kSmallInkContrast and large text below kLargeInkContrast; those whose
+// halo would only thicken them, as it would lie beyond them as seen from the ground, or would be
+// too weak; and those that `prefer_ink`. The rest keep their colour and get a slim halo, with some
+// contrast to spare.
 inline constexpr double kSmallInkContrast = 3;
 inline constexpr double kLargeInkContrast = 2;
 Writing WritingOf(Colour text, Colour ground, Colour theme, bool large, bool prefer_ink,

@@ -24,7 +24,9 @@ TEST(FrameLayout, PartsStayInsideAndApartAtEverySize) {
       ExpectApart({frame.status_text, frame.size_grip}, frame.picBOTTOMSTRIP);
       std::vector<Rect> bar(frame.bar_buttons.begin(), frame.bar_buttons.end());
       bar.push_back(frame.title_text);
+      if (!frame.title_glyph.empty()) bar.push_back(frame.title_glyph);
       ExpectApart(bar, frame.pfrBAR);
+      EXPECT_GE(frame.title_text.width(), std::min(size.width, Scaled(160, dpi)) / 2);
       for (const Rect& button : frame.bar_buttons) {
         EXPECT_GE(button.width(), 24);
         EXPECT_GE(button.height(), 24);

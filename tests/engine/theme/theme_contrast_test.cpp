@@ -65,11 +65,16 @@ TEST(Writing, KeepsItsColourGetsAHaloOrGoesToInk) {
     int kind;
   } cases[] = {{kPink, kWhite, true, true, kPlain},  // enough for large text
                {kPink, kWhite, false, false, kInk},  // a halo would only thicken it
-               {kWhite, kPink, false, false, kHalo},   {kWhite, kPink, false, true, kInk},
-               {kWhite, kGold, true, false, kHalo},    {kWhite, kGold, false, false, kInk},
-               {kGold, kWhite, true, false, kInk},     {kWhite, kSilver, true, false, kInk},
-               {kBlack, kBlack, false, false, kInk},   {kBlack, kWhite, false, true, kPlain},
-               {0x606060, 0x202020, true, false, kInk}};
+               {kWhite, kPink, false, false, kHalo},
+               {kWhite, kPink, false, true, kInk},
+               {kWhite, kGold, true, false, kHalo},
+               {kWhite, kGold, false, false, kInk},
+               {kGold, kWhite, true, false, kInk},
+               {kWhite, kSilver, true, false, kInk},
+               {kBlack, kBlack, false, false, kInk},
+               {kBlack, kWhite, false, true, kPlain},
+               {0x606060, 0x202020, true, false, kInk},
+               {0x101010, 0x646464, true, false, kInk}};  // enough, but dull
   for (const auto& test : cases) {
     const Writing writing =
         WritingOf(test.text, test.ground, kPink, test.large, test.prefer_ink, kSystem);
