@@ -42,20 +42,30 @@ void CheckControls(HWND form) {
   }
 }
 
+// The picture of a form that has painted all that it has to.
+Picture PaintedPictureOf(HWND form) {
+  Send(form, WM_NULL);
+  ::RedrawWindow(form, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+  return StillPictureOf(form);
+}
+
 // What is on the screen is what the form paints when all of it is painted anew.
 bool IsWhole(HWND form) {
-  const Picture before = StillPictureOf(form);
+  const Picture before = PaintedPictureOf(form);
   ::RedrawWindow(form, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
-  return StillPictureOf(form) == before;
+  return PaintedPictureOf(form) == before;
 }
 
 void CheckPixels(HWND form, Size former, Size size) {
   if (IsWhole(form)) return;
-  // On a busy machine the first picture may have come too early; true remains come back.
-  Resize(form, former);
-  StillPictureOf(form);
-  Resize(form, size);
-  EXPECT_TRUE(IsWhole(form)) << "something is left of what was there";
+  // What comes from outside (the weather, a list's pictures) may have come between the two
+  // pictures; true remains come back each time.
+  EXPECT_TRUE(WaitUntil([&] {
+    Resize(form, former);
+    PaintedPictureOf(form);
+    Resize(form, size);
+    return IsWhole(form);
+  })) << "something is left of what was there";
 }
 
 class Look : public Scene {
