@@ -26,6 +26,7 @@ ManagerForm::ManagerForm(Services& services, WidgetHost& host)
   commands().Bind({{L"mnuVRNFRONT", mode(0), any_open},
                    {L"mnuVRNARRANGE", mode(3), any_open},
                    {L"mnuVRNCLOSEALL", mode(8), any_open}});
+  buttons().TellMore([this](int id) { return IsTile(id) ? SummaryOf(id - lblNUMBER) : L""; });
 }
 
 void ManagerForm::OnLoad() {
@@ -49,7 +50,7 @@ void ManagerForm::LayOutPanel(const Rect& panel) {
 void ManagerForm::DrawPanelButton(const ButtonPainting& painting) {
   const int index = painting.button.id - lblNUMBER;
   const bool open = states_.IsOpen(index);
-  const bool out_of_sight = open && host_.SightOfWidget(index) != Sight::kShown;
+  const bool in_sight = open && host_.SightOfWidget(index) == Sight::kShown;
   ButtonPainting tile = painting;
   if (!tile.enabled) tile.colours = {chrome().ground, chrome().border};
   PaintButtonFace(tile, dpi());
@@ -57,13 +58,13 @@ void ManagerForm::DrawPanelButton(const ButtonPainting& painting) {
   const TileLayout parts = LayOutTile({painting.bounds.width(), painting.bounds.height()}, dpi());
   TextStyle style = PanelTextStyle(parts.caption_height);
   style.ground = tile.colours.first;
-  style.faint = !tile.enabled || out_of_sight;
+  style.faint = !tile.enabled;
   // Glyph, caption and star read as one.
   style.prefer_ink = ContrastRatio(style.colour, style.ground) < kSmallInkContrast;
   PaintText(ui(), painting.surface, parts.caption, std::wstring(widget.title), style);
   style.font = {kIconFontName, parts.glyph_height, false};
   PaintText(ui(), painting.surface, parts.glyph,
-            std::wstring(1, open ? widget.open_glyph : widget.glyph), style);
+            std::wstring(1, in_sight ? widget.open_glyph : widget.glyph), style);
   if (!tile.enabled) return;
   style.font.height = parts.star_height;
   PaintText(ui(), painting.surface, parts.lblSTARRED, std::wstring(1, open ? kStar : kEmptyStar),
@@ -99,6 +100,11 @@ void ManagerForm::ShowSight(int index) {
   buttons().SetText(
       lblNUMBER + index,
       std::wstring(WidgetAt(index)->title).append(states_.IsOpen(index) ? kWords[sight] : L""));
+}
+
+std::wstring ManagerForm::SummaryOf(int index) const {
+  const LiveForm* form = services().forms.Find(WidgetAt(index)->form_name);
+  return form ? form->Summary() : std::wstring();
 }
 
 void ManagerForm::ShowIcons() {

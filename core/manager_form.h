@@ -56,6 +56,8 @@ class ManagerForm : public WidgetForm, private WidgetWindows {  // frmVRNwg
   void Mark(int index, bool open) override;
   // A click on a tile: a widget that is open but out of sight comes back, any other is toggled.
   void OnTile(int index);
+  // What the widget shows now; empty for one that is closed.
+  std::wstring SummaryOf(int index) const;
   bool SecondClickCounts(int id) const override;
 
   void OnLoad() override;

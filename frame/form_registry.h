@@ -33,6 +33,8 @@ class LiveForm {
   virtual bool on_top() const = 0;
   // Keeps this window above others or not, now and later, whatever the setting for all says.
   virtual void SetOnTop(bool on) = 0;
+  // What the form shows at this moment, in a few words; empty where there is nothing to tell.
+  virtual std::wstring Summary() const = 0;
 };
 
 class FormRegistry {

@@ -1,5 +1,7 @@
 #include "frame/text_buttons_form.h"
 
+#include <oleacc.h>
+
 #include <algorithm>
 #include <utility>
 
@@ -45,6 +47,32 @@ LRESULT TextButtons::Answer(const ControlMessage& message) const {
   const ButtonCheck check = check_of_(::GetDlgCtrlID(message.control));
   if (check == ButtonCheck::kOff) return result;
   return result | (check == ButtonCheck::kOn ? BST_CHECKED : BST_INDETERMINATE);
+}
+
+std::optional<LRESULT> TextButtons::OnAsked(HWND button, WPARAM wparam) {
+  const auto found = std::ranges::find(buttons_, button, &TextButton::handle);
+  if (found == buttons_.end()) return {};
+  return AccessibleOf(found->id).OnMessage(button, WM_GETOBJECT, wparam, OBJID_CLIENT);
+}
+
+Accessible& TextButtons::AccessibleOf(int id) {
+  std::unique_ptr<Accessible>& accessible = accessibles_[id];
+  if (!accessible) {
+    AccessibleSource source;
+    source.whole = [this, id] {
+      const ButtonCheck check = check_of_ ? check_of_(id) : ButtonCheck::kOff;
+      AccessiblePart whole{WindowText(Find(id)->handle), ROLE_SYSTEM_PUSHBUTTON};
+      if (check == ButtonCheck::kOn) whole.state = STATE_SYSTEM_PRESSED;
+      if (check == ButtonCheck::kMixed) whole.state = STATE_SYSTEM_MIXED;
+      if (more_of_) whole.description = more_of_(id);
+      whole.action = L"Press";
+      return whole;
+    };
+    // Later, for a press may open a menu or a question, and whoever asked waits meanwhile.
+    source.act = [this, id] { ::PostMessageW(Find(id)->handle, BM_CLICK, 0, 0); };
+    accessible = std::make_unique<Accessible>(std::move(source));
+  }
+  return *accessible;
 }
 
 const TextButton* TextButtons::Find(int id) const {
@@ -112,17 +140,26 @@ void TextButtons::OnMouseOver(HWND control) {
   (found->on_bar ? tmrBARBTNS_ : tmrPANBTNS_).Start();
 }
 
+std::wstring TextButtons::TooltipText(const TextButton& button) const {
+  std::wstring text = button.tells_word ? WindowText(button.handle) : L"";
+  if (!text.empty() && !button.key.empty()) text += L" (" + button.key + L")";
+  const std::wstring more = more_of_ ? more_of_(button.id) : L"";
+  if (!text.empty() && !more.empty()) text += L": ";
+  return text + more;
+}
+
 void TextButtons::ShowTooltip(const TextButton& button) {
-  std::wstring word = button.tells_word ? WindowText(button.handle) : L"";
-  if (!word.empty() && !button.key.empty()) word += L" (" + button.key + L")";
-  tooltip_.Attach(owner_.handle(), button.handle, word);
+  tooltip_.Attach(owner_.handle(), button.handle, TooltipText(button));
 }
 
 void TextButtons::HoverTick(Timer& timer) {
   POINT point = {};
   ::GetCursorPos(&point);
   const TextButton* button = hovered();
-  if (button && ::WindowFromPoint(point) == button->handle) return;
+  if (button && ::WindowFromPoint(point) == button->handle) {
+    if (more_of_) tooltip_.Update(TooltipText(*button));
+    return;
+  }
   Repaint(std::exchange(hovered_, 0));
   timer.Stop();
 }

@@ -4,12 +4,16 @@
 #include <windows.h>
 
 #include <functional>
+#include <map>
+#include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "base/geometry.h"
 #include "theme/text_painter_win.h"
 #include "theme/widget_paint.h"
+#include "win/windows/accessible.h"
 #include "win/windows/control_hook.h"
 #include "win/windows/timer.h"
 #include "win/windows/tooltip.h"
@@ -59,6 +63,8 @@ class TextButtons {
   void TellChecks(std::function<ButtonCheck(int id)> check_of);
   // Whether a tooltip tells the button's word; at first where a glyph stands in place of it.
   void TellWord(int id, bool on);
+  // What the tooltips tell beside the words, asked for while the mouse is there; empty for nothing.
+  void TellMore(std::function<std::wstring(int id)> more_of) { more_of_ = std::move(more_of); }
   // The key that does the same; the tooltip tells it behind the word.
   void TellKey(int id, std::wstring key);
   const std::vector<TextButton>& all() const { return buttons_; }
@@ -67,6 +73,8 @@ class TextButtons {
   const TextButton* hovered() const { return hovered_ ? Find(hovered_) : nullptr; }
   // The mouse is over `control` (any window). A button lights up until the mouse has left it.
   void OnMouseOver(HWND control);
+  // The answer to kButtonAsked about one of the buttons; nothing about any other window.
+  std::optional<LRESULT> OnAsked(HWND button, WPARAM wparam);
   // No button tells its word until the mouse comes to one.
   void HideTooltip() { tooltip_.Detach(); }
 
@@ -83,6 +91,9 @@ class TextButtons {
 
  private:
   LRESULT Answer(const ControlMessage& message) const;
+  std::wstring TooltipText(const TextButton& button) const;
+  // Made when a program first asks for the button.
+  Accessible& AccessibleOf(int id);
   void ShowTooltip(const TextButton& button);
   void HoverTick(Timer& timer);
 
@@ -90,11 +101,13 @@ class TextButtons {
   ControlHook hook_;  // of all buttons, once their checks are told
   std::vector<TextButton> buttons_;
   std::function<ButtonCheck(int id)> check_of_;
+  std::function<std::wstring(int id)> more_of_;
   int hovered_ = 0;  // the button under the mouse, or 0
   bool focus_shown_ = false;
   Timer tmrBARBTNS_;
   Timer tmrPANBTNS_;
   Tooltip tooltip_;
+  std::map<int, std::unique_ptr<Accessible>> accessibles_;
 };
 
 // The painting of the one button of a widget that is more important than the others: its face is

@@ -11,6 +11,7 @@
 #include "theme/text_field_win.h"
 #include "theme/theme_store.h"
 #include "win/graphics/system_rect.h"
+#include "win/windows/frameless_button.h"
 #include "win/windows/message_box.h"
 #include "win/windows/popup_menu.h"
 #include "win/windows/user_look.h"
@@ -307,6 +308,8 @@ LRESULT WidgetForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
   if (OnChange(message, wparam)) return 0;
   if (const auto result = TextField::OnParentMessage(message, wparam, lparam)) return *result;
   switch (message) {
+    case kButtonAsked:
+      return buttons_.OnAsked(reinterpret_cast<HWND>(lparam), wparam).value_or(0);
     case WM_DRAWITEM:
       buttons_.Draw(ui(), *reinterpret_cast<const DRAWITEMSTRUCT*>(lparam), paint_,
                     services_.colours,

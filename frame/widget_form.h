@@ -51,6 +51,7 @@ class WidgetForm : public PaintedWindow, public LiveForm {
   Rect Bounds() const override { return screen_rect(); }
   bool on_top() const override { return on_top_; }
   void SetOnTop(bool on) override;
+  std::wstring Summary() const override { return {}; }
 
  protected:
   // What a widget adds to the frame. OnLoad makes its controls; OnShown starts what ticks.

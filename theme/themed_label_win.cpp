@@ -1,8 +1,15 @@
 #include "theme/themed_label_win.h"
 
+#include <oleacc.h>
+
 #include <algorithm>
 
 namespace varnel {
+namespace {
+
+constexpr wchar_t kFirstSymbol = 0xE000;  // of the symbol font: it says nothing
+
+}  // namespace
 
 bool ThemedLabel::Load(HWND parent, int id) {
   Creation creation;
@@ -46,6 +53,20 @@ void ThemedLabel::Show(bool shown) {
 LRESULT ThemedLabel::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
   // The mouse belongs to the form.
   if (message == WM_NCHITTEST) return HTTRANSPARENT;
+  if (message == WM_GETOBJECT) {
+    if (!accessible_) {
+      AccessibleSource source;
+      source.whole = [this] {
+        const bool symbol = shown_text_.size() == 1 && shown_text_[0] >= kFirstSymbol;
+        return symbol ? AccessiblePart{{}, ROLE_SYSTEM_GRAPHIC}
+                      : AccessiblePart{shown_text_, ROLE_SYSTEM_STATICTEXT};
+      };
+      accessible_ = std::make_unique<Accessible>(std::move(source));
+    }
+    if (const auto answer = accessible_->OnMessage(handle(), message, wparam, lparam)) {
+      return *answer;
+    }
+  }
   return PaintedWindow::OnMessage(message, wparam, lparam);
 }
 

@@ -1,7 +1,10 @@
 // A label of a widget's panel: its window text is what it shows.
 #pragma once
 
+#include <memory>
+
 #include "theme/text_painter_win.h"
+#include "win/windows/accessible.h"
 #include "win/windows/painted_window.h"
 
 namespace varnel {
@@ -34,6 +37,7 @@ class ThemedLabel : public PaintedWindow {
   std::wstring shown_text_;
   std::size_t first_seen_ = 0;  // of its units
   TextStyle style_;
+  std::unique_ptr<Accessible> accessible_;  // once a program has asked for it
 };
 
 }  // namespace varnel

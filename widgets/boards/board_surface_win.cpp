@@ -211,6 +211,15 @@ void BoardSurface::EndStroke() {
   if (drew) owner_.OnBoardChanged();
 }
 
+std::optional<LRESULT> BoardSurface::TellAccessible(WPARAM wparam, LPARAM lparam) {
+  if (!accessible_) {
+    AccessibleSource source = owner_.TellBoard();
+    if (!source.whole) return {};
+    accessible_ = std::make_unique<Accessible>(std::move(source));
+  }
+  return accessible_->OnMessage(handle(), WM_GETOBJECT, wparam, lparam);
+}
+
 LRESULT BoardSurface::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
   switch (message) {
     case WM_PAINT:
@@ -235,6 +244,9 @@ LRESULT BoardSurface::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_CAPTURECHANGED:
       EndStroke();
       return 0;
+    case WM_GETOBJECT:
+      if (const auto answer = TellAccessible(wparam, lparam)) return *answer;
+      return Window::OnMessage(message, wparam, lparam);
     case WM_SETCURSOR:
       ::SetCursor(::LoadCursorW(nullptr, MAKEINTRESOURCEW(board_.floating() ? 32646 : 32515)));
       return TRUE;

@@ -1,11 +1,14 @@
 // The window that a board is drawn on: mouse, scrolling and painting, for every widget with boards.
 #pragma once
 
+#include <memory>
+#include <optional>
 #include <vector>
 
 #include "theme/thumb_bar_win.h"
 #include "widgets/boards/drawing_board.h"
 #include "win/graphics/surface.h"
+#include "win/windows/accessible.h"
 #include "win/windows/window.h"
 
 namespace varnel {
@@ -23,6 +26,8 @@ class BoardSurfaceOwner {
   virtual void OnBoardChanged() = 0;
   // What is shown there is about to be painted anew.
   virtual void OnBoardRepaint(const Rect& /*shown*/) {}
+  // What it says of itself to programs that read the screen aloud; `whole` may be empty.
+  virtual AccessibleSource TellBoard() { return {}; }
   // The pointer is over that pixel of the board.
   virtual void OnPointer(Point /*at*/) {}
 };
@@ -67,6 +72,7 @@ class BoardSurface : public Window {
   std::vector<Point> PointsSince(Point at);
   Point OnBoard(Point client) const { return {client.x + origin_.x, client.y + origin_.y}; }
   void ScrollTo(Point origin);
+  std::optional<LRESULT> TellAccessible(WPARAM wparam, LPARAM lparam);
   void Paint();
   void PaintFloat(Surface& surface, const Rect& part) const;
 
@@ -75,8 +81,9 @@ class BoardSurface : public Window {
   ThumbBar bar_, across_bar_;
   Rect place_, bar_place_, across_place_;
   BoardSurfaceLook look_;
-  Point origin_;              // the board's pixel at the upper left
-  int wheel_turn_ = 0;        // not yet a whole step
+  Point origin_;                            // the board's pixel at the upper left
+  int wheel_turn_ = 0;                      // not yet a whole step
+  std::unique_ptr<Accessible> accessible_;  // once a program has asked for it
   MOUSEMOVEPOINT last_ = {};  // of the mouse that was drawn to, as the system keeps it
 };
 

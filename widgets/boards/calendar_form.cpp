@@ -1,6 +1,8 @@
 #include "widgets/boards/calendar_form.h"
 
 #include <windows.h>
+
+#include <oleacc.h>
 #include <windowsx.h>
 
 #include <algorithm>
@@ -200,6 +202,21 @@ std::wstring CalendarForm::DayText(const Date& date, std::wstring_view pattern) 
 void CalendarForm::OnPointer(Point at) {
   const int cell = grid_.CellAt(at);
   if (std::exchange(pointed_, cell) != cell) PlaceStripLabels();
+}
+
+AccessibleSource CalendarForm::TellBoard() {
+  AccessibleSource source;
+  source.whole = [this] { return AccessiblePart{calendar_.title(), ROLE_SYSTEM_TABLE}; };
+  source.count = [] { return kGridDays; };
+  source.part = [this](int index) {
+    const auto cell = static_cast<std::size_t>(index);
+    AccessiblePart day{DayText(month_grid_.days[cell]), ROLE_SYSTEM_CELL, STATE_SYSTEM_READONLY};
+    if (index == month_grid_.today) day.state |= STATE_SYSTEM_SELECTED;
+    const Rect view = picMAINBOARD_.View();
+    day.place = Within({-view.left, -view.top, view.right, view.bottom}, grid_.cells[cell]);
+    return day;
+  };
+  return source;
 }
 
 // --- objects

@@ -38,6 +38,7 @@ class CalendarForm : public BoardForm, private CalendarWidget {  // frmCALwg
   // The labels on the strip say it.
   std::wstring StatusText() const override { return {}; }
   std::wstring StripText() const override;
+  std::wstring Summary() const override { return calendar_.title(); }
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
 
   BoardDocument& document() override { return calendar_; }
@@ -47,6 +48,7 @@ class CalendarForm : public BoardForm, private CalendarWidget {  // frmCALwg
   Size BoardSize() const override { return grid_.size; }
   void OnBoardRepaint(const Rect& shown) override { stale_ = Union(stale_, shown); }
   void OnPointer(Point at) override;
+  AccessibleSource TellBoard() override;
 
   void InsertText(const std::wstring& text, int points, bool wrap) override;
   void InsertIcon(const OfferedPicture& picture) override;

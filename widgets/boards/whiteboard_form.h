@@ -41,6 +41,8 @@ class WhiteboardForm : public BoardForm,  // frmWBDwg
   void PaintPanel(Surface& surface, const Rect& panel) override;
   void DrawPanelButton(const ButtonPainting& painting) override;
   std::wstring StatusText() const override;
+  std::wstring Summary() const override { return whiteboard_.name(); }
+  AccessibleSource TellBoard() override;
   bool OnFirstKey(const MSG& message) override;
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
   std::wstring RowText(std::size_t row) const override { return whiteboard_.boards().Title(row); }

@@ -1,4 +1,6 @@
 // The part of the whiteboard's form that makes, places and paints.
+#include <oleacc.h>
+
 #include <algorithm>
 
 #include "base/number_text.h"
@@ -91,6 +93,12 @@ std::wstring WhiteboardForm::StatusText() const {
   const std::size_t count = whiteboard_.boards().count();
   if (count == 0) return L"No boards yet";
   return NumberText(static_cast<long long>(count)) + (count == 1 ? L" board" : L" boards");
+}
+
+AccessibleSource WhiteboardForm::TellBoard() {
+  AccessibleSource source;
+  source.whole = [this] { return AccessiblePart{whiteboard_.name(), ROLE_SYSTEM_GRAPHIC}; };
+  return source;
 }
 
 // --- painting

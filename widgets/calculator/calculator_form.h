@@ -36,6 +36,7 @@ class CalculatorForm : public WidgetForm, private SideListOwner {  // frmCLCwg
   void DrawPanelButton(const ButtonPainting& painting) override;
   void OnControl(int id, int code) override;
   std::wstring StatusText() const override;
+  std::wstring Summary() const override { return L"Shows " + engine_.display(); }
   bool OnFirstKey(const MSG& message) override;
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
   std::wstring RowText(std::size_t row) const override { return log_.Line(row); }

@@ -89,6 +89,7 @@ class NotesForm : public WidgetForm,  // frmNOTwg
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
 
   std::wstring RowText(std::size_t row) const override;
+  std::wstring Summary() const override { return desk_.document().title(); }
   std::wstring EmptyText() const override;
   void PaintRow(Surface& surface, const SideRow& row) override;
   void OnRowChosen(std::size_t row) override;

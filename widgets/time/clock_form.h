@@ -15,6 +15,7 @@ class ClockForm : public WidgetForm {  // frmCLKwg
   ClockForm(Services& services, const FormEntry& entry, int index, const AlarmService& alarms);
 
  private:
+  std::wstring Summary() const override { return AlarmStatus(services().clock.Now()); }
   void OnLoad() override;
   void OnUnload() override { tmrCLOCK_.Stop(); }
   void LayOutPanel(const Rect& panel) override;

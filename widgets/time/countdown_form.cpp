@@ -195,4 +195,12 @@ std::wstring CountdownForm::StatusText() const {
          L":" + engine_.IntervalText(kFields[2]);
 }
 
+std::wstring CountdownForm::Summary() const {
+  if (!engine_.can_stop()) return StatusText();
+  const std::wstring left = engine_.DisplayText(kFields[0]) + L":" +
+                            engine_.DisplayText(kFields[1]) + L":" +
+                            engine_.DisplayText(kFields[2]);
+  return left + (engine_.counting() ? L" left" : L" left, paused");
+}
+
 }  // namespace varnel

@@ -25,6 +25,7 @@ class CountdownForm : public WidgetForm {  // frmCDNwg
   void OnControl(int id, int code) override;
   std::wstring Unfinished() const override;
   std::wstring StatusText() const override;
+  std::wstring Summary() const override;
   void DrawPanelButton(const ButtonPainting& painting) override;
 
   void OnTick();

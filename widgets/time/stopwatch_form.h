@@ -19,6 +19,7 @@ class StopwatchForm : public WidgetForm {  // frmSTWwg
   void OnControl(int id, int code) override;
   std::wstring Unfinished() const override;
   std::wstring StatusText() const override;
+  std::wstring Summary() const override { return engine_.shown() + L" \x2013 " + StatusText(); }
   void DrawPanelButton(const ButtonPainting& painting) override;
 
   void OnTick();

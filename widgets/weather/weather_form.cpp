@@ -129,6 +129,13 @@ void WeatherForm::RefreshContent() {
   PlaceStrip();
 }
 
+std::wstring WeatherForm::Summary() const {
+  const WeatherLabels& shown = weather_.labels();
+  const std::wstring status = WindowText(lblUPDATED_.handle());
+  if (shown.symbol == kIconNotAvailable) return status;
+  return shown.location + L": " + shown.temperature + L", " + shown.condition;
+}
+
 void WeatherForm::PaintPanel(Surface& surface, const Rect& panel) {
   if (places_.pfrFORECAST.empty()) return;
   // A card on a white ground is white too; then its outline shows it.

@@ -33,6 +33,7 @@ class WeatherForm : public WidgetForm {  // frmWTHwg
   void OnControl(int id, int code) override;
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
 
+  std::wstring Summary() const override;
   void PlaceLabels(const Rect& panel);
   void PlaceStrip();
 

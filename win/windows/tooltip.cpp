@@ -35,7 +35,17 @@ void Tooltip::Attach(HWND form, HWND control, const std::wstring& text) {
   if (::SendMessageW(window_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool))) {
     form_ = form;
     control_ = control;
+    text_ = text;
   }
+}
+
+void Tooltip::Update(const std::wstring& text) {
+  if (!control_ || text == text_) return;
+  if (text.empty()) return Detach();
+  text_ = text;
+  TTTOOLINFOW tool = ToolOf(form_, control_);
+  tool.lpszText = text_.data();
+  ::SendMessageW(window_, TTM_UPDATETIPTEXTW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
 // Switching the window off alone would let a tooltip appear that already waits for its moment.

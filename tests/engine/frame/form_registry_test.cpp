@@ -16,6 +16,7 @@ class StillForm : public LiveForm {
   Rect Bounds() const override { return {}; }
   bool on_top() const override { return false; }
   void SetOnTop(bool) override {}
+  std::wstring Summary() const override { return {}; }
 
  private:
   ThemeRecord theme_;
