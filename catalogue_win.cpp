@@ -1,6 +1,9 @@
 #include "catalogue_win.h"
 
 #include "core/options_dialog.h"
+#include "dialogs/about/about_dialog.h"
+#include "dialogs/about/licences_dialog.h"
+#include "dialogs/about/page_dialog.h"
 #include "dialogs/preview/preview_dialog.h"
 #include "dialogs/theme/theme_dialog.h"
 #include "widgets/boards/board_versions_dialog.h"
@@ -34,6 +37,10 @@ void AddProgram(Catalogue& catalogue) {
   catalogue.AddDialog<OptionsDialog>(L"frmVRNpr");
   catalogue.AddDialog<ThemeDialog>(L"frmTHEME");
   catalogue.AddDialog<PreviewDialog>(L"frmNOTpp", catalogue.printing());
+  catalogue.AddDialog<AboutDialog>(L"frmABOUT");
+  catalogue.AddDialog<LicencesDialog>(L"frmLICENCES");
+  catalogue.AddDialog<DonationDialog>(L"frmDONATE");
+  catalogue.AddDialog<OtherAppsDialog>(L"frmMORE");
 }
 
 void AddTime(Catalogue& catalogue) {

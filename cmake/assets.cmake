@@ -50,5 +50,10 @@ varnel_assets(build_pictures.py MAKES pictures.bin
                    tools/assets/calendar_pictures.tsv
               READS resources/pictures/calculator.svg resources/pictures/fog.svg
                     resources/pictures/presentation.svg resources/pictures/tasks.svg)
+varnel_assets(build_notices.py MAKES notices.txt
+              FROM THIRD-PARTY.md /usr/share/doc/wamerican-large/copyright
+                   /usr/share/doc/nlohmann-json3-dev/copyright
+                   /usr/share/doc/gcc-mingw-w64-base/copyright
+                   /usr/share/doc/mingw-w64-x86-64-dev/copyright)
 
 add_custom_target(assets DEPENDS ${VARNEL_ASSETS})

@@ -51,10 +51,6 @@ SharedMenuState Application::MenuState() const {
   if (current) state.widget_title = current->entry().title;
   state.sizable = current && WidgetNamed(current_widget_);
   state.on_top = current && current->on_top();
-  state.theme_dialog = HasDialog(L"frmTHEME");
-  state.about_dialog = HasDialog(L"frmABOUT");
-  state.donation_dialog = HasDialog(L"frmDONATE");
-  state.other_apps_dialog = HasDialog(L"frmMORE");
   return state;
 }
 

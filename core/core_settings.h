@@ -31,8 +31,4 @@ inline constexpr std::wstring_view kShowText = L"Show";
 inline constexpr std::wstring_view kHiddenText = L"Hidden";
 inline constexpr Setting kShowOrHide{kProgramSection, L"Start-Show or Hide", kShowText};
 
-// The address below which the maker's web pages lie.
-inline constexpr Setting kWebAddress{L"Settings\\Details", L"Web Address",
-                                     L"https://widgetvarnel.example/"};
-
 }  // namespace varnel

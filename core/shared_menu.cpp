@@ -7,10 +7,9 @@
 namespace varnel {
 namespace {
 
-MenuItem Submenu(std::wstring_view caption, std::vector<MenuItem> children, bool enabled = true) {
+MenuItem Submenu(std::wstring_view caption, std::vector<MenuItem> children) {
   MenuItem item;
   item.caption = caption;
-  item.enabled = enabled;
   item.children = std::move(children);
   return item;
 }
@@ -49,16 +48,16 @@ std::vector<MenuItem> SizeItems() {
           ArrayItem(L"mnuWIDGRESET", 3, L"&Eighth of the screen")};
 }
 
-std::vector<MenuItem> HelpItems(const SharedMenuState& state) {
+std::vector<MenuItem> HelpItems() {
   return {ItemOf({L"mnuDCHELP", L"&Keys and tips..."}),
           ItemOf({L"mnuDCTUTS", L"&Video tutorials"}),
           ItemOf({L"mnuDCWEB", L"&Support on the web"}),
           ItemOf({L"mnuDCWEBFEEDBACK", L"Send &feedback"}),
           ItemOf({L"mnuDCUPDATES", L"Check for &updates"}),
           MenuSeparator(),
-          ItemOf({L"mnuDCMORE", L"&Other apps..."}, state.other_apps_dialog),
-          ItemOf({L"mnuDCDONATE", L"&Donate..."}, state.donation_dialog),
-          ItemOf({L"mnuDCABOUT", L"&About Widget Varnel..."}, state.about_dialog)};
+          ItemOf({L"mnuDCMORE", L"&Other apps..."}),
+          ItemOf({L"mnuDCDONATE", L"&Donate..."}),
+          ItemOf({L"mnuDCABOUT", L"&About Widget Varnel..."})};
 }
 
 }  // namespace
@@ -67,23 +66,27 @@ std::vector<MenuItem> BuildSharedMenu(const SharedMenuState& state) {
   MenuItem show = ItemOf({L"mnuDCMANAGER", L"Show &Varnel"});
   show.is_default = state.of_tray;
   const bool named = state.of_tray && state.has_widget;
-  const std::wstring of_widget = named ? L" of " + state.widget_title : L"";
+  const std::wstring of_widget = L" of " + state.widget_title;
   const std::wstring top = named ? L"&Keep " + state.widget_title + L" on top" : L"&Keep on top";
-  const std::wstring theme = L"&Theme" + of_widget + L"...";
-  return {Submenu(L"&Widgets", WidgetItems(state)),
-          ItemOf({L"mnuDCSHOWALL", L"Show &all widgets"}),
-          ItemOf({L"mnuDCHIDEALL", L"&Hide all widgets"}),
-          MenuSeparator(),
-          show,
-          ItemOf({L"mnuDCMANAGERHIDE", L"Hide to T&ray"}),
-          MenuSeparator(),
-          Submenu(L"Si&ze" + (state.sizable ? of_widget : L""), SizeItems(), state.sizable),
-          ItemOf({kTopCommand, top}, state.has_widget, state.on_top),
-          ItemOf({L"mnuDCSETTINGS", theme}, state.has_widget && state.theme_dialog),
-          ItemOf({L"mnuDCGENSET", L"&Options..."}),
-          MenuSeparator(),
-          Submenu(L"H&elp", HelpItems(state)),
-          ItemOf({L"mnuDCEXIT", L"E&xit"})};
+  const std::wstring theme = L"&Theme" + (named ? of_widget : L"") + L"...";
+  std::vector<MenuItem> items = {Submenu(L"&Widgets", WidgetItems(state)),
+                                 ItemOf({L"mnuDCSHOWALL", L"Show &all widgets"}),
+                                 ItemOf({L"mnuDCHIDEALL", L"&Hide all widgets"}),
+                                 MenuSeparator(),
+                                 show,
+                                 ItemOf({L"mnuDCMANAGERHIDE", L"Hide to T&ray"}),
+                                 MenuSeparator(),
+                                 ItemOf({kTopCommand, top}, state.has_widget, state.on_top),
+                                 ItemOf({L"mnuDCSETTINGS", theme}, state.has_widget),
+                                 ItemOf({L"mnuDCGENSET", L"&Options..."}),
+                                 MenuSeparator(),
+                                 Submenu(L"H&elp", HelpItems()),
+                                 ItemOf({L"mnuDCEXIT", L"E&xit"})};
+  constexpr auto kBeforeTop = 7;
+  if (state.sizable) {
+    items.insert(items.begin() + kBeforeTop, Submenu(L"Si&ze" + of_widget, SizeItems()));
+  }
+  return items;
 }
 
 }  // namespace varnel

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "base/text.h"
+#include "frame/product.h"
 #include "win/net/web_page.h"
 #include "win/windows/hourglass.h"
 #include "win/windows/message_box.h"

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "core/update_check.h"
+#include "frame/web_addresses.h"
 #include "win/net/http.h"
 
 namespace varnel {

@@ -19,6 +19,7 @@
 #include "core/widget_states.h"
 #include "frame/placement.h"
 #include "frame/sizes.h"
+#include "frame/web_addresses.h"
 #include "fuzz/require.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/memory_registry.h"

@@ -322,6 +322,21 @@ enum ControlId : int {
   txtTEXTS = 2043,  // 0 to 2 of the header, 3 to 5 of the footer
   cmdFIELD = 2049,
   chkSECONDPAGE = 2050,
+
+  // frmABOUT, frmLICENCES, the about box and the licences of what is embedded
+  lblABOUTNAME = 2100,
+  txtABOUT = 2101,
+  cmdABOUTCOPY = 2102,
+  cmdABOUTSUPPORT = 2103,
+  cmdABOUTFEEDBACK = 2104,
+  cmdABOUTLICENCES = 2105,
+  lstLICENCES = 2106,
+  txtLICENCE = 2107,
+
+  // frmDONATE, frmMORE, pages of the maker's
+  lblPAGEWORDS = 2110,
+  txtPAGETEXT = 2111,
+  cmdOPENPAGE = 2112,
 };
 
 }  // namespace varnel

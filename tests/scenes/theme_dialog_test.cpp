@@ -265,7 +265,7 @@ TEST_F(ThemeDialogScene, AGlyphTellsItsWordWhenTheMouseRests) {
 std::vector<int> SharedCommands() {
   SharedMenuState all;
   all.available.fill(true);
-  all.sizable = all.has_widget = all.theme_dialog = true;
+  all.sizable = all.has_widget = true;
   std::vector<int> ids;
   const std::function<void(const std::vector<MenuItem>&)> gather =
       [&](const std::vector<MenuItem>& items) {

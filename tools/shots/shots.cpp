@@ -9,6 +9,7 @@
 #include "core/core_settings.h"
 #include "core/widget_index.h"
 #include "frame/sizes.h"
+#include "frame/web_addresses.h"
 #include "tests/rig/files.h"
 #include "tests/rig/http_server.h"
 #include "tests/rig/input.h"

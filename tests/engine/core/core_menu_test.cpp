@@ -37,7 +37,9 @@ TEST(SharedMenu, EveryLevelHasUniqueMnemonics) {
               << "the mnemonic " << static_cast<char>(letter) << " stands twice in a menu";
         }
       };
-  check(BuildSharedMenu({}));
+  SharedMenuState all;
+  all.sizable = true;
+  check(BuildSharedMenu(all));
 }
 
 TEST(SharedMenu, ShowsTheStateAndGreysWhatCannotBeDone) {
@@ -49,10 +51,10 @@ TEST(SharedMenu, ShowsTheStateAndGreysWhatCannotBeDone) {
   EXPECT_FALSE(Find(menu, L"mnuDCWIDGETS(0)")->checked);
   EXPECT_TRUE(Find(menu, L"mnuDCWIDGETS(0)")->enabled);
   EXPECT_FALSE(Find(menu, L"mnuDCWIDGETS(3)")->enabled);
-  for (const wchar_t* name : {L"mnuDCTOP", L"mnuDCSETTINGS", L"mnuDCABOUT", L"mnuDCDONATE"}) {
+  for (const wchar_t* name : {L"mnuDCTOP", L"mnuDCSETTINGS"}) {
     EXPECT_FALSE(Find(menu, name)->enabled) << name;
   }
-  state.has_widget = state.on_top = state.theme_dialog = true;
+  state.has_widget = state.on_top = true;
   menu = BuildSharedMenu(state);
   EXPECT_TRUE(Find(menu, L"mnuDCTOP")->checked);
   EXPECT_TRUE(Find(menu, L"mnuDCSETTINGS")->enabled);
@@ -70,12 +72,12 @@ TEST(SharedMenu, OfTheTrayIconNamesTheWidgetAndHasADefault) {
   };
   state.has_widget = state.sizable = true;
   state.widget_title = L"Clock";
-  EXPECT_EQ(captions(), L"Hide to T&ray; Si&ze; &Keep on top; &Theme...; ");
+  EXPECT_EQ(captions(), L"Hide to T&ray; Si&ze of Clock; &Keep on top; &Theme...; ");
   state.of_tray = true;
   EXPECT_EQ(captions(),
             L"* Hide to T&ray; Si&ze of Clock; &Keep Clock on top; &Theme of Clock...; ");
   state.has_widget = state.sizable = false;
-  EXPECT_EQ(captions(), L"* Hide to T&ray; Si&ze; &Keep on top; &Theme...; ");
+  EXPECT_EQ(captions(), L"* Hide to T&ray; &Keep on top; &Theme...; ");
 }
 
 TEST(CommandIds, ArrayElementsAreFoundAgain) {

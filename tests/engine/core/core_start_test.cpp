@@ -8,6 +8,8 @@
 #include "core/command_line.h"
 #include "core/core_settings.h"
 #include "core/update_check.h"
+#include "frame/product.h"
+#include "frame/web_addresses.h"
 #include "tests/support/cases.h"
 #include "tests/support/garbage_values.h"
 #include "tests/support/memory_files.h"
