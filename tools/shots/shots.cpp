@@ -204,6 +204,8 @@ void Run(std::span<wchar_t*> words) {
            std::ranges::any_of(words, [&](const wchar_t* word) { return name.starts_with(word); });
   };
   rig::ResetInput();
+  // As for a user who works by mouse: the keyboard's place is not shown before a key is used.
+  ::SystemParametersInfoW(SPI_SETKEYBOARDPREF, FALSE, nullptr, 0);
   Studio studio(rig::PathFromEnvironment(L"VARNEL_ARTIFACTS"));
   for (const Subject& subject : Subjects()) {
     if (wanted(subject.name)) studio.Take(subject);

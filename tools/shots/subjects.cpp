@@ -198,6 +198,11 @@ Preparation PickerTab(int tab) {
   };
 }
 
+void ShowLicences(const Program& program, HWND form) {
+  Choose(form, L"mnuDCABOUT");
+  Send(Control(WaitForForm(program, L"frmABOUT"), cmdABOUTLICENCES), BM_CLICK);
+}
+
 void LetStopwatchRun(const Program& program, HWND stopwatch) {
   Presses({lblStartfrmSTWwg})(program, stopwatch);
   WaitUntil([stopwatch] { return Text(Control(stopwatch, lblELAPSED)) > L"00:12"; }, 20'000);
@@ -331,6 +336,10 @@ std::vector<Subject> OtherSubjects() {
        Part::kForm,
        L"frmWTHpr"},
       {L"options", kManager, kDpis, {}, Command(L"mnuDCGENSET"), Part::kForm, L"frmVRNpr"},
+      {L"about", kManager, kDpis, {}, Command(L"mnuDCABOUT"), Part::kForm, L"frmABOUT"},
+      {L"licences", kManager, kDpis, {}, ShowLicences, Part::kForm, L"frmLICENCES"},
+      {L"donate", kManager, kDpis, {}, Command(L"mnuDCDONATE"), Part::kForm, L"frmDONATE"},
+      {L"other-apps", kManager, kDpis, {}, Command(L"mnuDCMORE"), Part::kForm, L"frmMORE"},
       {L"clock-properties", kClock, kDpis, {}, Command(L"mnuCLOCKPROPS"), Part::kForm, L"frmCLKpr"},
       {L"alarms", kClock, kDpis, kAlarms, Command(L"mnuCLOCKALARMSET"), Part::kForm, L"frmCLKas"},
       {L"alarm-popup", kClock, kDpis, kAlarms, LetAlarmRing, Part::kForm, L"frmCLKam"},
@@ -345,12 +354,13 @@ std::vector<Subject> OtherSubjects() {
 
 const std::vector<Subject>& Subjects() {
   static const std::vector<Subject> subjects = [] {
-    std::vector<Subject> all = OtherSubjects();
+    // First, while nothing lies about that other subjects have written.
+    std::vector<Subject> all = GallerySubjects();
+    std::ranges::move(OtherSubjects(), std::back_inserter(all));
     std::ranges::move(NoteSubjects(), std::back_inserter(all));
     std::ranges::move(WhiteboardSubjects(), std::back_inserter(all));
     std::ranges::move(CalendarSubjects(), std::back_inserter(all));
     std::ranges::move(PreviewSubjects(), std::back_inserter(all));
-    std::ranges::move(GallerySubjects(), std::back_inserter(all));
     return all;
   }();
   return subjects;
