@@ -29,7 +29,7 @@ void PaintGrip(Surface& surface, const FramePainting& frame) {
   const Colour colour =
       paint.high_contrast ? ink : Blend(ink, paint.chrome.ground, kShare, PlainColours());
   const Rect& grip = frame.layout.size_grip;
-  const int side = std::max(1, Scaled(2, frame.dpi));
+  const int side = (frame.dpi + kDefaultDpi) / kDefaultDpi;  // grows slower than the window
   const Point corner{grip.right - Scaled(4, frame.dpi), grip.bottom - Scaled(4, frame.dpi)};
   for (int row = 0; row < kRows; ++row) {
     for (int column = 0; column < kRows - row; ++column) {
