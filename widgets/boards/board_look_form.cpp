@@ -48,6 +48,10 @@ void BoardForm::OnLoad() {
     commands().AddTool(cmdPEN + i, commands().OfName(name));
   }
   commands().AddTool(cmdPENS, commands().OfName(NameOf(L"PENS")));
+  buttons().TellChecks([this](int id) {
+    const bool chosen = id == cmdPEN + std::min(board_.PenColorIndex(), kEraser);
+    return chosen ? ButtonCheck::kOn : ButtonCheck::kOff;
+  });
   picMAINBOARD_.Load(handle(), picMAINBOARD, L"Board");
   pen_label_.Load(handle(), traits_.pen_label);
   ::DragAcceptFiles(handle(), TRUE);
