@@ -1,4 +1,4 @@
-// The theme dialog on a live widget, the presets, and everything in the menus.
+// The theme dialog on a live widget, and the presets.
 #include <gtest/gtest.h>
 #include <windows.h>
 
@@ -258,83 +258,6 @@ TEST_F(ThemeDialogScene, AGlyphTellsItsWordWhenTheMouseRests) {
       WaitUntil([&] { return IsShown(tip); }, 3 * static_cast<int>(::GetDoubleClickTime())));
   PressKey(VK_ESCAPE);
   EXPECT_TRUE(WaitForMenus(program(), 0));
-}
-
-// Every command of the shared menu but the one that ends the program; those that open or close a
-// widget stand twice.
-std::vector<int> SharedCommands() {
-  SharedMenuState all;
-  all.available.fill(true);
-  all.sizable = all.has_widget = true;
-  std::vector<int> ids;
-  const std::function<void(const std::vector<MenuItem>&)> gather =
-      [&](const std::vector<MenuItem>& items) {
-        for (const MenuItem& item : items) {
-          gather(item.children);
-          const bool toggles = ArrayCommandIndex(L"mnuDCWIDGETS", kWidgetCount, item.id) >= 0;
-          if (item.id != 0 && item.enabled) ids.insert(ids.end(), toggles ? 2 : 1, item.id);
-        }
-      };
-  gather(BuildSharedMenu(all));
-  std::erase(ids, CommandId(L"mnuDCEXIT"));
-  return ids;
-}
-
-// Answers every question with no and closes every dialog.
-void DismissAll(const Program& program) {
-  while (HWND message = FindDialog(program)) {
-    for (const int answer : {IDNO, IDCANCEL, IDOK}) PressButton(message, answer);
-    WaitUntil([&] { return !::IsWindow(message) || !IsShown(message); });
-  }
-  for (const wchar_t* name : {L"frmVRNpr", L"frmTHEME", L"frmCLKpr", L"frmCLKas", L"frmWTHpr"}) {
-    if (HWND dialog = FindForm(program, name)) Send(dialog, WM_CLOSE);
-  }
-}
-
-// Chooses a command, waits until it has been carried out, and closes what it opened.
-void RunCommand(const Program& program, HWND form, int id) {
-  const auto is = [id](const wchar_t* name) { return id == CommandId(name); };
-  if (is(L"mnuDCHELP")) {  // asks and waits
-    ::PostMessageW(form, WM_COMMAND, static_cast<WPARAM>(id), 0);
-    EXPECT_TRUE(WaitForDialog(program)) << "command " << id;
-  } else {
-    Send(form, WM_COMMAND, static_cast<WPARAM>(id));
-  }
-  DismissAll(program);
-  EXPECT_TRUE(program.running()) << "after command " << id;
-}
-
-TEST_F(ThemeDialogScene, EverySharedMenuItemCanBeChosen) {
-  for (const int id : SharedCommands()) {
-    RunCommand(program(), clock_, id);
-    if (id == CommandId(L"mnuDCHIDEALL")) {
-      EXPECT_FALSE(IsShown(clock_));
-      ASSERT_TRUE(ChooseShared(program(), L"mnuDCSHOWALL"));
-    }
-    if (id == ArrayCommandId(L"mnuDCWIDGETS", 0)) {
-      EXPECT_FALSE(::IsWindow(clock_));
-      ASSERT_TRUE(ChooseShared(program(), L"mnuDCWIDGETS", 0));
-    }
-    clock_ = WaitForForm(program(), L"frmCLKwg");
-    ASSERT_TRUE(clock_) << "after command " << id;
-  }
-}
-
-TEST_F(ThemeDialogScene, EveryWidgetsOwnMenuItemsCanBeChosen) {
-  const test::Cases<int, const wchar_t*, std::vector<const wchar_t*>> widgets = {
-      {0, L"frmCLKwg", {L"mnuCLOCKPROPS", L"mnuCLOCKALARMSET", L"mnuCLOCKTOP"}},
-      {1,
-       L"frmCLCwg",
-       {L"mnuCALCSHOWHIST", L"mnuCALCDELETESELECTED", L"mnuCALCCLEARHISTORY", L"mnuCALCTOP"}},
-      {7, L"frmWTHwg", {L"mnuWEATHERPROPS", L"mnuWEATHERREFRESH", L"mnuWEATHERTOP"}}};
-  for (const auto& [index, name, commands] : widgets) {
-    if (!FindForm(program(), name)) ChooseShared(program(), L"mnuDCWIDGETS", index);
-    HWND form = WaitForForm(program(), name);
-    ASSERT_TRUE(form);
-    EXPECT_FALSE(IsTopmost(form));
-    for (const wchar_t* command : commands) RunCommand(program(), form, CommandId(command));
-    EXPECT_TRUE(IsTopmost(form));
-  }
 }
 
 }  // namespace
