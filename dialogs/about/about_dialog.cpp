@@ -48,6 +48,8 @@ void AboutDialog::OnOpen() {
   report_ = AboutReport(version, BuildText(), FactsOf(handle()));
   SetControlText(lblABOUTNAME, std::wstring(kApplicationTitle) + L" " + version);
   SetControlText(txtABOUT, report_);
+  // Not in the box, which would be selected whole.
+  ::PostMessageW(handle(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control(IDOK)), TRUE);
 }
 
 void AboutDialog::OnCommand(int id, int code) {

@@ -30,7 +30,7 @@ std::wstring AboutReport(std::wstring_view version, std::wstring_view build,
   if (system.monitors > 1) {
     report.append(L", ").append(NumberText(system.monitors)).append(L" monitors");
   }
-  return report.append(kLineEnd);
+  return report;
 }
 
 std::vector<Notice> ReadNotices(std::string_view bytes) {

@@ -20,8 +20,8 @@ struct SystemFacts {
   int monitors = 1;
 };
 
-// One line each: the program with its version, its build, the system, the screen. Lines end in CR
-// LF.
+// One line each: the program with its version, its build, the system, the screen. CR LF stands
+// between lines.
 std::wstring AboutReport(std::wstring_view version, std::wstring_view build,
                          const SystemFacts& system);
 

@@ -35,6 +35,7 @@ def main(page_path, *paths):
     *notice_paths, out_path = paths
     with open(page_path, encoding="utf-8") as page:
         notices = list(sections(page.read()))
+    notices[0] = ("Overview", notices[0][1])
     for title, path in zip(TITLES, notice_paths, strict=True):
         with open(path, encoding="utf-8") as notice:
             notices.append((title, notice.read().strip()))

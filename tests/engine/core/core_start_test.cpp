@@ -79,6 +79,8 @@ TEST(UpdateCheck, AddressesComeFromOnePlainBase) {
     EXPECT_EQ(addresses.feedback, L"http://127.0.0.1:8080/support/software-feedback.html");
     EXPECT_EQ(addresses.videos, L"http://127.0.0.1:8080/support/software-videos.html");
     EXPECT_EQ(addresses.update, L"http://127.0.0.1:8080/products/widget-varnel/update.html");
+    EXPECT_EQ(addresses.donation, L"http://127.0.0.1:8080/products/widget-varnel/donate.html");
+    EXPECT_EQ(addresses.other_apps, L"http://127.0.0.1:8080/products/other-programs.html");
     EXPECT_EQ(addresses.version_file,
               L"http://127.0.0.1:8080/products/widget-varnel/s-version.txt");
   }
