@@ -15,8 +15,8 @@ WNDPROC system_procedure = nullptr;
 LRESULT CALLBACK Procedure(HWND button, UINT message, WPARAM wparam, LPARAM lparam) {
   if (AsksForFrame(message)) return 0;
   if (message == WM_GETOBJECT && static_cast<LONG>(lparam) == OBJID_CLIENT) {
-    const LRESULT answer = ::SendMessageW(::GetParent(button), kButtonAsked, wparam,
-                                          reinterpret_cast<LPARAM>(button));
+    const LRESULT answer =
+        ::SendMessageW(::GetParent(button), kButtonAsked, wparam, reinterpret_cast<LPARAM>(button));
     if (answer) return answer;
   }
   return ::CallWindowProcW(system_procedure, button, message, wparam, lparam);
