@@ -210,7 +210,8 @@ AccessibleSource CalendarForm::TellBoard() {
   source.count = [] { return kGridDays; };
   source.part = [this](int index) {
     const auto cell = static_cast<std::size_t>(index);
-    AccessiblePart day{DayText(month_grid_.days[cell]), ROLE_SYSTEM_CELL, STATE_SYSTEM_READONLY};
+    AccessiblePart day{DayText(month_grid_.days[cell], L"dddd d mmmm"), ROLE_SYSTEM_CELL,
+                       STATE_SYSTEM_READONLY};
     if (index == month_grid_.today) day.state |= STATE_SYSTEM_SELECTED;
     const Rect view = picMAINBOARD_.View();
     day.place = Within({-view.left, -view.top, view.right, view.bottom}, grid_.cells[cell]);
