@@ -229,9 +229,21 @@ TEST_F(ThemeDialogScene, OutlivesItsWidgetAndTurnsToAnother) {
   EXPECT_EQ(AlphaOf(clock_), 70);
 }
 
+TEST_F(ThemeDialogScene, ATileTellsWhatItsWidgetShowsNow) {
+  HWND tile = Control(FindForm(program(), L"frmVRNwg"), lblNUMBER + 4);
+  HWND tip = nullptr;
+  EXPECT_SOON((MoveMouse(CentreOf(tile)), tip = FindForm(program(), TOOLTIPS_CLASSW)) &&
+              IsShown(tip));
+  EXPECT_EQ(Text(tip), L"00:00.00 \x2013 Ready");
+  Send(Control(stopwatch_, lblStartfrmSTWwg), BM_CLICK);
+  EXPECT_SOON(Text(tip).ends_with(L" \x2013 Running"));
+  // One that runs would ask before the program ends.
+  Send(Control(stopwatch_, lblStartfrmSTWwg), BM_CLICK);
+}
+
 TEST_F(ThemeDialogScene, AGlyphTellsItsWordWhenTheMouseRests) {
-  // A tile, which lights up, has its name on it.
-  HWND tile = Control(FindForm(program(), L"frmVRNwg"), lblNUMBER);
+  // A tile, which lights up, has its name on it, and its widget is closed.
+  HWND tile = Control(FindForm(program(), L"frmVRNwg"), lblNUMBER + 1);
   const Picture normal = StillPictureOf(tile);
   MoveMouse(CentreOf(tile));
   EXPECT_SOON(PictureOf(tile) != normal);
