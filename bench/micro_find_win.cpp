@@ -3,6 +3,7 @@
 #include "tests/support/memory_files.h"
 #include "widgets/notes/editor/editor_note_win.h"
 #include "widgets/notes/find/find_text.h"
+#include "widgets/notes/panels/find_marks_win.h"
 #include "win/system/com.h"
 #include "win/windows/window.h"
 
@@ -39,9 +40,9 @@ class EditorWindow : public Window {
 };
 
 // A megabyte with a needle in every hundred letters, each with a bold letter.
-std::string Hay() {
+std::string Hay(int lines = kHits) {
   std::string rtf = "{\\rtf1\\ansi{\\fonttbl{\\f0 Tahoma;}}\\f0\\fs24 ";
-  for (int i = 0; i < kHits; ++i) {
+  for (int i = 0; i < lines; ++i) {
     rtf +=
         "A hundred letters hold one ne{\\b e}dle, so that there are ten thousand needless lines "
         "in the megabyte.\\par ";
@@ -81,12 +82,33 @@ double OpenAfterLongNote() {
   return TimeOf(open) / first;
 }
 
+// What the marks of a search for "e" add to each painting, in the midst of a note of 100 KB.
+double PaintMarks() {
+  const ComApartment apartment;
+  Ui ui{::GetModuleHandleW(nullptr), {}, {}};
+  EditorWindow window(ui);
+  RichEdit& edit = window.editor().edit();
+  window.editor().Show(NoteType::kRtf, Hay(kHits / 10));
+  edit.Select({edit.Length() / 2, edit.Length() / 2});
+  edit.ScrollToCaret();
+  FindMarks marks(edit);
+  const auto paint = [&] {
+    ::InvalidateRect(edit.handle(), nullptr, TRUE);
+    ::UpdateWindow(edit.handle());
+  };
+  paint();
+  const double plain = SecondsFor(paint);
+  marks.Show(L"e", 0);
+  return 1e3 * (SecondsFor(paint) - plain);
+}
+
 }  // namespace
 
 std::vector<Probe> FindPlatformProbes() {
   return {
       {"10,000 hits in a note of 1 MB replaced, against opening it", "x", ReplaceAllAgainstLoad},
-      {"that note opened again, against the first time", "x", OpenAfterLongNote}};
+      {"that note opened again, against the first time", "x", OpenAfterLongNote},
+      {"hits in sight of a note of 100 KB marked", "ms", PaintMarks}};
 }
 
 }  // namespace varnel::bench

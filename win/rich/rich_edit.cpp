@@ -149,7 +149,10 @@ LRESULT RichEdit::Answer(const ControlMessage& message) {
   } else if (Intercept(message.message, message.wparam, message.lparam)) {
     return 0;
   }
-  return hook_.PassOn(message);
+  const LRESULT answer = hook_.PassOn(message);
+  const bool painted = message.message == WM_PAINT && message.control == handle_;
+  if (painted && quiet_ == 0 && painted_) painted_();
+  return answer;
 }
 
 // True when the message is not for the control.

@@ -9,6 +9,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "base/geometry.h"
@@ -146,6 +147,9 @@ class RichEdit {
   // Gives addresses the link format as they are typed; the owner decides which ones it opens.
   void MarkAddresses(bool on);
 
+  // Called after each painting of the control; null: nothing is.
+  void TellPainted(std::function<void()> painted) { painted_ = std::move(painted); }
+
   // --- pictures
 
   bool InsertPicture(const SharedMetafile& look, Size size, std::uint32_t id);
@@ -212,6 +216,7 @@ class RichEdit {
   ControlHook hook_{[this](const ControlMessage& message) { return Answer(message); }};
   HWND handle_ = nullptr;
   int undo_steps_ = 0;
+  std::function<void()> painted_;
   int quiet_ = 0;
   int caret_ = 0;  // where it was seen last
   RichRange last_selection_;

@@ -38,7 +38,11 @@ bool EscPressed() {
 }  // namespace
 
 FindPanel::FindPanel(NotePanelHost& host, EditedNote& note)
-    : NotePanel(host), voice_(host), note_(note), desk_(note, voice_) {}
+    : NotePanel(host),
+      voice_(host),
+      note_(note),
+      desk_(note, voice_),
+      marks_(host.Editor().edit()) {}
 
 void FindPanel::Load() {
   AddCombo(cboFINDWHAT, CBS_DROPDOWN, L"Find what",
@@ -103,6 +107,14 @@ void FindPanel::EnableButtons() {
   }
   host().PanelButtons().Enable(btnREPLACE, wanted && desk_.may_replace());
   ::EnableWindow(Control(cboREPLACEWITH), wanted);
+  ShowMarks();
+}
+
+// The hits are marked while the panel is open.
+void FindPanel::ShowMarks() {
+  const FindWishes wishes = Wishes();
+  marks_.Show(open_ ? wishes.wanted : std::wstring(),
+              FindOptionsWord(wishes.whole_words, wishes.match_case));
 }
 
 void FindPanel::ShowHistories() {
@@ -125,6 +137,8 @@ void FindPanel::ShowHistory(int id, const FindHistory& history) {
 // What a box scrolled out of sight, for want of room, stays there unless the caret goes to it.
 void FindPanel::Place(const Rect& box) {
   NotePanel::Place(box);
+  open_ = !box.empty();
+  ShowMarks();
   for (const int id : {cboFINDWHAT, cboREPLACEWITH}) {
     const LRESULT selected = ::SendMessageW(Control(id), CB_GETEDITSEL, 0, 0);
     ::SendMessageW(Control(id), CB_SETEDITSEL, 0, MAKELPARAM(0, 0));
@@ -144,6 +158,7 @@ bool FindPanel::OnControl(int id, int code) {
     case chkWHOLEWORDS: {
       bool& on = id == chkMATCHCASE ? match_case_ : whole_words_;
       on = !on;
+      ShowMarks();
       host().PanelButtons().Repaint(id);
       return true;
     }

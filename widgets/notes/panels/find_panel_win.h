@@ -2,6 +2,7 @@
 #pragma once
 
 #include "widgets/notes/find/find_desk.h"
+#include "widgets/notes/panels/find_marks_win.h"
 #include "widgets/notes/panels/note_panel_win.h"
 #include "widgets/notes/panels/panel_voice_win.h"
 
@@ -31,6 +32,7 @@ class FindPanel : public NotePanel {  // pfrFIND
   FindWishes Wishes() const;
   void FindNext();
   void ReplaceAll();
+  void ShowMarks();
   void EnableButtons();
   void ShowHistories();
   void ShowHistory(int id, const FindHistory& history);
@@ -38,6 +40,8 @@ class FindPanel : public NotePanel {  // pfrFIND
   PanelVoice voice_;
   EditedNote& note_;
   FindDesk desk_;
+  FindMarks marks_;
+  bool open_ = false;
   bool match_case_ = false;
   bool whole_words_ = false;
 };
