@@ -89,6 +89,7 @@ void Application::Main() {
   });
   Guard(ui_.log, L"menus", [this] {
     menus_.OnAlarmTick([this] { OnAlarmTick(); });
+    menus_.OnShow([this](int widget) { ShowWhatIsAskedFor(widget); });
     menus_.Load(InstanceName(command_line_));
   });
   Guard(ui_.log, L"tray icon", [this] {
@@ -110,6 +111,7 @@ void Application::ShowStartupWindow() {
   } else {
     manager_.WidgetForm::Show(true);
   }
+  if (command_line_.show >= 0) ShowWhatIsAskedFor(command_line_.show);
 }
 
 void Application::ShowManager() {
@@ -127,6 +129,14 @@ void Application::RegisterRunAtLogon() {
   const std::wstring path = ProgramPath();
   WriteRunAtLogon(settings_, RunValueName(command_line_),
                   RunAtLogonCommand(FolderOf(path), BaseName(path), command_line_));
+}
+
+void Application::ShowWhatIsAskedFor(int widget) {
+  if (widget < 0) {
+    ShowManager();
+  } else if (!closing_) {
+    manager_.WidgetOpen(widget);
+  }
 }
 
 void Application::CloseFromOutside(int index) {

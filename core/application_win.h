@@ -58,6 +58,8 @@ class Application : public Program {
   void Main();
   void OnAlarmTick();
   void ShowStartupWindow();
+  // The manager, or the widget of that index.
+  void ShowWhatIsAskedFor(int widget);
   void OnSessionEnd();
   // Null when no menu was opened yet, or its widget is closed.
   LiveForm* OpenCurrentForm() const { return forms_.Find(current_widget_); }

@@ -5,6 +5,7 @@
 #include "base/number_text.h"
 #include "base/path.h"
 #include "base/text.h"
+#include "core/widget_index.h"
 
 namespace varnel {
 namespace {
@@ -28,6 +29,10 @@ CommandLine ParseCommandLine(std::span<const std::wstring> words) {
     const bool has_value = i + 1 < words.size() && !words[i + 1].starts_with(L'/');
     if (EqualsIgnoreCase(words[i], L"/tray")) {
       line.to_tray = true;
+    } else if (EqualsIgnoreCase(words[i], L"/quit")) {
+      line.quit = true;
+    } else if (has_value && EqualsIgnoreCase(words[i], L"/show")) {
+      if (const WidgetEntry* widget = WidgetTitled(words[++i])) line.show = widget->index;
     } else if (has_value && EqualsIgnoreCase(words[i], L"/settings")) {
       const std::wstring key = Trim(words[++i]);
       if (IsKeyName(key)) line.settings_title = key;

@@ -47,7 +47,7 @@ void MenusForm::RunPosted() {
   for (const auto& work : std::exchange(posted_, {})) Guard(ui().log, L"posted work", work);
 }
 
-UINT MenusForm::ShowManagerMessage() {
+UINT MenusForm::ShowMessage() {
   return ::RegisterWindowMessageW(L"Widget Varnel: show the manager");
 }
 
@@ -72,8 +72,8 @@ LRESULT MenusForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     default:
       break;
   }
-  if (message >= 0xC000 && message == ShowManagerMessage()) {
-    program_.ShowManager();
+  if (message >= 0xC000 && message == ShowMessage()) {
+    if (show_) show_(static_cast<int>(wparam) - 1);
     return 0;
   }
   return Window::OnMessage(message, wparam, lparam);

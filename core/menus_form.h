@@ -25,10 +25,14 @@ class MenusForm : public Window {  // frmSTRmn
   // Called on every tick of tmrALARM, 100 ms apart, for as long as the form is loaded.
   void OnAlarmTick(std::function<void()> handler) { alarm_tick_ = std::move(handler); }
 
+  // Called with the widget's index, or -1 for the manager, when a second start asks for it.
+  void OnShow(std::function<void(int widget)> handler) { show_ = std::move(handler); }
+
   HttpFetch& webDATA() { return web_data_; }
 
-  // The message by which a second start asks the first to show its manager.
-  static UINT ShowManagerMessage();
+  // The message by which a second start asks the first to show a widget, its index + 1 as the
+  // first parameter, or with 0 the manager.
+  static UINT ShowMessage();
 
  private:
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
@@ -38,6 +42,7 @@ class MenusForm : public Window {  // frmSTRmn
   std::function<void()> on_session_end_;
   std::vector<std::function<void()>> posted_;
   std::function<void()> alarm_tick_;
+  std::function<void(int widget)> show_;
   Timer tmrALARM_;
   HttpFetch web_data_;
 };

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "base/text.h"
 #include "core/core_settings.h"
 
 namespace varnel {
@@ -38,6 +39,13 @@ const WidgetEntry* WidgetAt(int index) {
 
 const WidgetEntry* WidgetNamed(std::wstring_view form_name) {
   const auto* found = std::ranges::find(kWidgets, form_name, &WidgetEntry::form_name);
+  return found == std::end(kWidgets) ? nullptr : found;
+}
+
+const WidgetEntry* WidgetTitled(std::wstring_view title) {
+  const auto* found = std::ranges::find_if(kWidgets, [title](const WidgetEntry& widget) {
+    return EqualsIgnoreCase(widget.title, title);
+  });
   return found == std::end(kWidgets) ? nullptr : found;
 }
 

@@ -20,6 +20,8 @@ inline constexpr FormEntry kManagerForm{L"frmVRNwg", L"Widget Varnel", L"Varnel 
 // The widget of that number or name; null when there is none.
 const WidgetEntry* WidgetAt(int index);
 const WidgetEntry* WidgetNamed(std::wstring_view form_name);
+// The widget that users know by that title, in any case; null when there is none.
+const WidgetEntry* WidgetTitled(std::wstring_view title);
 
 // A widget or the manager by its form name; null when there is none.
 const FormEntry* FormNamed(std::wstring_view form_name);

@@ -162,6 +162,23 @@ TEST_F(Start, SecondStartShowsTheFirstOnesManagerAndEnds) {
   EXPECT_TRUE(WaitForForm(program(), L"frmVRNwg"));
 }
 
+TEST_F(Start, SecondStartShowsAWidgetAndEndsTheFirst) {
+  ASSERT_TRUE(program().Start(L"/tray /show stopwatch"));
+  ASSERT_TRUE(WaitForForm(program(), L"frmSTWwg"));
+  Program second(root());
+  for (int again = 0; again < 2; ++again) {
+    ASSERT_TRUE(second.Start(L"/show Countdown"));
+    EXPECT_EQ(second.WaitForExit(), 0u);
+    EXPECT_TRUE(WaitForForm(program(), L"frmCDNwg"));
+  }
+  ASSERT_TRUE(second.Start(L"/quit"));
+  EXPECT_EQ(second.WaitForExit(), 0u);
+  EXPECT_EQ(program().exit_code(), 0u);
+  // There is none any more.
+  ASSERT_TRUE(second.Start(L"/quit"));
+  EXPECT_EQ(second.WaitForExit(), 0u);
+}
+
 TEST_F(Start, SessionEndSavesWhatIsOpenAndWhereItIs) {
   HWND manager = StartWithManager();
   ASSERT_TRUE(ClickOn(Control(manager, lblNUMBER)));

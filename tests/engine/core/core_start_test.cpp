@@ -124,7 +124,12 @@ TEST(CommandLine, TakesWhatItKnowsAndNothingElse) {
     EXPECT_EQ(line.settings_title, title);
     EXPECT_EQ(line.program_folder, folder);
     EXPECT_EQ(line.to_tray, to_tray);
+    EXPECT_EQ(line.show, -1);
+    EXPECT_FALSE(line.quit);
   }
+  EXPECT_EQ(ParseCommandLine(Words{L"/show", L"nOTES"}).show, 3);
+  EXPECT_EQ(ParseCommandLine(Words{L"/show", L"Manager"}).show, -1);
+  EXPECT_TRUE(ParseCommandLine(Words{L"/show", L"/quit"}).quit);
 }
 
 }  // namespace
