@@ -61,9 +61,11 @@ std::vector<NumberedVersion> NumberedVersions(const FileStore& files, const std:
   return versions;
 }
 
-// "NAME.draft" and "NAME.2.draft" are drafts of NAME.
-std::wstring DocumentNameOf(std::wstring_view draft_name) {
+// "NAME.draft" and "NAME.2.draft" are drafts of NAME, unless there is a document "NAME.2".
+std::wstring DocumentNameOf(const FileStore& files, const std::wstring& folder,
+                            std::wstring_view draft_name) {
   std::wstring_view name = draft_name.substr(0, draft_name.size() - kDraftEnding.size());
+  if (files.FileExists(folder + L"\\" + std::wstring(name))) return std::wstring(name);
   const std::size_t cut = name.rfind(L'.');
   if (cut != std::wstring_view::npos && NumberOf(name.substr(cut + 1))) name = name.substr(0, cut);
   return std::wstring(name);
@@ -97,7 +99,7 @@ std::vector<FoundDraft> FindDrafts(FileStore& files, const std::wstring& folder)
     if (!EndsWithIgnoreCase(file.name, kDraftEnding)) continue;
     FoundDraft draft;
     draft.path = HiddenFolderOf(bare) + L"\\" + file.name;
-    draft.document_path = bare + L"\\" + DocumentNameOf(file.name);
+    draft.document_path = bare + L"\\" + DocumentNameOf(files, bare, file.name);
     draft.stamp = file.stamp;
     const FileStamp document = files.Stamp(draft.document_path);
     draft.has_document = document != kNoFile;
@@ -122,15 +124,16 @@ std::vector<DocumentVersion> VersionsOf(const FileStore& files, const std::wstri
   return versions;
 }
 
-void MoveVersions(FileStore& files, const std::wstring& old_path, const std::wstring& new_path) {
-  for (const auto& [number, version] : NumberedVersions(files, old_path)) {
-    files.Rename(version.path, HiddenPath(new_path) + L"." + NumberText(number));
-  }
-}
-
 void RemoveVersions(FileStore& files, const std::wstring& path) {
   for (const DocumentVersion& version : VersionsOf(files, path)) {
     files.Remove(version.path, Removal::kForced);
+  }
+}
+
+void MoveVersions(FileStore& files, const std::wstring& old_path, const std::wstring& new_path) {
+  RemoveVersions(files, new_path);
+  for (const auto& [number, version] : NumberedVersions(files, old_path)) {
+    files.Rename(version.path, HiddenPath(new_path) + L"." + NumberText(number));
   }
 }
 
@@ -219,6 +222,8 @@ FileResult DocumentFile::Write(std::string_view bytes, OthersChanges others) {
   if (stamp != stamp_ && stamp != kNoFile && others == OthersChanges::kAsk) {
     return FileResult::kChanged;
   }
+  // A version may be the file itself under a second name, and taking it back would clear the mark.
+  if (files_.IsReadOnly(path_)) return FileResult::kReadOnly;
   const std::wstring version = stamp == kNoFile ? std::wstring() : KeepVersion(stamp);
   const FileWritten written = files_.Replace(path_, bytes, stamp);
   if (!written) {

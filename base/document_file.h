@@ -20,6 +20,7 @@ inline constexpr std::size_t kMostVersions = 10;  // of one document; the oldest
 struct DocumentVersion {
   std::wstring path;
   FileStamp stamp;  // when that content was saved, and its size
+  bool operator==(const DocumentVersion&) const = default;
 };
 
 // Unsaved changes of a program that did not come to its end.
@@ -35,7 +36,8 @@ struct FoundDraft {
 // what its document holds is removed. To be asked before any document of the folder is open.
 std::vector<FoundDraft> FindDrafts(FileStore& files, const std::wstring& folder);
 
-// The versions of a document follow it when it gets another name, and go with it.
+// The versions of a document follow it when it gets another name, in place of those that a document
+// of that name has left, and go with it.
 std::vector<DocumentVersion> VersionsOf(const FileStore& files, const std::wstring& path);
 void MoveVersions(FileStore& files, const std::wstring& old_path, const std::wstring& new_path);
 void RemoveVersions(FileStore& files, const std::wstring& path);

@@ -104,7 +104,6 @@ Renamed DocumentFolder::Rename(std::size_t index, std::wstring_view typed, std::
     if (clash == NameClash::kAsk) return {RenameResult::kClash, FileResult::kExists, Name(index)};
     // Nothing is taken away before the file to be renamed is known to be there.
     renamed.trouble = files_.FileExists(former_path) ? bin_.Recycle(path) : FileResult::kMissing;
-    if (renamed.trouble == FileResult::kDone) RemoveVersions(files_, path);
   }
   if (renamed.trouble == FileResult::kDone) renamed.trouble = files_.Rename(former_path, path);
   if (renamed.trouble == FileResult::kDone) {

@@ -86,6 +86,8 @@ class FileStore {
   // kNoFile where there is no such file.
   virtual FileStamp Stamp(const std::wstring& path) const = 0;
   bool FileExists(const std::wstring& path) const { return Stamp(path) != kNoFile; }
+  // Whether the file is marked read-only; false where there is none.
+  virtual bool IsReadOnly(const std::wstring& path) const = 0;
   virtual bool FolderExists(const std::wstring& path) const = 0;
 
   // Creates the folder and every missing one above it; only the folder itself is hidden. A folder

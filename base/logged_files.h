@@ -27,6 +27,7 @@ class LoggedFiles : public FileStore {
   FileWritten Append(const std::wstring& path, const FileStamp& expected,
                      std::string_view bytes) override;
   FileStamp Stamp(const std::wstring& path) const override { return files_.Stamp(path); }
+  bool IsReadOnly(const std::wstring& path) const override { return files_.IsReadOnly(path); }
   bool FolderExists(const std::wstring& path) const override { return files_.FolderExists(path); }
   bool CreateFolder(const std::wstring& path, FolderLook look = FolderLook::kPlain) override;
   FileResult MoveFolder(const std::wstring& old_path, const std::wstring& new_path) override;

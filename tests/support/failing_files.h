@@ -39,6 +39,7 @@ class FailingFiles : public FileStore {
     return {fault_, {}};
   }
   FileStamp Stamp(const std::wstring& path) const override { return files_.Stamp(path); }
+  bool IsReadOnly(const std::wstring& path) const override { return files_.IsReadOnly(path); }
   bool FolderExists(const std::wstring& path) const override { return files_.FolderExists(path); }
   bool CreateFolder(const std::wstring& path, FolderLook look = FolderLook::kPlain) override {
     return files_.FolderExists(path) || (!Fails() && files_.CreateFolder(path, look));

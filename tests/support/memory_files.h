@@ -58,6 +58,7 @@ class MemoryFiles : public FileStore {
     }
     return known;
   }
+  bool IsReadOnly(const std::wstring& path) const override { return read_only.contains(path); }
   bool FolderExists(const std::wstring& path) const override {
     return folders.contains(Bare(path));
   }

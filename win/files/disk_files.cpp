@@ -167,6 +167,10 @@ FileStamp DiskFiles::Stamp(const std::wstring& path) const {
   return StampOf(data.nFileSizeHigh, data.nFileSizeLow, data.ftLastWriteTime);
 }
 
+bool DiskFiles::IsReadOnly(const std::wstring& path) const {
+  return MarkedAgainstWriting(path) == FileResult::kReadOnly;
+}
+
 bool DiskFiles::FolderExists(const std::wstring& path) const {
   return Has(Attributes(WithoutSeparator(path)), FILE_ATTRIBUTE_DIRECTORY);
 }
@@ -242,6 +246,9 @@ FolderListing DiskFiles::Files(const std::wstring& folder) const {
     listing.files.push_back(
         {data.cFileName, StampOf(data.nFileSizeHigh, data.nFileSizeLow, data.ftLastWriteTime)});
   } while (listing.files.size() < kMostFiles && ::FindNextFileW(search, &data));
+  const bool cut_short =
+      listing.files.size() < kMostFiles && ::GetLastError() != ERROR_NO_MORE_FILES;
+  if (cut_short) listing = {LastFileResult(), {}};
   ::FindClose(search);
   return listing;
 }

@@ -17,6 +17,7 @@ class DiskFiles : public FileStore {
   FileWritten Append(const std::wstring& path, const FileStamp& expected,
                      std::string_view bytes) override;
   FileStamp Stamp(const std::wstring& path) const override;
+  bool IsReadOnly(const std::wstring& path) const override;
   bool FolderExists(const std::wstring& path) const override;
   bool CreateFolder(const std::wstring& path, FolderLook look = FolderLook::kPlain) override;
   // On another drive the copy grows under its name followed by ".moving", and the old folder goes

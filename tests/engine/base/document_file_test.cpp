@@ -50,6 +50,7 @@ TEST_F(Documents, SavedOnesKeepTheirTenFormerContents) {
   EXPECT_EQ(document.Versions()[1].stamp.size, 2u);
 
   disk.Plant(kFolder + L"\\.varnel\\memo.rtf.rtf.3", "another document's");
+  disk.Plant(kFolder + L"\\.varnel\\b.rtf.12", "left by one of that name");
   EXPECT_EQ(disk.Rename(kPath, kFolder + L"\\b.rtf"), FileResult::kDone);
   MoveVersions(disk, kPath, kFolder + L"\\b.rtf");
   EXPECT_TRUE(Versions().empty());
@@ -153,6 +154,10 @@ TEST_F(Documents, OfAProgramThatWasEndedComeBack) {
   EXPECT_EQ(Drafts(), Contents{"text"});
   disk.Plant(kFolder + L"\\gone.rtf", "written later");
   EXPECT_TRUE(FindDrafts(disk, kFolder)[0].older);
+  // A number may belong to the document's own name.
+  disk.Plant(kFolder + L"\\log.2", "old");
+  disk.Plant(kFolder + L"\\.varnel\\log.2.draft", "a draft of it");
+  EXPECT_EQ(FindDrafts(disk, kFolder)[0].document_path, kFolder + L"\\log.2");
 }
 
 TEST_F(Documents, TroubleLeavesTheOldContentAndALaterSaveWorks) {

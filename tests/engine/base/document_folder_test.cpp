@@ -105,6 +105,15 @@ TEST_F(DocumentLists, RenameAsksBeforeAnotherDocumentGoes) {
   EXPECT_EQ(notes.Rename(0, L"A", L".rtf").result, RenameResult::kDone) << "only in another case";
   EXPECT_EQ(Names(), (NameList{L"A.rtf", L"b.rtf"}));
   EXPECT_EQ(notes.Rename(0, L" B ", L".rtf").result, RenameResult::kClash);
+  DocumentFile replaced(disk);
+  replaced.Open(kFolder + L"\\b.rtf", 1000);
+  replaced.Save("b");
+  disk.locked.insert(kFolder + L"\\A.rtf");
+  EXPECT_EQ(notes.Rename(0, L"B", L".rtf", NameClash::kReplace).trouble, FileResult::kLocked);
+  EXPECT_EQ(VersionsOf(disk, kFolder + L"\\b.rtf").size(), 1u) << "nothing came in its place";
+  disk.Plant(kFolder + L"\\b.rtf", "b");
+  disk.locked.clear();
+  notes.Refresh();
   EXPECT_EQ(disk.files.at(kFolder + L"\\b.rtf"), "b");
   const Renamed renamed = notes.Rename(0, L"B", L".rtf", NameClash::kReplace);
   EXPECT_EQ(renamed.result, RenameResult::kDone);
