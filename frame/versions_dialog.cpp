@@ -37,8 +37,19 @@ Size Fitted(Size size, Size most) {
 
 }  // namespace
 
+std::vector<DocumentVersion> VersionsDialog::Present() const {
+  return widget() ? widget()->Versions() : std::vector<DocumentVersion>();
+}
+
+// The widget may have turned to another document, or saved this one once more.
+bool VersionsDialog::IsUpToDate() {
+  if (Present() == versions_) return true;
+  Fill();
+  return false;
+}
+
 void VersionsDialog::Fill() {
-  versions_ = widget() ? widget()->Versions() : std::vector<DocumentVersion>();
+  versions_ = Present();
   ::SendMessageW(Control(lstVERSIONS), LB_RESETCONTENT, 0, 0);
   for (const DocumentVersion& version : versions_) {
     ::SendMessageW(Control(lstVERSIONS), LB_ADDSTRING, 0,
@@ -75,6 +86,7 @@ void VersionsDialog::Show(const std::wstring& words, Image picture) {
 }
 
 bool VersionsDialog::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
+  if (message == WM_ACTIVATE && LOWORD(wparam) != WA_INACTIVE) IsUpToDate();
   if (message != WM_DRAWITEM || wparam != imgVERSION || picture_.empty()) return false;
   const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lparam);
   const Size room{static_cast<int>(item.rcItem.right), static_cast<int>(item.rcItem.bottom)};
@@ -93,6 +105,7 @@ bool VersionsDialog::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
 void VersionsDialog::OnCommand(int id, int code) {
   if (id == lstVERSIONS && code == LBN_SELCHANGE) Preview();
   if (id == cmdRESTORE && code == BN_CLICKED) {
+    if (!IsUpToDate()) return;  // what was chosen may be another document's
     const DocumentVersion* version = Chosen();
     if (version && widget()) widget()->RestoreVersion(DocumentVersion(*version));
     Close();

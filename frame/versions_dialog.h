@@ -40,6 +40,8 @@ class VersionsDialog : public Dialog {
   void OnReopen() override { Fill(); }
   void OnCommand(int id, int code) override;
   bool OnMessage(UINT message, WPARAM wparam, LPARAM lparam) override;
+  std::vector<DocumentVersion> Present() const;
+  bool IsUpToDate();
   void Fill();
   const DocumentVersion* Chosen() const;
   void Preview();
