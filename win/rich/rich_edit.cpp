@@ -152,7 +152,8 @@ LRESULT RichEdit::Answer(const ControlMessage& message) {
   const LRESULT answer = hook_.PassOn(message);
   const bool painted = message.message == WM_PAINT && message.control == handle_;
   if (painted && quiet_ == 0 && painted_) painted_();
-  return answer;
+  // Else Tab would select the whole text, and the next letter replace it.
+  return message.message == WM_GETDLGCODE ? answer & ~LRESULT{DLGC_HASSETSEL} : answer;
 }
 
 // True when the message is not for the control.
