@@ -34,6 +34,8 @@ class BoardThumbnails {
   std::optional<Wish> Next() const;
   // An empty picture stands for a file that shows none.
   void Put(const Wish& wish, Image picture);
+  // The file could not be read for now: it is wanted when it is looked for again.
+  void Drop(const Wish& wish) { std::erase(wishes_, wish); }
   void Forget();
 
  private:

@@ -35,6 +35,8 @@ class CalendarBoard : public BoardDocument {
   Month month() const { return month_; }
   // Of the grid that is shown.
   int first_weekday() const { return shown_weekday_; }
+  // As it was asked for; a month whose ink cannot be moved keeps the one it was drawn on.
+  int wished_weekday() const { return first_weekday_; }
   std::wstring title() const { return MonthTitle(month_, words_); }
   const Holidays& holidays() const { return holidays_; }
 

@@ -277,7 +277,7 @@ LRESULT CalendarForm::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
       OnNewDay();
       break;
     case WM_SETTINGCHANGE:
-      if (UserFirstWeekday() != calendar_.first_weekday()) OnLanguage();
+      if (UserFirstWeekday() != calendar_.wished_weekday()) OnLanguage();
       break;
     default:
       break;

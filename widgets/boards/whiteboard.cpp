@@ -195,6 +195,7 @@ RenameResult Whiteboard::Rename(std::size_t index, const std::wstring& typed, Na
 void Whiteboard::SideBarRefresh(Size size) {
   const FolderChanges changes = folder_.Refresh();
   if (changes.result != FileResult::kDone || !file_->has_file() || board_.BoardModified()) return;
+  if (board_.drawing() || board_.floating()) return;
   const FileResult now = file_->Check();
   if (now == FileResult::kMissing) {
     StartNew(size);

@@ -104,6 +104,10 @@ void WhiteboardForm::BoardPrint() {
 }
 
 void WhiteboardForm::SideBarRefresh() {
+  if (lvwFILES_.renaming()) {
+    refresh_due_ = true;
+    return;
+  }
   whiteboard_.SideBarRefresh(ViewSize());
   ShowBoard();
 }
@@ -124,6 +128,10 @@ void WhiteboardForm::OnRowRenamed(std::size_t row, const std::wstring& text) {
     }
   }
   if (handle()) ShowBoard();
+}
+
+void WhiteboardForm::OnRenameEnded() {
+  if (std::exchange(refresh_due_, false)) SideBarRefresh();
 }
 
 void WhiteboardForm::OnRowChosen(std::size_t row) {
@@ -208,6 +216,8 @@ void WhiteboardForm::MakeThumbnail() {
   const DocumentFolder& boards = whiteboard_.boards();
   const FileRead read =
       services().files.Read(boards.folder() + L"\\" + wish->name, kMostBoardBytes);
+  // It is tried again when the row is next painted.
+  if (read.result == FileResult::kLocked) return thumbnails_.Drop(*wish);
   const auto board = read ? ReadBmp(read.bytes) : std::nullopt;
   const Rect box = Inset(LayOutBoardRow({}, dpi()).picture, 1);
   thumbnails_.Put(*wish, board ? ThumbnailOf(*board, {box.width(), box.height()}) : Image());

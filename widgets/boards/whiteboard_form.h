@@ -51,6 +51,7 @@ class WhiteboardForm : public BoardForm,  // frmWBDwg
   void PaintRow(Surface& surface, const SideRow& row) override;
   void OnRowChosen(std::size_t row) override;
   void OnRowRenamed(std::size_t row, const std::wstring& text) override;
+  void OnRenameEnded() override;
   BoardDocument& document() override { return whiteboard_; }
   Image PictureOfBoard() override { return board_.Picture(); }
   void PaintBoard(Surface& surface, const Rect& part) override;
@@ -79,6 +80,7 @@ class WhiteboardForm : public BoardForm,  // frmWBDwg
   BoardThumbnails thumbnails_;
   WhiteboardLayout places_;
   bool list_wanted_ = true;
+  bool refresh_due_ = false;  // once no row is being renamed
   SideList lvwFILES_;
   FolderWatch watch_;
   Timer thumbnail_timer_;
