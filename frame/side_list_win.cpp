@@ -198,8 +198,11 @@ std::optional<std::size_t> SideList::Next(int after, UINT flags) const {
 
 std::vector<std::size_t> SideList::Selected() const {
   std::vector<std::size_t> rows;
-  for (auto row = Next(-1, LVNI_SELECTED); row; row = Next(static_cast<int>(*row), LVNI_SELECTED)) {
+  auto row = Next(-1, LVNI_SELECTED);
+  // A list whose window is gone answers 0 for ever.
+  while (row && (rows.empty() || *row > rows.back())) {
     rows.push_back(*row);
+    row = Next(static_cast<int>(*row), LVNI_SELECTED);
   }
   return rows;
 }
@@ -213,9 +216,14 @@ LRESULT SideList::OnNotify(NMHDR& header) {
     case LVN_GETDISPINFOW:
       GiveText(reinterpret_cast<NMLVDISPINFOW&>(header).item);
       return 0;
+    case LVN_BEGINLABELEDITW:
+      renaming_ = true;
+      return FALSE;
     case LVN_ENDLABELEDITW: {
       const LVITEMW& item = reinterpret_cast<const NMLVDISPINFOW&>(header).item;
+      renaming_ = false;
       if (item.pszText) owner_.OnRowRenamed(static_cast<std::size_t>(item.iItem), item.pszText);
+      owner_.OnRenameEnded();
       return FALSE;
     }
     case NM_CLICK: {

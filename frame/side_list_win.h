@@ -49,6 +49,8 @@ class SideListOwner {
   virtual void OnRowChosen(std::size_t row) = 0;
   // The user gave the row another text. What becomes of it is the owner's; the list shows RowText.
   virtual void OnRowRenamed(std::size_t /*row*/, const std::wstring& /*text*/) {}
+  // A row is no longer being renamed, whatever came of it. Until now its number had to stay.
+  virtual void OnRenameEnded() {}
 };
 
 enum class SideListKind {
@@ -88,7 +90,7 @@ class SideList {
 
   // Has the row's text edited in place. Only in a list of documents.
   void Rename(std::size_t row);
-  bool renaming() const { return ListView_GetEditControl(handle_) != nullptr; }
+  bool renaming() const { return renaming_; }
 
   // Scrolls by so many rows, towards the end when positive, as far as there are any.
   void ScrollBy(int rows) { ScrollTo(Range().first + rows); }
@@ -119,6 +121,7 @@ class SideList {
   SideListLook look_;
   UniqueFont font_;      // gives the rows their height
   bool struck_ = false;  // a key that moves in the list is down
+  bool renaming_ = false;
   ThumbBar bar_;
 };
 

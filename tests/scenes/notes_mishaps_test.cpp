@@ -1,4 +1,8 @@
 // The notes where files come and go: export, import, disks that take nothing, killed programs.
+#include <windows.h>
+
+#include <commctrl.h>
+
 #include <cstdio>
 #include <random>
 
@@ -88,8 +92,10 @@ TEST_F(NotesMishaps, WhatCannotBeWrittenIsSavedLater) {
   const std::wstring path = OnlyNote();
   Type(L" two");
   ::SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY);
-  ExpectSavedOnceThereIsNoMore(L"is read-only", path,
-                               [&] { ::SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL); });
+  ExpectSavedOnceThereIsNoMore(L"is read-only", path, [&] {
+    EXPECT_TRUE(::GetFileAttributesW(path.c_str()) & FILE_ATTRIBUTE_READONLY) << "still";
+    ::SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+  });
   Type(L" three");
   RemoveAll(root().folder() + L"\\tavrin");
   ASSERT_SOON(!FolderExists(Folder()));  // it goes when nobody watches it any more
@@ -99,6 +105,54 @@ TEST_F(NotesMishaps, WhatCannotBeWrittenIsSavedLater) {
   ::CreateDirectoryW(Folder().c_str(), nullptr);
   Choose(form_, L"mnuNOTESSAVE");
   EXPECT_EQ(Saved(OnlyNote()).text, L"one two three");
+}
+
+TEST_F(NotesMishaps, WhatStandsOpenActsOnTheNoteThatItIsAbout) {
+  ASSERT_TRUE(WriteBytes(Folder() + L"b.txt", "second"));
+  ASSERT_TRUE(WriteBytes(Folder() + L"c.txt", "third"));
+  Start();
+  HWND list = Control(form_, lvwFILES);
+  const Rect rows = RectOf(list);
+  const auto choose_second = [&] {
+    Click({rows.left + 20, rows.top + 10});
+    PressKey(VK_DOWN);
+  };
+  Click({rows.left + 20, rows.top + 10});
+  EXPECT_SOON_EQ(Content(), L"second");
+  PressKey(VK_TAB);
+  ASSERT_SOON(FocusedWindow() == editor_);
+  Type(L"More: ");
+  Choose(form_, L"mnuNOTESSAVE");
+  Choose(form_, L"mnuNOTESVERSIONS");
+  HWND versions = WaitForForm(program(), L"frmNOTvr");
+  ASSERT_TRUE(versions);
+  EXPECT_EQ(Text(Control(versions, txtVERSION)), L"second");
+  ::SetWindowPos(versions, nullptr, 700, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+  // Another note is shown: its versions are no longer those of the list.
+  choose_second();
+  ASSERT_SOON(Content() == L"third");
+  Send(Control(versions, cmdRESTORE), BM_CLICK);
+  EXPECT_SOON(Send(Control(versions, lstVERSIONS), LB_GETCOUNT) == 0);
+  EXPECT_EQ(FileBytes(Folder() + L"c.txt"), "third");
+  PressButton(versions, IDCANCEL);
+
+  // Others add a note above while the question stands, and while a name is typed.
+  Choose(form_, L"mnuNOTESDELETE");
+  HWND question = WaitForDialog(program());
+  ASSERT_TRUE(question);
+  ASSERT_TRUE(WriteBytes(Folder() + L"a.txt", "first"));
+  EXPECT_SOON(Send(list, LVM_GETITEMCOUNT) == 3);
+  PressButton(question, IDYES);
+  EXPECT_SOON(!FileExists(Folder() + L"c.txt"));
+  EXPECT_EQ(FileBytes(Folder() + L"b.txt"), "More: second");
+  choose_second();
+  EXPECT_SOON_EQ(Content(), L"More: second");
+  PressKey(VK_F2);
+  ASSERT_SOON(ChildOfClass(list, L"Edit") != nullptr);
+  ASSERT_TRUE(WriteBytes(Folder() + L"0.txt", "none"));
+  Type(L"renamed\n");
+  EXPECT_SOON_EQ(FileBytes(Folder() + L"renamed.txt").value_or(""), "More: second");
+  EXPECT_SOON(Send(list, LVM_GETITEMCOUNT) == 3);
 }
 
 TEST_F(NotesMishaps, AFullDiskLosesNothing) {

@@ -1,5 +1,6 @@
 #include "widgets/notes/note_desk.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "base/name_order.h"
@@ -91,33 +92,57 @@ bool NoteDesk::ShowFile(DocumentFile file, const FileRead& read, const std::wstr
   return true;
 }
 
-bool NoteDesk::Recover(const std::wstring& folder) {
-  bool shown = false;
-  for (const FoundDraft& draft : FindDrafts(files_, folder)) {
-    DocumentFile found(files_);
-    const FileRead read = found.OpenDraft(draft, kMostNoteBytes);
-    if (!read) continue;
+void NoteDesk::ShowDraft(DocumentFile file, const FileRead& read, const FoundDraft& draft) {
+  if (draft.has_document) {
+    ShowFile(std::move(file), read, draft.document_path);
+  } else {
     const NoteType type = NoteTypeOf(draft.document_path);
-    if (shown || draft.older) {
-      found.SaveAs(
-          GeneratedNotePath(FolderPath(), clock_.Now(), draft.document_path, type, Exists()),
-          read.bytes);
-      continue;
-    }
-    if (draft.has_document) {
-      ShowFile(std::move(found), read, draft.document_path);
-    } else {
-      document_.StartNew(type);
-      const NoteContent::Shown content = content_.Show(type, read.bytes);
-      document_.Opened(document_.path(), content.type);
-      file_.emplace(std::move(found));
-    }
-    document_.Changed(false);
-    notice_ = L"Unsaved changes of the last run are back";
-    shown = true;
+    document_.StartNew(type);
+    const NoteContent::Shown content = content_.Show(type, read.bytes);
+    document_.Opened(document_.path(), content.type);
+    file_.emplace(std::move(file));
   }
+  document_.Changed(false);
+}
+
+bool NoteDesk::Recover(std::vector<std::wstring> folders) {
+  for (std::wstring& folder : folders) {
+    while (folder.ends_with(L'\\')) folder.pop_back();
+  }
+  // A draft that is shown must not be found again.
+  for (auto folder = folders.begin(); folder != folders.end(); ++folder) {
+    std::replace_if(
+        std::next(folder), folders.end(),
+        [&](const std::wstring& other) { return SamePath(other, *folder); }, std::wstring());
+  }
+  bool shown = false;
+  std::wstring trouble;
+  for (const std::wstring& folder : folders) {
+    const auto drafts = folder.empty() ? std::vector<FoundDraft>() : FindDrafts(files_, folder);
+    for (const FoundDraft& draft : drafts) {
+      DocumentFile found(files_);
+      const FileRead read = found.OpenDraft(draft, kMostDraftBytes);
+      if (!read) {
+        trouble = L"The draft of " + Quoted(draft.document_path) + L" " +
+                  std::wstring(FileTrouble(read.result));
+      } else if (shown || draft.older) {
+        found.SaveAs(GeneratedNotePath(FolderPath(), clock_.Now(), draft.document_path,
+                                       NoteTypeOf(draft.document_path), Exists()),
+                     read.bytes);
+      } else {
+        ShowDraft(std::move(found), read, draft);
+        shown = true;
+      }
+    }
+  }
+  if (shown) notice_ = L"Unsaved changes of the last run are back";
+  if (!trouble.empty()) notice_ = std::move(trouble);
   folder_.Refresh();
   return shown;
+}
+
+std::wstring NoteDesk::draft_folder() const {
+  return file_->path().substr(0, file_->path().rfind(L'\\'));
 }
 
 // --- saving

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/document_file.h"
 #include "base/document_folder.h"
@@ -14,8 +15,10 @@
 
 namespace varnel {
 
-// The most bytes that a note's file may have.
+// The most bytes that a note's file may have, and that a draft is read back with: what has grown
+// too large to be saved is not lost.
 inline constexpr std::size_t kMostNoteBytes = 16 * 1024 * 1024;
+inline constexpr std::size_t kMostDraftBytes = 8 * kMostNoteBytes;
 
 // What holds the text of the note that is shown.
 class NoteContent {
@@ -49,9 +52,12 @@ class NoteDesk {
 
   // Turns to a folder; the note that is shown stays.
   void Adopt(const std::wstring& folder);
-  // Shows the unsaved changes that a run of the program left in the folder, as unsaved changes of a
-  // note; those of further notes become notes. False when there are none.
-  bool Recover(const std::wstring& folder);
+  // Shows the unsaved changes that a run of the program left in the first of the folders that has
+  // any (empty names are skipped), as unsaved changes of a note; those of further notes become
+  // notes. False when there are none.
+  bool Recover(std::vector<std::wstring> folders);
+  // Where the draft of the note that is shown is kept, without a final "\".
+  std::wstring draft_folder() const;
 
   // The next two save a changed note first without asking, and leave all as it is where that fails.
   bool DocumentNew(NoteType type);
@@ -89,6 +95,7 @@ class NoteDesk {
   std::wstring FolderPath() const { return folder_.folder() + L"\\"; }
   FileExists Exists() const;
   void StartFile();
+  void ShowDraft(DocumentFile file, const FileRead& read, const FoundDraft& draft);
   bool ShowFile(DocumentFile file, const FileRead& read, const std::wstring& path);
   bool SaveModified();
   FileResult Write(NoteType type, const std::wstring& path, OthersChanges others,

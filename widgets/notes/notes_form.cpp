@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/name_order.h"
 #include "base/path.h"
 #include "resources/control_ids.h"
 #include "widgets/notes/note_settings.h"
@@ -116,7 +117,7 @@ void NotesForm::OnLoad() {
 void NotesForm::OpenAtStart() {
   desk_.Adopt(Folder());
   const std::wstring elsewhere = services().settings.Read(kOpenNoteFolder);
-  if (!desk_.Recover(Folder()) && (elsewhere.empty() || !desk_.Recover(elsewhere))) {
+  if (!desk_.Recover({Folder(), elsewhere})) {
     DocumentNew();
   } else {
     draft_timer_.Start();
@@ -130,13 +131,18 @@ void NotesForm::OpenAtStart() {
 
 void NotesForm::OnUnload() {
   RememberPlace();
+  ready_ = false;
   draft_timer_.Stop();
   count_timer_.Stop();
   notice_timer_.Stop();
   search_timer_.Stop();
   watch_.Watch({});
-  // What another program closed unasked comes back with the next start.
-  if (!desk_.document().modified()) services().settings.Write(kOpenNoteFolder, L"");
+  // What another program closed unasked comes back with the next start, and so does what lies where
+  // nobody can look today.
+  const std::wstring elsewhere = services().settings.Read(kOpenNoteFolder);
+  if (!desk_.document().modified() && services().files.FolderExists(elsewhere)) {
+    services().settings.Write(kOpenNoteFolder, L"");
+  }
   link_.widget = nullptr;
 }
 
@@ -196,9 +202,11 @@ void NotesForm::ReturnToPlace() {
 
 bool NotesForm::SaveReplacing(FileResult result, NoteType type, const std::wstring& path) {
   if (result == FileResult::kChanged &&
-      Ask(handle(), kChangedQuestion, {desk_.document().title()}) && handle()) {
+      Ask(handle(), kChangedQuestion, {desk_.document().title()})) {
+    if (!handle()) return false;
     result = desk_.DocumentSaveFile(type, path, OthersChanges::kReplace);
   }
+  if (!handle()) return false;
   ShowNote();
   return result == FileResult::kDone;
 }
@@ -281,8 +289,13 @@ void NotesForm::DocumentPrint() {
 // --- the list
 
 void NotesForm::NoteDelete() {
-  const auto note = SelectedNote();
-  if (!note || !Ask(handle(), kDeleteQuestion) || !handle()) return;
+  const auto selected = SelectedNote();
+  if (!selected) return;
+  // While the question stands, others may change the folder.
+  const std::wstring name = desk_.notes().Name(*selected);
+  if (!Ask(handle(), kDeleteQuestion) || !handle()) return;
+  const auto note = desk_.notes().Find(name);
+  if (!note) return;
   const auto next = desk_.NoteDelete(*note);
   StartSearch();
   ShowList(next ? desk_.notes().Name(*next) : std::wstring());
@@ -303,12 +316,19 @@ void NotesForm::NOTERenameShow() {
 void NotesForm::OnRowRenamed(std::size_t row, const std::wstring& text) {
   const auto note = NoteOfRow(row);
   if (!note) return;
-  RenameResult result = desk_.Rename(*note, text, NameClash::kAsk);
-  if (result == RenameResult::kClash && Ask(handle(), kReplaceQuestion, {text}) && handle()) {
-    result = desk_.Rename(*note, text, NameClash::kReplace);
+  const std::wstring former = desk_.notes().Name(*note);
+  if (desk_.Rename(*note, text, NameClash::kAsk) == RenameResult::kClash) {
+    const bool replace = Ask(handle(), kReplaceQuestion, {text});
+    if (!handle()) return;
+    const auto now = desk_.notes().Find(former);
+    if (replace && now) desk_.Rename(*now, text, NameClash::kReplace);
   }
   StartSearch();
   ShowNote();
+}
+
+void NotesForm::OnRenameEnded() {
+  if (std::exchange(refresh_due_, false)) SideBarRefresh();
 }
 
 void NotesForm::OnRowChosen(std::size_t row) {
@@ -320,6 +340,10 @@ void NotesForm::OnRowChosen(std::size_t row) {
 }
 
 void NotesForm::SideBarRefresh() {
+  if (lvwFILES_.renaming()) {
+    refresh_due_ = true;
+    return;
+  }
   const auto note = SelectedNote();
   const std::wstring selected = note ? desk_.notes().Name(*note) : std::wstring();
   const bool shown_anew = desk_.SideBarRefresh();
@@ -330,8 +354,16 @@ void NotesForm::SideBarRefresh() {
   if (desk_.document().modified()) draft_timer_.Start();
 }
 
+// The draft of a note that has no file yet lies where the note was begun.
+void NotesForm::RememberDraftFolder() {
+  const std::wstring folder = desk_.draft_folder();
+  const bool here = CompareNames(folder, desk_.notes().folder()) == 0;
+  services().settings.Write(kOpenNoteFolder, here ? L"" : folder);
+}
+
 void NotesForm::FolderChanged() {
   desk_.Adopt(Folder());
+  if (desk_.document().modified()) RememberDraftFolder();
   StartSearch();
   watch_.Watch(Folder());
   ShowNote();
@@ -356,12 +388,7 @@ void NotesForm::OnEdited() {
   if (!draft_timer_.enabled()) draft_timer_.Start();
   if (!was_modified) {
     RepaintTool(kToolSave);
-    if (!desk_.current()) {
-      const std::wstring& path = desk_.document().path();
-      const std::size_t cut = path.rfind(L'\\');
-      services().settings.Write(kOpenNoteFolder,
-                                cut == std::wstring::npos ? L"" : path.substr(0, cut));
-    }
+    if (!desk_.current()) RememberDraftFolder();
   }
   if (editor_.text_is_old()) {
     count_timer_.Stop();

@@ -94,6 +94,7 @@ class NotesForm : public WidgetForm,  // frmNOTwg
   void PaintRow(Surface& surface, const SideRow& row) override;
   void OnRowChosen(std::size_t row) override;
   void OnRowRenamed(std::size_t row, const std::wstring& text) override;
+  void OnRenameEnded() override;
 
   HWND PanelParent() const override { return handle(); }
   int PanelDpi() const override { return dpi(); }
@@ -114,6 +115,7 @@ class NotesForm : public WidgetForm,  // frmNOTwg
 
   NoteEditor::Events EditorEvents();
   std::wstring Folder() const;
+  void RememberDraftFolder();
   void StartNote(NoteType type);
   RtfDocument NoteToPrint();
   void OnEdited();
@@ -185,6 +187,7 @@ class NotesForm : public WidgetForm,  // frmNOTwg
   NoteDesk desk_;
   bool dropping_ = false;  // the user wants the changes to go with the form
   bool list_wanted_ = true;
+  bool refresh_due_ = false;                                   // once no row is being renamed
   bool ready_ = false;                                         // the first note is there
   std::array<std::unique_ptr<NotePanel>, kToolCount> panels_;  // by the tool that opens them
   FindPanel* pfrFIND_ = nullptr;                               // among the panels

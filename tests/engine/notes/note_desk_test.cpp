@@ -168,13 +168,34 @@ TEST_F(NotesOnTheDesk, ComeBackAfterAKill) {
   PlainContent other;
   NoteDesk next(disk, bin, clock, other, 0);
   next.Adopt(kFolder);
-  ASSERT_TRUE(next.Recover(kFolder));
+  ASSERT_TRUE(next.Recover({kFolder, L"", kFolder + L"\\"}));
   EXPECT_EQ(other.text, "kept and typed");
   EXPECT_TRUE(next.document().modified());
   EXPECT_EQ(next.document().title(), L"a");
+  EXPECT_EQ(next.notes().count(), 1u) << "once, however often its folder is named";
   next.DropChanges();
   EXPECT_EQ(On(L"a.txt"), "kept");
   EXPECT_TRUE(FindDrafts(disk, kFolder).empty());
+}
+
+TEST_F(NotesOnTheDesk, ComeBackFromWhereTheyWereBegun) {
+  const std::wstring elsewhere = L"C:\\Elsewhere";
+  disk.CreateFolder(elsewhere);
+  ASSERT_TRUE(desk.DocumentNew(NoteType::kTxt));
+  EXPECT_EQ(desk.draft_folder(), kFolder);
+  Type(std::string(kMostNoteBytes + 1, 'x'));
+  desk.Adopt(elsewhere);
+  EXPECT_EQ(desk.DocumentSaveFile(NoteType::kTxt, L""), FileResult::kFailed) << "too large";
+  desk.KeepDraft(now);
+  EXPECT_EQ(desk.draft_folder(), kFolder) << "another folder is looked at, the draft stays";
+  disk.Plant(elsewhere + L"\\.varnel\\here.txt.draft", "typed here");
+  PlainContent other;
+  NoteDesk next(disk, bin, clock, other, 0);
+  next.Adopt(elsewhere);
+  ASSERT_TRUE(next.Recover({elsewhere, kFolder}));
+  EXPECT_EQ(other.text, "typed here");
+  ASSERT_EQ(next.notes().count(), 1u) << "what lay elsewhere is a note now";
+  EXPECT_EQ(disk.Stamp(next.notes().Path(0)).size, kMostNoteBytes + 1);
 }
 
 TEST_F(NotesOnTheDesk, AreFoundByNameAndContent) {
