@@ -137,8 +137,7 @@ void NotesForm::OnUnload() {
   notice_timer_.Stop();
   search_timer_.Stop();
   watch_.Watch({});
-  // What another program closed unasked comes back with the next start, and so does what lies where
-  // nobody can look today.
+  // What was closed unasked, or lies where nobody can look today, comes back with the next start.
   const std::wstring elsewhere = services().settings.Read(kOpenNoteFolder);
   if (!desk_.document().modified() && services().files.FolderExists(elsewhere)) {
     services().settings.Write(kOpenNoteFolder, L"");
