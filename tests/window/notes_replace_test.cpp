@@ -5,6 +5,7 @@
 #include "tests/window/window_aid.h"
 #include "widgets/notes/editor/editor_note_win.h"
 #include "widgets/notes/find/find_text.h"
+#include "widgets/notes/panels/find_marks_win.h"
 #include "widgets/notes/rtf/rtf_reader.h"
 
 namespace varnel {
@@ -83,6 +84,33 @@ TEST_F(NotesReplace, NeitherFindsNorChecksWhatIsHidden) {
   ASSERT_TRUE(saved);
   EXPECT_EQ(ReadRtf(*saved).document.text, L"a pin, hidden needle, a pin");
   EXPECT_EQ(AllHits(note_.Units(), TextFinder(L"needle", 0)).size(), 0u);
+}
+
+TEST_F(NotesReplace, MarksTheHitsInSightWithoutTouchingTheText) {
+  editor_.Show(NoteType::kTxt, "needle one, needle two");
+  RichEdit& edit = editor_.edit();
+  edit.Select({0, 6});
+  const auto ground = [&](int position) {
+    ::InvalidateRect(edit.handle(), nullptr, TRUE);
+    ::UpdateWindow(edit.handle());
+    const Point at = edit.PointOf(position);
+    HDC dc = ::GetDC(edit.handle());
+    const COLORREF colour = ::GetPixel(dc, at.x, at.y + 1);
+    ::ReleaseDC(edit.handle(), dc);
+    return colour;
+  };
+  const COLORREF paper = ground(12);
+  const COLORREF selected = ground(0);
+  FindMarks marks(edit);
+  marks.Show(L"NEEDLE", 0);
+  const COLORREF marked = ground(12);
+  EXPECT_NE(marked, paper);
+  EXPECT_EQ(ground(12), marked) << "painted twice";
+  EXPECT_EQ(ground(0), selected);
+  EXPECT_EQ(ground(19), paper);
+  EXPECT_FALSE(edit.CanUndo());
+  marks.Show(L"NEEDLE", kFindMatchCase);
+  EXPECT_EQ(ground(12), paper);
 }
 
 }  // namespace
