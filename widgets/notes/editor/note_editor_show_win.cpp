@@ -56,7 +56,10 @@ bool NoteEditor::ShowSafe(const SafeRtf& safe, const RichEdit::GoOn& go_on) {
   NotePictures former = std::exchange(pictures_, {});
   const auto put = [&](const RichEdit::GoOn& ask) {
     edit_.SetDefaultFormat(base_);
-    if (!edit_.PutRtf(safe.rtf, RichEdit::Scope::kAll, ask) && ask) return;
+    {
+      const RichEdit::Unwrapped unwrapped(edit_);
+      if (!edit_.PutRtf(safe.rtf, RichEdit::Scope::kAll, ask) && ask) return;
+    }
     FinishRtf(safe, 0);
     edit_.Select({0, 0});
   };

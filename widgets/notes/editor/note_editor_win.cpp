@@ -145,6 +145,7 @@ void NoteEditor::ShowText(const std::wstring& text) {
                         .numbering = RichNumbering::kNone});
     edit_.SetFormat(base_, RichEdit::Scope::kAll);
     if (!text.empty()) {
+      const RichEdit::Unwrapped unwrapped(edit_);
       edit_.PutText(text);
       edit_.SetFormat(base_, RichEdit::Scope::kAll);
       edit_.Select({0, 0});
