@@ -86,6 +86,8 @@ class PreviewDialog : public Dialog, public SheetViewOwner {  // frmNOTpp
   void TakeMargin(int index);
   void OnText(int index);
   void InsertField();
+  // The pages follow the settings; what is left to lay out is laid out beside the user.
+  void SetUpPages();
   // The settings have changed: the pages and the controls follow, and they are kept.
   void Apply();
   std::optional<int> LengthIn(int id) const;

@@ -39,7 +39,11 @@ void PreviewDialog::Tick() {
     laid_out = true;
     if (::GetTickCount64() - start >= kSliceMs) break;
   }
-  if (laid_out) CountPages();
+  if (laid_out) {
+    CountPages();
+    // The last page may be another one than before.
+    if (pages_.count().settled) ShowPage();
+  }
   if (query_ && query_->done()) FillPapers();
   if (printing()) FeedPrinter();
   if (pages_.count().settled && !query_ && !printing()) ::KillTimer(handle(), kTick);

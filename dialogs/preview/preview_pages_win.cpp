@@ -8,6 +8,7 @@ namespace varnel {
 namespace {
 
 constexpr std::size_t kKeptPages = 24;
+constexpr int kAhead = 4;  // pages that may be seen beside the one that is looked at
 
 }  // namespace
 
@@ -17,31 +18,33 @@ void PreviewPages::Open(std::shared_ptr<PagedDocument> document, const PageSetup
   document_ = std::move(document);
   setup_ = setup;
   fields_ = std::move(fields);
-  LayOut();
+  LayOut(1);
 }
 
 void PreviewPages::Close() {
   Forget();
+  former_sheets_ = 0;
   source_.reset();
   document_.reset();
 }
 
-void PreviewPages::SetUp(const PageSetup& setup) {
+void PreviewPages::SetUp(const PageSetup& setup, int looked_at) {
   const PageSetup former = std::exchange(setup_, setup);
   if (former == setup) return;
   const bool anew = former.paper != setup.paper || ColumnOf(former) != ColumnOf(setup) ||
                     former.fitted != setup.fitted;
   if (anew) {
-    LayOut();
+    former_sheets_ = sheets();
+    LayOut(looked_at + 1 + kAhead);
   } else {
     Forget();
   }
 }
 
-void PreviewPages::LayOut() {
+void PreviewPages::LayOut(int pages) {
   Forget();
   source_ = document_ ? document_->Pages(setup_, measure_) : nullptr;
-  if (source_) source_->Settle(1);
+  if (source_) source_->Settle(static_cast<std::size_t>(pages));
 }
 
 void PreviewPages::Forget() {

@@ -1,6 +1,7 @@
 // The pages of the document that is looked at, as far as they are wanted.
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <list>
 #include <memory>
@@ -16,12 +17,16 @@ class PreviewPages {
   // `fields` are those of every page: only the numbers are filled in.
   void Open(std::shared_ptr<PagedDocument> document, const PageSetup& setup, PageFields fields);
   void Close();
-  // Lays the document out anew where that changes more than what stands in the margins.
-  void SetUp(const PageSetup& setup);
+  // Lays the document out anew where that changes more than what stands in the margins: at once as
+  // far as a little behind the page `looked_at`, the rest by GoOn.
+  void SetUp(const PageSetup& setup, int looked_at);
 
   const PageSetup& setup() const { return setup_; }
   PageCount count() const { return source_ ? source_->Count() : PageCount{}; }
   int pages() const { return static_cast<int>(count().pages); }
+  // How many sheets there are to show. While it is laid out anew, a document has at least as many
+  // as it had before; those that are not laid out yet are empty.
+  int sheets() const { return count().settled ? pages() : std::max(pages(), former_sheets_); }
   // Lays out so many more pages. True when there was one to lay out.
   bool GoOn(int more);
   // Lays out what is left.
@@ -33,7 +38,7 @@ class PreviewPages {
   int version() const { return version_; }
 
  private:
-  void LayOut();
+  void LayOut(int pages);
   void Forget();
 
   std::shared_ptr<PagedDocument> document_;
@@ -42,6 +47,7 @@ class PreviewPages {
   SystemPageMeasure measure_;
   std::unique_ptr<PageSource> source_;  // goes before the measure and the document
   std::list<std::pair<int, std::shared_ptr<const PaintedPage>>> kept_;  // the latest first
+  int former_sheets_ = 0;
   int version_ = 0;
 };
 

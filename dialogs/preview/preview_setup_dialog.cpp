@@ -175,7 +175,7 @@ void PreviewDialog::OnMargins(const PageMargins& margins, bool done) {
   if (printing()) return;
   settings_.margins = margins;
   filling_ = true;
-  pages_.SetUp(SetupOf(settings_));
+  SetUpPages();
   ShowMargins();
   filling_ = false;
   if (done) Apply();
@@ -207,15 +207,19 @@ void PreviewDialog::InsertField() {
   ::SetFocus(box);
 }
 
+void PreviewDialog::SetUpPages() {
+  pages_.SetUp(SetupOf(settings_), picSHEETS_->page());
+  StartTicking();
+}
+
 void PreviewDialog::Apply() {
   if (printing()) return;
-  pages_.SetUp(SetupOf(settings_));
+  SetUpPages();
   ShowSetup();
   CountPages();
   ShowZoom();
   ShowPage();
   WritePrintSettings(services_.settings, settings_);
-  StartTicking();
 }
 
 void PreviewDialog::OnSetup(int id, int code) {

@@ -73,16 +73,18 @@ void SheetView::Keep(int page, Size size, bool fine) {
   }
 }
 
-// A sheet as it is painted once and shown often; null where that would take too much.
+// A sheet as it is painted once and shown often; null where that would take too much, or while
+// there is nothing on it.
 const Surface* SheetView::Kept(int page, Size size) {
   if (static_cast<long long>(size.width) * size.height > kMostSheetPixels) return nullptr;
+  if (page >= pages_.pages()) return nullptr;
   if (const KeptSheet* sheet = FindKept(page, size)) return &sheet->surface;
   Keep(page, size, false);
   return &kept_.front().surface;
 }
 
 bool SheetView::PaintFinely(int page) {
-  if (page < 0 || page >= layout_.pages()) return false;
+  if (page < 0 || page >= std::min(layout_.pages(), pages_.pages())) return false;
   const Rect sheet = layout_.Sheet(page);
   const Size size{sheet.width(), sheet.height()};
   if (static_cast<long long>(size.width) * size.height > kMostSheetPixels) return false;

@@ -63,7 +63,7 @@ void SheetView::LayOut() {
   SheetRoom room;
   const Rect view = View();
   room.paper = pages_.setup().paper;
-  room.pages = pages_.pages();
+  room.pages = pages_.sheets();
   room.view = {view.width(), view.height()};
   room.dpi = dpi();
   room.zoom = zoom_;
@@ -122,7 +122,7 @@ void SheetView::Refresh() {
 }
 
 void SheetView::GoTo(int page) {
-  page = std::clamp(page, 0, std::max(pages_.pages() - 1, 0));
+  page = std::clamp(page, 0, std::max(pages_.sheets() - 1, 0));
   const bool other = page != page_;
   page_ = page;
   asked_for_ = true;
@@ -311,7 +311,7 @@ bool SheetView::TakeKey(WPARAM key) {
       thumbs ? owner_.OnPage(std::max(page_ - 1, 0)) : ScrollBy(0, -line);
       return true;
     case VK_DOWN:
-      thumbs ? owner_.OnPage(std::min(page_ + 1, pages_.pages() - 1)) : ScrollBy(0, line);
+      thumbs ? owner_.OnPage(std::min(page_ + 1, pages_.sheets() - 1)) : ScrollBy(0, line);
       return true;
     case VK_LEFT:
       ScrollBy(-line, 0);

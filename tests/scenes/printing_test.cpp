@@ -266,7 +266,15 @@ TEST_F(Printing, WithoutAPrinterThePreviewWorksAndSaysSo) {
 
 TEST_F(Printing, MarginsAreDraggedAndTypedAndLeaveAColumn) {
   root().settings().SetText(kDetails, L"Margin-Left", L"nonsense");
-  OpenNote(8);
+  WithoutTexts();
+  OpenNote(42);
+  ASSERT_TRUE(ClickOn(Control(preview_, cmdLASTPAGE)));
+  const std::wstring looked_at = NumberText(PageCount());
+  ASSERT_SOON(Page() == looked_at);
+  // What follows makes more pages, never less.
+  const auto stays = [&] {
+    return Page() == looked_at && !LinesOf(Text(Control(preview_, picSHEETS))).empty();
+  };
   HWND left = Control(preview_, txtMARGIN);
   const std::wstring before = Text(left);
   EXPECT_EQ(before, Text(Control(preview_, txtMARGIN + 2)));
@@ -281,16 +289,21 @@ TEST_F(Printing, MarginsAreDraggedAndTypedAndLeaveAColumn) {
   }());
   Drag({sheets.left + at + 1, sheets.top + 10}, {sheets.left + at + 41, sheets.top + 10});
   EXPECT_SOON(Text(left) != before);
-  EXPECT_NE(root().settings().Text(kDetails, L"Margin-Left"), L"nonsense");
+  EXPECT_SOON(root().settings().Text(kDetails, L"Margin-Left") != L"nonsense");
+  EXPECT_TRUE(stays()) << "the page that is looked at while it is dragged";
   ASSERT_TRUE(ClickOn(left));
   Chord({VK_CONTROL, 'A'});
   SetText(left, L"40 cm");
   PressKey(VK_RETURN);
   // A page of 8.5 inches or 210 mm keeps 20 mm beside the other margin.
   EXPECT_SOON(Text(left) == L"6.96 in" || Text(left) == L"170 mm");
+  EXPECT_TRUE(stays());
   SetText(left, L"wide");
   PressKey(VK_RETURN);
   EXPECT_SOON(Text(left) == L"6.96 in" || Text(left) == L"170 mm");
+  SetText(Control(preview_, txtTEXTS), L"Head");
+  EXPECT_SOON(Text(Control(preview_, picSHEETS)).find(L"Head") != std::wstring::npos);
+  EXPECT_TRUE(stays());
 }
 
 TEST_F(Printing, PaperOfAnOwnSizeIsTyped) {
