@@ -183,7 +183,10 @@ void PreviewDialog::OnMargins(const PageMargins& margins, bool done) {
 
 void PreviewDialog::OnText(int index) {
   TextAt(settings_.texts, index) = ControlText(txtTEXTS + index);
-  Apply();
+  // At each key: nothing else on the window changes, and all settings are kept when it closes.
+  SetUpPages();
+  CountPages();
+  ShowPage();
 }
 
 void PreviewDialog::InsertField() {
