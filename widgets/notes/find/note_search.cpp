@@ -22,6 +22,8 @@ void NoteSearch::Start(std::wstring_view query, const DocumentFolder& notes) {
     if (end > at) words_.push_back(FoldCase(query.substr(at, end - at)));
     at = end + 1;
   }
+  // A note is gone; its text needs no room any more.
+  if (texts_.size() > notes.count()) ForgetTexts();
   next_ = words_.empty() ? notes.count() : 0;
 }
 
@@ -40,15 +42,18 @@ bool NoteSearch::Step(const DocumentFolder& notes) {
   return !done(notes);
 }
 
+void NoteSearch::ForgetTexts() {
+  texts_.clear();
+  kept_units_ = 0;
+}
+
 const std::wstring& NoteSearch::TextOf(const DocumentFolder& notes, std::size_t row) {
   const std::wstring path = notes.Path(row);
   const FileStamp& stamp = notes.Stamp(row);
   Text& text = texts_[path];
   if (text.stamp == stamp) return text.folded;
-  if (kept_units_ > kMostKeptUnits) {
-    texts_.clear();
-    kept_units_ = 0;
-  }
+  kept_units_ -= text.folded.size();
+  if (kept_units_ > kMostKeptUnits) ForgetTexts();
   Text& kept = texts_[path];
   kept = {stamp, {}};
   if (const FileRead read = files_.Read(path, kMostSearched)) {

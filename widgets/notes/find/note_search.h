@@ -36,6 +36,7 @@ class NoteSearch {
     FileStamp stamp;
     std::wstring folded;
   };
+  void ForgetTexts();
   const std::wstring& TextOf(const DocumentFolder& notes, std::size_t row);
 
   const FileStore& files_;
