@@ -252,8 +252,13 @@ void NoteEditor::SetLostFormats(const RtfDocument& document, int begin) {
 void NoteEditor::PlacePictures(const SafeRtf& safe, int begin) {
   int from = begin;
   for (const RtfPicture& picture : safe.document.pictures) {
-    const std::wstring rest = edit_.Units({from, edit_.Length()});
-    const std::size_t found = rest.find(safe.placeholder);
+    // It stands where the document has it; behind that only where the control reads the text
+    // otherwise, and to look there costs a copy of all of it.
+    const int expected = begin + static_cast<int>(picture.at);
+    std::size_t found = edit_.Units({from, expected + 1}).find(safe.placeholder);
+    if (found == std::wstring::npos) {
+      found = edit_.Units({from, edit_.Length()}).find(safe.placeholder);
+    }
     if (found == std::wstring::npos) return;
     const int at = from + static_cast<int>(found);
     const PictureLook look = LookOf(picture, PageWidth());
