@@ -96,6 +96,8 @@ class PreviewDialog : public Dialog, public SheetViewOwner {  // frmNOTpp
   // --- printing
   void Print();
   bool PreparePrinter(PrinterChoice& printer) const;
+  // Among the papers that are offered, or those of any printer; null when it is neither.
+  const Paper* KnownPaper(int number) const;
   void TakePrinter(const PrinterChoice& printer);
   void StartPrinting(const PrintWish& wish);
   void FeedPrinter();

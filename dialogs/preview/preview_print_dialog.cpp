@@ -4,6 +4,7 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <span>
 
 #include "base/number_text.h"
 #include "dialogs/preview/preview_dialog.h"
@@ -60,6 +61,14 @@ bool PreviewDialog::PreparePrinter(PrinterChoice& printer) const {
                   {settings_.paper, settings_.size, settings_.landscape, settings_.colour});
 }
 
+const Paper* PreviewDialog::KnownPaper(int number) const {
+  for (const std::span<const Paper> papers : {std::span<const Paper>(papers_), StandardPapers()}) {
+    const auto known = std::ranges::find(papers, number, &Paper::number);
+    if (known != papers.end()) return &*known;
+  }
+  return nullptr;
+}
+
 // What the user chose among the printer's own settings is shown too, and printed as it is shown.
 void PreviewDialog::TakePrinter(const PrinterChoice& printer) {
   const bool other = printer.name != printer_;
@@ -67,8 +76,7 @@ void PreviewDialog::TakePrinter(const PrinterChoice& printer) {
   const PrintedPaper now{settings_.paper, settings_.size, settings_.landscape, settings_.colour};
   const PrintedPaper chosen = PaperOf(printer, now);
   if (chosen.number != now.number) {
-    const auto known = std::ranges::find(papers_, chosen.number, &Paper::number);
-    if (known != papers_.end()) {
+    if (const Paper* known = KnownPaper(chosen.number)) {
       settings_.paper = chosen.number;
       settings_.size = known->size;
     }
@@ -83,6 +91,9 @@ void PreviewDialog::TakePrinter(const PrinterChoice& printer) {
   settings_.colour = chosen.colour;
   if (other) AskForPapers();
   Apply();
+  // The paper may be one that only the new printer knows, and the printer's own window has a number
+  // of copies too.
+  PreparePrinter(desk_.printer);
 }
 
 void PreviewDialog::Print() {
