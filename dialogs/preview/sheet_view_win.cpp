@@ -327,6 +327,10 @@ bool SheetView::TakeKey(WPARAM key) {
 LRESULT SheetView::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
   const Point at{GET_X_LPARAM(lparam), GET_Y_LPARAM(lparam)};
   switch (message) {
+    case WM_NCCALCSIZE:
+    case WM_NCPAINT:
+      // Its frame is the scroll bars.
+      return ::DefWindowProcW(handle(), message, wparam, lparam);
     case WM_SIZE:
       LayOut();
       scroll_ = asked_for_ ? layout_.ScrollTo(page_, scroll_) : layout_.Bounded(scroll_);

@@ -236,7 +236,12 @@ TEST_F(Printing, WithoutAPrinterThePreviewWorksAndSaysSo) {
   ASSERT_TRUE(message);
   EXPECT_NE(DialogText(message).find(L"There is no printer on this computer"), std::wstring::npos);
   EXPECT_TRUE(CloseDialog(message, IDOK));
-  ASSERT_TRUE(ClickOn(Control(preview_, picSHEETS)));
+  HWND sheets = Control(preview_, picSHEETS);
+  RECT client = {};
+  ASSERT_TRUE(::GetClientRect(sheets, &client));
+  EXPECT_LT(client.right, RectOf(sheets).width()) << "no scroll bar";
+  EXPECT_LT(client.bottom, RectOf(sheets).height()) << "no scroll bar";
+  ASSERT_TRUE(ClickOn(sheets));
   PressKey(VK_END);
   EXPECT_SOON_EQ(Page(), NumberText(PageCount()));
   PressKey(VK_HOME);
