@@ -27,9 +27,7 @@ FileResult SystemRecycleBin::Recycle(const std::wstring& path) {
   SHFILEOPSTRUCTW operation = {};
   operation.wFunc = FO_DELETE;
   operation.pFrom = list.c_str();
-  // Where there is no bin, or it is too small, the system asks before the file is gone for good.
-  operation.fFlags =
-      FOF_ALLOWUNDO | FOF_NOCONFIRMATION | FOF_WANTNUKEWARNING | FOF_NOERRORUI | FOF_SILENT;
+  operation.fFlags = FOF_ALLOWUNDO | FOF_NOCONFIRMATION | FOF_NOERRORUI | FOF_SILENT;
   const bool done = ::SHFileOperationW(&operation) == 0 && !operation.fAnyOperationsAborted;
   if (::GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES) return FileResult::kDone;
   return done ? FileResult::kFailed : FaultOf(path);
